@@ -1,0 +1,13 @@
+#pragma once
+
+// What the geometry library takes from the platform, so that its code reads the names unqualified.
+#include "platform/CPoint.h"
+#include "platform/CRect.h"
+#include "platform/CSize.h"
+
+namespace Kesto2D {
+using Platform::CPoint;
+using Platform::CRect;
+using Platform::CSize;
+using Platform::SIZE;
+} // namespace Kesto2D

@@ -1,0 +1,21 @@
+#pragma once
+
+// The one set of rounding rules that every part of the system uses. Code never writes an ad-hoc
+// int(x + 0.5): it names the rule it means.
+namespace Kesto2D {
+
+// Truncates toward zero into the int range: NaN gives 0, values past either end saturate.
+int ClampToInt(double x);
+
+// floor(x + 0.5): halves go up, also for negative x (-2.5 gives -2).
+int RoundHalfUp(double x);
+
+// Halves go away from zero (-2.5 gives -3). The rule for turning double points into integer points.
+int RoundHalfAwayFromZero(double x);
+
+// number * numerator / denominator with a 64-bit product and the quotient rounded half away
+// from zero. As on the classic platform it answers -1 when the denominator is zero or the
+// result does not fit in an int.
+int MulDiv(int number, int numerator, int denominator);
+
+} // namespace Kesto2D

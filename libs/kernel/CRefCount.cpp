@@ -1,0 +1,19 @@
+#include "kernel/CRefCount.h"
+
+#include "kernel/VerifyReporter.h"
+
+namespace Kernel {
+
+int CRefCount::Release() const
+{
+    if (m_refs <= 0) {
+        VerifyFailed("KestoKernel", "CRefCount", __LINE__);
+        return 0;
+    }
+    const int left = --m_refs;
+    if (left == 0)
+        delete this;
+    return left;
+}
+
+} // namespace Kernel

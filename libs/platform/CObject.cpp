@@ -1,0 +1,16 @@
+#include "platform/CObject.h"
+
+namespace Platform {
+
+const CRuntimeClass* CObject::GetThisClass()
+{
+    static const CRuntimeClass record{"CObject", sizeof(CObject), nullptr, nullptr};
+    return &record;
+}
+
+const CRuntimeClass* CObject::GetRuntimeClass() const
+{
+    return GetThisClass();
+}
+
+} // namespace Platform

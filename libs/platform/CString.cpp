@@ -1,0 +1,88 @@
+#include "platform/CString.h"
+
+#include <cstdarg>
+#include <cwchar>
+#include <cwctype>
+#include <vector>
+
+namespace Platform {
+namespace {
+
+// Wide format strings here follow the classic platform: %s and %c take wide arguments and %S a
+// narrow string. The C library reads them the other way round, so translate each conversion.
+std::wstring ToCLibraryFormat(const wchar_t* format)
+{
+    std::wstring out;
+    for (const wchar_t* p = format; *p; ++p) {
+        out += *p;
+        if (*p != L'%')
+            continue;
+        if (p[1] == L'%') {
+            out += *++p;
+            continue;
+        }
+        // Copy flags, width, precision and length up to the conversion letter.
+        bool sized = false;
+        while (p[1] && std::wcschr(L"-+ #0123456789.*hlLqjzt", p[1])) {
+            sized = sized || std::wcschr(L"hlLqjzt", p[1]) != nullptr;
+            out += *++p;
+        }
+        if (!p[1])
+            break;
+        const wchar_t conversion = *++p;
+        if (!sized && (conversion == L's' || conversion == L'c'))
+            out += L'l';
+        out += conversion == L'S' ? L's' : conversion == L'C' ? L'c' : conversion;
+    }
+    return out;
+}
+
+} // namespace
+
+void CString::Format(const wchar_t* format, ...)
+{
+    const std::wstring cFormat = ToCLibraryFormat(format);
+    // vswprintf reports only failure, not the length it needed, so grow until it fits.
+    std::vector<wchar_t> buffer(256);
+    for (;;) {
+        va_list args;
+        va_start(args, format);
+        const int written = std::vswprintf(buffer.data(), buffer.size(), cFormat.c_str(), args);
+        va_end(args);
+        if (written >= 0) {
+            m_text.assign(buffer.data(), static_cast<std::size_t>(written));
+            return;
+        }
+        if (buffer.size() >= (1u << 24)) {
+            m_text.clear();
+            return;
+        }
+        buffer.resize(buffer.size() * 4);
+    }
+}
+
+CString& CString::TrimLeft()
+{
+    std::size_t i = 0;
+    while (i < m_text.size() && std::iswspace(static_cast<wint_t>(m_text[i])))
+        ++i;
+    m_text.erase(0, i);
+    return *this;
+}
+
+CString& CString::TrimRight()
+{
+    std::size_t n = m_text.size();
+    while (n > 0 && std::iswspace(static_cast<wint_t>(m_text[n - 1])))
+        --n;
+    m_text.resize(n);
+    return *this;
+}
+
+int CString::FindOneOf(const wchar_t* characters) const
+{
+    const auto at = m_text.find_first_of(characters);
+    return at == std::wstring::npos ? -1 : static_cast<int>(at);
+}
+
+} // namespace Platform

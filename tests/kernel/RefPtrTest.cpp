@@ -1,0 +1,91 @@
+#include "kernel/CRefCount.h"
+#include "kernel/RefPtr.h"
+#include "kernel/VerifyReporter.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class Counted : public Kernel::CRefCount {
+public:
+    explicit Counted(int* deaths, int value = 0) : m_deaths(deaths), m_value(value) {}
+    ~Counted() override { ++*m_deaths; }
+    std::size_t Measure() const override { return sizeof(*this); }
+private:
+    int* m_deaths;
+
+public:
+    int m_value;
+};
+
+class Derived : public Counted {
+public:
+    using Counted::Counted;
+};
+
+} // namespace
+
+TEST(RefPtr, LastReleaseDeletesTheObject)
+{
+    int deaths = 0;
+    {
+        Kernel::RefPtr<Counted> a(new Counted(&deaths));
+        EXPECT_EQ(a->GetRefCount(), 1);
+        {
+            Kernel::RefPtr<Counted> b = a;
+            EXPECT_EQ(a->GetRefCount(), 2);
+        }
+        EXPECT_EQ(a->GetRefCount(), 1);
+        EXPECT_EQ(deaths, 0);
+    }
+    EXPECT_EQ(deaths, 1);
+}
+
+TEST(RefPtr, CopyingAnObjectDoesNotCopyItsCount)
+{
+    int deaths = 0;
+    auto original = Kernel::MakeRef<Counted>(&deaths, 7);
+    Kernel::RefPtr<Counted> extra = original;
+    Kernel::RefPtr<Counted> copy(new Counted(*original));
+    EXPECT_EQ(copy->GetRefCount(), 1);
+    EXPECT_EQ(copy->m_value, 7);
+    copy.reset();
+    EXPECT_EQ(deaths, 1);
+    EXPECT_EQ(original->GetRefCount(), 2);
+}
+
+TEST(RefPtr, MoveAndDetachTransferTheReference)
+{
+    int deaths = 0;
+    auto a = Kernel::MakeRef<Counted>(&deaths);
+    Kernel::RefPtr<Counted> b = std::move(a);
+    EXPECT_FALSE(a);
+    EXPECT_EQ(b->GetRefCount(), 1);
+    Counted* raw = b.Detach();
+    EXPECT_FALSE(b);
+    EXPECT_EQ(raw->GetRefCount(), 1);
+    EXPECT_EQ(raw->Release(), 0);
+    EXPECT_EQ(deaths, 1);
+}
+
+TEST(RefPtr, DynamicCastSharesOnlyMatchingObjects)
+{
+    int deaths = 0;
+    Kernel::RefPtr<Counted> plain = Kernel::MakeRef<Counted>(&deaths);
+    Kernel::RefPtr<Counted> derived = Kernel::MakeRef<Derived>(&deaths);
+    EXPECT_FALSE(Kernel::DynamicRefCast<Derived>(plain));
+    auto asDerived = Kernel::DynamicRefCast<Derived>(derived);
+    ASSERT_TRUE(asDerived);
+    EXPECT_EQ(derived->GetRefCount(), 2);
+}
+
+TEST(RefPtr, ReleasingAnUnownedObjectIsReportedNotFreed)
+{
+    int reports = 0;
+    Kernel::ScopedVerifyHandler handler([&](const Kernel::VerifyReport&) { ++reports; });
+    int deaths = 0;
+    Counted stackObject(&deaths);
+    EXPECT_EQ(stackObject.Release(), 0);
+    EXPECT_EQ(reports, 1);
+    EXPECT_EQ(deaths, 0);
+}

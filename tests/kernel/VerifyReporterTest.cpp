@@ -1,0 +1,41 @@
+#include "kernel/VerifyReporter.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+TEST(VerifyReporter, HandlerReceivesMessageModuleFileAndLine)
+{
+    std::vector<Kernel::VerifyReport> reports;
+    {
+        Kernel::ScopedVerifyHandler handler([&](const Kernel::VerifyReport& r) { reports.push_back(r); });
+        Kernel::VerifyFailed("KestoTool", "FillToolRadial", 443);
+    }
+    ASSERT_EQ(reports.size(), 1u);
+    EXPECT_EQ(reports[0].message, "Verify failed");
+    EXPECT_EQ(reports[0].module, "KestoTool");
+    EXPECT_EQ(reports[0].file, "FillToolRadial");
+    EXPECT_EQ(reports[0].line, 443);
+    EXPECT_EQ(Kernel::FormatVerifyReport(reports[0]), "KestoTool (FillToolRadial:443)\nVerify failed");
+}
+
+TEST(VerifyReporter, ScopedHandlerRestoresThePreviousOne)
+{
+    int outer = 0;
+    int inner = 0;
+    Kernel::ScopedVerifyHandler a([&](const Kernel::VerifyReport&) { ++outer; });
+    {
+        Kernel::ScopedVerifyHandler b([&](const Kernel::VerifyReport&) { ++inner; });
+        Kernel::VerifyFailed("m", "f", 1);
+    }
+    Kernel::VerifyFailed("m", "f", 2);
+    EXPECT_EQ(inner, 1);
+    EXPECT_EQ(outer, 1);
+}
+
+TEST(VerifyReporter, DefaultHandlerWritesOneLineToStderr)
+{
+    testing::internal::CaptureStderr();
+    Kernel::VerifyFailed("KestoGDI", "CFill", 12);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "KestoGDI (CFill:12) Verify failed\n");
+}

@@ -1,0 +1,44 @@
+#include "platform/CString.h"
+
+#include <gtest/gtest.h>
+
+using Platform::CString;
+
+TEST(CString, FormatWithWideArguments)
+{
+    CString s;
+    s.Format(L"%s%d%%", L"+", 70);
+    EXPECT_EQ(s, CString(L"+70%"));
+}
+
+TEST(CString, FormatGrowsPastItsFirstBuffer)
+{
+    const std::wstring longText(5000, L'x');
+    CString s;
+    s.Format(L"[%s]", longText.c_str());
+    EXPECT_EQ(s.GetLength(), 5002);
+    EXPECT_EQ(s[1], L'x');
+}
+
+TEST(CString, FormatReadsPercentSAsWideAndPercentCapitalSAsNarrow)
+{
+    CString s;
+    s.Format(L"%s|%S|%c|%5.1f|%%", L"wide", "narrow", L'w', 2.25);
+    EXPECT_EQ(s, CString(L"wide|narrow|w|  2.2|%"));
+}
+
+TEST(CString, TrimRemovesWhitespaceOnBothEnds)
+{
+    CString s(L" \t 42 \n");
+    s.Trim();
+    EXPECT_EQ(s, CString(L"42"));
+    CString blank(L"   ");
+    EXPECT_TRUE(blank.Trim().IsEmpty());
+}
+
+TEST(CString, FindOneOf)
+{
+    EXPECT_EQ(CString(L"abc7").FindOneOf(L"0123456789"), 3);
+    EXPECT_EQ(CString(L"abc").FindOneOf(L"0123456789"), -1);
+    EXPECT_TRUE(CString(static_cast<const wchar_t*>(nullptr)).IsEmpty());
+}
