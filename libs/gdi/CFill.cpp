@@ -1,0 +1,143 @@
+#include "gdi/CFill.h"
+
+#include "gdi/CFillBitmap.h"
+#include "gdi/CFillConical.h"
+#include "gdi/CFillDiscreteMesh.h"
+#include "gdi/CFillEllipse.h"
+#include "gdi/CFillFourColour.h"
+#include "gdi/CFillFractal.h"
+#include "gdi/CFillLinear.h"
+#include "gdi/CFillNone.h"
+#include "gdi/CFillRadial.h"
+#include "gdi/CFillSolid.h"
+#include "gdi/CFillSquare.h"
+#include "gdi/CFillThreeColour.h"
+#include "gdi/CFillVector.h"
+#include "kernel/VerifyReporter.h"
+
+#include <algorithm>
+#include <memory>
+#include <typeinfo>
+
+namespace KestoGDI {
+
+KESTO_IMPLEMENT_DYNAMIC(CFill, Platform::CObject)
+
+const CRuntimeClass* CFill::GetRuntimeClassFromType(int type)
+{
+    switch (type) {
+    case FillType::None: return CFillNone::GetThisClass();
+    case FillType::Solid: return CFillSolid::GetThisClass();
+    case FillType::Linear: return CFillLinear::GetThisClass();
+    case FillType::Radial: return CFillRadial::GetThisClass();
+    case FillType::ThreeColour: return CFillThreeColour::GetThisClass();
+    case FillType::FourColour: return CFillFourColour::GetThisClass();
+    case FillType::Plasma: return CFillFractal::GetThisClass();
+    case FillType::Square: return CFillSquare::GetThisClass();
+    case FillType::Elliptical: return CFillEllipse::GetThisClass();
+    case FillType::Conical: return CFillConical::GetThisClass();
+    case FillType::Bitmap: return CFillBitmap::GetThisClass();
+    case FillType::DiscreteMesh: return CFillDiscreteMesh::GetThisClass();
+    case FillType::Vector: return CFillVector::GetThisClass();
+    default: return nullptr;
+    }
+}
+
+RefPtr<CFill> CFill::CreateFromClass(const CRuntimeClass* runtimeClass)
+{
+    if (!runtimeClass)
+        return {};
+    std::unique_ptr<Platform::CObject> object(runtimeClass->CreateObject());
+    auto* fill = dynamic_cast<CFill*>(object.get());
+    if (!fill)
+        return {};
+    object.release();
+    return RefPtr<CFill>(fill);
+}
+
+bool CFill::IsNone() const
+{
+    return dynamic_cast<const CFillNone*>(this) != nullptr;
+}
+
+bool CFill::IsSolid() const
+{
+    return dynamic_cast<const CFillSolid*>(this) != nullptr;
+}
+
+K2DDblPoint CFill::GetControlPoint(int index) const
+{
+    const auto points = ControlPoints();
+    if (index < 0 || index >= static_cast<int>(points.size())) {
+        Kernel::VerifyFailed("KestoGDI", "CFill", __LINE__);
+        return {};
+    }
+    return points[static_cast<std::size_t>(index)];
+}
+
+void CFill::GetControls(K2DArrayPoint* out) const
+{
+    if (!out) {
+        Kernel::VerifyFailed("KestoGDI", "CFill", __LINE__);
+        return;
+    }
+    for (const K2DDblPoint& p : ControlPoints())
+        out->Add(p.Round());
+}
+
+bool CFill::SetControls(const K2DArrayPoint& points)
+{
+    const auto mine = ControlPoints();
+    if (points.GetSize() != static_cast<int>(mine.size()))
+        return false;
+    std::transform(points.begin(), points.end(), mine.begin(), [](const CPoint& p) { return K2DDblPoint(p); });
+    return true;
+}
+
+bool CFill::SetControls(const CFill* other)
+{
+    if (!other)
+        return false;
+    const auto theirs = other->ControlPoints();
+    const auto mine = ControlPoints();
+    if (theirs.size() != mine.size())
+        return false;
+    std::copy(theirs.begin(), theirs.end(), mine.begin());
+    return true;
+}
+
+void CFill::SetDefaultControls(const CRect&)
+{
+    // A kind without control points has nothing to place.
+}
+
+void CFill::Transform(const K2DLtGeneral& t)
+{
+    for (K2DDblPoint& p : ControlPoints())
+        p = t.ApplyTo(p);
+}
+
+bool CFill::IsEqual(const CFill& other) const
+{
+    return typeid(*this) == typeid(other) && IsEqualData(other);
+}
+
+bool CFill::IsEqualData(const CFill& other) const
+{
+    const auto a = ControlPoints();
+    const auto b = other.ControlPoints();
+    return m_alpha == other.m_alpha && m_blendMode == other.m_blendMode && m_overprint == other.m_overprint &&
+           std::equal(a.begin(), a.end(), b.begin(), b.end());
+}
+
+void CFill::SetAlpha(int alpha)
+{
+    m_alpha = std::clamp(alpha, 0, 255);
+}
+
+std::size_t CFill::Measure() const
+{
+    return GetRuntimeClass()->m_nObjectSize + HeapBytes();
+}
+
+} // namespace KestoGDI

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "gdi/CFillGradient.h"
+#include "gdi/FillWithControls.h"
+
+namespace KestoGDI {
+
+// Colour blended between four corner colours. Control points: 0 a corner P0, 1 and 2 its two
+// neighbours P1 and P2, 3 the corner P3 opposite P0. The stop list holds exactly four entries,
+// the colours at P0, P1, P2 and P3.
+class CFillFourColour : public FillWithControls<CFillGradient, 4> {
+    KESTO_DECLARE_FILL(CFillFourColour)
+public:
+    CFillFourColour();
+
+    FillType::Type GetFillType() const override { return FillType::FourColour; }
+    const wchar_t* GetTypeAsString() const override { return L"Four Colour"; }
+
+    void SetControls(const K2DDblPoint& p0, const K2DDblPoint& p1, const K2DDblPoint& p2, const K2DDblPoint& p3)
+    {
+        SetPoints({p0, p1, p2, p3});
+    }
+    using CFill::SetControls;
+    // P0 top-left, P1 top-right, P2 bottom-left, P3 bottom-right.
+    void SetDefaultControls(const CRect& rect) override;
+};
+
+} // namespace KestoGDI

@@ -1,0 +1,7 @@
+#include "gdi/CFillGradient.h"
+
+namespace KestoGDI {
+
+KESTO_IMPLEMENT_DYNAMIC(CFillGradient, CFillWithStops)
+
+} // namespace KestoGDI

@@ -1,0 +1,7 @@
+#include "gdi/CFillNone.h"
+
+namespace KestoGDI {
+
+KESTO_IMPLEMENT_FILL(CFillNone, CFill)
+
+} // namespace KestoGDI

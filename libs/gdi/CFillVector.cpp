@@ -1,0 +1,7 @@
+#include "gdi/CFillVector.h"
+
+namespace KestoGDI {
+
+KESTO_IMPLEMENT_FILL(CFillVector, CFillBitmap)
+
+} // namespace KestoGDI

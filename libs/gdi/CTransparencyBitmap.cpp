@@ -1,0 +1,7 @@
+#include "gdi/CTransparencyBitmap.h"
+
+namespace KestoGDI {
+
+KESTO_IMPLEMENT_FILL(CTransparencyBitmap, CFillBitmap)
+
+} // namespace KestoGDI

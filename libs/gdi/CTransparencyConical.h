@@ -1,0 +1,15 @@
+#pragma once
+
+#include "gdi/CFillConical.h"
+
+namespace KestoGDI {
+
+// Transparency swept round a centre; its stops are grey levels, 0 opaque to 255 clear.
+class CTransparencyConical : public CFillConical {
+    KESTO_DECLARE_FILL(CTransparencyConical)
+public:
+    CTransparencyConical();
+    bool IsTransparency() const override { return true; }
+};
+
+} // namespace KestoGDI

@@ -1,0 +1,12 @@
+#include "gdi/CTransparencyEllipse.h"
+
+namespace KestoGDI {
+
+KESTO_IMPLEMENT_FILL(CTransparencyEllipse, CFillEllipse)
+
+CTransparencyEllipse::CTransparencyEllipse()
+{
+    SetColourIntPairs(DefaultStops(2, true));
+}
+
+} // namespace KestoGDI

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "gdi/CFillEllipse.h"
+
+namespace KestoGDI {
+
+// Transparency graded out over an ellipse; its stops are grey levels, 0 opaque to 255 clear.
+class CTransparencyEllipse : public CFillEllipse {
+    KESTO_DECLARE_FILL(CTransparencyEllipse)
+public:
+    CTransparencyEllipse();
+    bool IsTransparency() const override { return true; }
+};
+
+} // namespace KestoGDI

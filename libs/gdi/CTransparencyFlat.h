@@ -1,0 +1,18 @@
+#pragma once
+
+#include "gdi/CFillSolid.h"
+
+namespace KestoGDI {
+
+// One transparency level over the whole object: its colour is a grey level, 0 opaque to 255
+// clear.
+class CTransparencyFlat : public CFillSolid {
+    KESTO_DECLARE_FILL(CTransparencyFlat)
+public:
+    // Half transparent (level 128).
+    CTransparencyFlat();
+    bool IsTransparency() const override { return true; }
+    const wchar_t* GetTypeAsString() const override { return L"Flat"; }
+};
+
+} // namespace KestoGDI

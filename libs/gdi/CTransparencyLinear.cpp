@@ -1,0 +1,12 @@
+#include "gdi/CTransparencyLinear.h"
+
+namespace KestoGDI {
+
+KESTO_IMPLEMENT_FILL(CTransparencyLinear, CFillLinear)
+
+CTransparencyLinear::CTransparencyLinear()
+{
+    SetColourIntPairs(DefaultStops(2, true));
+}
+
+} // namespace KestoGDI

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "gdi/CFillLinear.h"
+
+namespace KestoGDI {
+
+// Transparency graded along a line; its stops are grey levels, 0 opaque to 255 clear.
+class CTransparencyLinear : public CFillLinear {
+    KESTO_DECLARE_FILL(CTransparencyLinear)
+public:
+    CTransparencyLinear();
+    bool IsTransparency() const override { return true; }
+};
+
+} // namespace KestoGDI

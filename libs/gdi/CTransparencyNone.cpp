@@ -1,0 +1,7 @@
+#include "gdi/CTransparencyNone.h"
+
+namespace KestoGDI {
+
+KESTO_IMPLEMENT_FILL(CTransparencyNone, CFillNone)
+
+} // namespace KestoGDI

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "gdi/CFillRadial.h"
+
+namespace KestoGDI {
+
+// Transparency graded out from a centre; its stops are grey levels, 0 opaque to 255 clear.
+class CTransparencyRadial : public CFillRadial {
+    KESTO_DECLARE_FILL(CTransparencyRadial)
+public:
+    CTransparencyRadial();
+    bool IsTransparency() const override { return true; }
+};
+
+} // namespace KestoGDI

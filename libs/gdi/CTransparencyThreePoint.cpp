@@ -1,0 +1,12 @@
+#include "gdi/CTransparencyThreePoint.h"
+
+namespace KestoGDI {
+
+KESTO_IMPLEMENT_FILL(CTransparencyThreePoint, CFillThreeColour)
+
+CTransparencyThreePoint::CTransparencyThreePoint()
+{
+    SetColourIntPairs(DefaultStops(3, true));
+}
+
+} // namespace KestoGDI

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "gdi/CFillThreeColour.h"
+
+namespace KestoGDI {
+
+// Transparency blended between three corner levels (grey levels, 0 opaque to 255 clear).
+class CTransparencyThreePoint : public CFillThreeColour {
+    KESTO_DECLARE_FILL(CTransparencyThreePoint)
+public:
+    CTransparencyThreePoint();
+    bool IsTransparency() const override { return true; }
+    const wchar_t* GetTypeAsString() const override { return L"Three Point"; }
+};
+
+} // namespace KestoGDI

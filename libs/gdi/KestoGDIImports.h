@@ -1,0 +1,22 @@
+#pragma once
+
+// What the fill model takes from the layers below it, so that its code reads the names unqualified.
+#include "geometry/K2DArrayPoint.h"
+#include "geometry/K2DDblPoint.h"
+#include "geometry/K2DLtGeneral.h"
+#include "kernel/RefPtr.h"
+#include "platform/CObject.h"
+#include "platform/CRect.h"
+#include "platform/ColourRef.h"
+
+namespace KestoGDI {
+using Kernel::RefPtr;
+using Kesto2D::K2DArrayPoint;
+using Kesto2D::K2DDblPoint;
+using Kesto2D::K2DLtGeneral;
+using Kesto2D::K2DVector;
+using Platform::COLORREF;
+using Platform::CPoint;
+using Platform::CRect;
+using Platform::CRuntimeClass;
+} // namespace KestoGDI

@@ -1,0 +1,186 @@
+#include "gdi/CFillBitmap.h"
+#include "gdi/CFillConical.h"
+#include "gdi/CFillDiscreteMesh.h"
+#include "gdi/CFillEllipse.h"
+#include "gdi/CFillFourColour.h"
+#include "gdi/CFillFractal.h"
+#include "gdi/CFillLinear.h"
+#include "gdi/CFillNone.h"
+#include "gdi/CFillRadial.h"
+#include "gdi/CFillSolid.h"
+#include "gdi/CFillSquare.h"
+#include "gdi/CFillThreeColour.h"
+#include "gdi/CFillVector.h"
+#include "gdi/CTransparency.h"
+#include "gdi/CTransparencyBitmap.h"
+#include "gdi/CTransparencyConical.h"
+#include "gdi/CTransparencyEllipse.h"
+#include "gdi/CTransparencyFlat.h"
+#include "gdi/CTransparencyFourPoint.h"
+#include "gdi/CTransparencyFractal.h"
+#include "gdi/CTransparencyLinear.h"
+#include "gdi/CTransparencyNone.h"
+#include "gdi/CTransparencyRadial.h"
+#include "gdi/CTransparencySquare.h"
+#include "gdi/CTransparencyThreePoint.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <string>
+
+using namespace KestoGDI;
+
+namespace {
+
+struct KindRow {
+    const CRuntimeClass* runtimeClass;
+    int type;
+    bool transparency;
+    bool gradient;   // a CFillGradient: what the editors treat as a gradient
+    bool stops;      // keeps a stop list
+    int controls;
+};
+
+const KindRow kKinds[] = {
+    {CFillNone::GetThisClass(), 0, false, false, false, 0},
+    {CFillSolid::GetThisClass(), 1, false, false, false, 0},
+    {CFillLinear::GetThisClass(), 4, false, true, true, 2},
+    {CFillRadial::GetThisClass(), 5, false, true, true, 2},
+    {CFillThreeColour::GetThisClass(), 6, false, true, true, 3},
+    {CFillFourColour::GetThisClass(), 7, false, true, true, 4},
+    {CFillFractal::GetThisClass(), 8, false, true, true, 3},
+    {CFillSquare::GetThisClass(), 9, false, true, true, 3},
+    {CFillEllipse::GetThisClass(), 10, false, true, true, 3},
+    {CFillConical::GetThisClass(), 11, false, true, true, 2},
+    {CFillBitmap::GetThisClass(), 12, false, false, true, 3},
+    {CFillDiscreteMesh::GetThisClass(), 13, false, false, false, 4},
+    {CFillVector::GetThisClass(), 14, false, false, true, 3},
+    {CTransparencyNone::GetThisClass(), 0, true, false, false, 0},
+    {CTransparencyFlat::GetThisClass(), 1, true, false, false, 0},
+    {CTransparencyLinear::GetThisClass(), 4, true, true, true, 2},
+    {CTransparencyRadial::GetThisClass(), 5, true, true, true, 2},
+    {CTransparencyThreePoint::GetThisClass(), 6, true, true, true, 3},
+    {CTransparencyFourPoint::GetThisClass(), 7, true, true, true, 4},
+    {CTransparencyFractal::GetThisClass(), 8, true, true, true, 3},
+    {CTransparencySquare::GetThisClass(), 9, true, true, true, 3},
+    {CTransparencyEllipse::GetThisClass(), 10, true, true, true, 3},
+    {CTransparencyConical::GetThisClass(), 11, true, true, true, 2},
+    {CTransparencyBitmap::GetThisClass(), 12, true, false, true, 3},
+};
+
+RefPtr<CFill> Make(const KindRow& row)
+{
+    RefPtr<CFill> fill = CFill::CreateFromClass(row.runtimeClass);
+    EXPECT_TRUE(fill) << row.runtimeClass->m_lpszClassName;
+    return fill;
+}
+
+} // namespace
+
+TEST(FillClassTree, EveryKindAnswersItsTypeKindAndControlCount)
+{
+    for (const auto& row : kKinds) {
+        SCOPED_TRACE(row.runtimeClass->m_lpszClassName);
+        const RefPtr<CFill> fill = Make(row);
+        ASSERT_TRUE(fill);
+        EXPECT_EQ(fill->GetRefCount(), 1);
+        EXPECT_EQ(fill->GetRuntimeClass(), row.runtimeClass);
+        EXPECT_EQ(fill->GetFillType(), row.type);
+        EXPECT_EQ(fill->IsTransparency(), row.transparency);
+        EXPECT_EQ(dynamic_cast<const CFillGradient*>(fill.get()) != nullptr, row.gradient);
+        EXPECT_EQ(dynamic_cast<const CFillWithStops*>(fill.get()) != nullptr, row.stops);
+        EXPECT_EQ(fill->GetControlCount(), row.controls);
+        EXPECT_TRUE(fill->GetRuntimeClass()->IsDerivedFrom(CFill::GetThisClass()));
+    }
+}
+
+TEST(FillClassTree, TypeNumbersMapBackToTheirClasses)
+{
+    for (const auto& row : kKinds) {
+        const CRuntimeClass* found = row.transparency ? CTransparency::GetRuntimeClassFromType(row.type)
+                                                      : CFill::GetRuntimeClassFromType(row.type);
+        EXPECT_EQ(found, row.runtimeClass) << row.runtimeClass->m_lpszClassName;
+    }
+    for (int unknown : {-1, 2, 3, 15, 1000})
+        EXPECT_EQ(CFill::GetRuntimeClassFromType(unknown), nullptr) << unknown;
+    for (int unknown : {-1, 2, 3, 13, 14})
+        EXPECT_EQ(CTransparency::GetRuntimeClassFromType(unknown), nullptr) << unknown;
+}
+
+TEST(FillClassTree, TypeNamesAreDistinctWithinFillsAndWithinTransparencies)
+{
+    std::set<std::wstring> fills, transparencies;
+    for (const auto& row : kKinds) {
+        const std::wstring name = Make(row)->GetTypeAsString();
+        EXPECT_FALSE(name.empty());
+        EXPECT_TRUE((row.transparency ? transparencies : fills).insert(name).second)
+            << row.runtimeClass->m_lpszClassName;
+    }
+}
+
+TEST(FillClassTree, OnlyCreatableFillClassesCreateFills)
+{
+    EXPECT_FALSE(CFill::CreateFromClass(nullptr));
+    EXPECT_FALSE(CFill::CreateFromClass(CFillGradient::GetThisClass()));
+    EXPECT_FALSE(CFill::CreateFromClass(Platform::CObject::GetThisClass()));
+}
+
+TEST(FillClassTree, TransparenciesAreTheFillKindTheyShape)
+{
+    EXPECT_NE(dynamic_cast<CFillLinear*>(Make(kKinds[15]).get()), nullptr);
+    const RefPtr<CFill> flat = CFill::CreateFromClass(CTransparencyFlat::GetThisClass());
+    EXPECT_TRUE(flat->IsSolid());
+    EXPECT_TRUE(CFill::CreateFromClass(CTransparencyNone::GetThisClass())->IsNone());
+    EXPECT_FALSE(flat->IsNone());
+    const RefPtr<CFill> vector = CFill::CreateFromClass(CFillVector::GetThisClass());
+    EXPECT_NE(dynamic_cast<CFillBitmap*>(vector.get()), nullptr);
+}
+
+TEST(FillClassTree, CloneIsAnEqualIndependentFillOfTheSameClass)
+{
+    const CRect box(-300, 100, 700, 600);
+    for (const auto& row : kKinds) {
+        SCOPED_TRACE(row.runtimeClass->m_lpszClassName);
+        RefPtr<CFill> original = Make(row);
+        original->SetDefaultControls(box);
+        original->SetAlpha(200);
+        RefPtr<CFill> clone = original->Clone();
+        ASSERT_TRUE(clone);
+        EXPECT_NE(clone.get(), original.get());
+        EXPECT_EQ(clone->GetRefCount(), 1);
+        EXPECT_EQ(original->GetRefCount(), 1);
+        EXPECT_EQ(clone->GetRuntimeClass(), row.runtimeClass);
+        EXPECT_TRUE(clone->IsEqual(*original));
+
+        clone->SetAlpha(10);
+        EXPECT_EQ(original->GetAlpha(), 200);
+        EXPECT_FALSE(clone->IsEqual(*original));
+    }
+}
+
+TEST(FillClassTree, TransformThenInverseRestoresTheControls)
+{
+    K2DLtGeneral toPage;
+    toPage += Kesto2D::K2DLtTranslate(-250, 80);
+    toPage += Kesto2D::K2DLtRotate(3000);
+    toPage += Kesto2D::K2DLtScale(1.5, -2);
+    toPage += Kesto2D::K2DLtTranslate(10000, 20000);
+    const K2DLtGeneral back = toPage.GetInverse();
+    for (const auto& row : kKinds) {
+        SCOPED_TRACE(row.runtimeClass->m_lpszClassName);
+        RefPtr<CFill> fill = Make(row);
+        fill->SetDefaultControls(CRect(0, 0, 400, 300));
+        const RefPtr<CFill> before = fill->Clone();
+        fill->Transform(toPage);
+        if (row.controls > 0) {
+            EXPECT_FALSE(fill->IsEqual(*before));
+            EXPECT_NEAR(fill->GetControlPoint(0).x, toPage.ApplyTo(before->GetControlPoint(0)).x, 1e-9);
+        }
+        fill->Transform(back);
+        for (int i = 0; i < row.controls; ++i) {
+            EXPECT_NEAR(fill->GetControlPoint(i).x, before->GetControlPoint(i).x, 1e-6);
+            EXPECT_NEAR(fill->GetControlPoint(i).y, before->GetControlPoint(i).y, 1e-6);
+        }
+    }
+}
