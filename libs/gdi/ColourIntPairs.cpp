@@ -1,5 +1,7 @@
 #include "gdi/ColourIntPairs.h"
 
+#include "gdi/CRGBColour.h"
+
 #include <algorithm>
 
 namespace KestoGDI {
@@ -85,9 +87,9 @@ std::unique_ptr<CColour> ColourIntPairs::MakeColourForValue(int value) const
 
 std::size_t ColourIntPairs::Measure() const
 {
-    // A stop's colour is a small heap object; its exact size is its class's business.
-    constexpr std::size_t colourBytes = 64;
-    return m_pairs.capacity() * sizeof(CColourIntPair) + m_pairs.size() * colourBytes;
+    // Each stop owns one colour object; the largest colour class bounds its size (a palette
+    // name's characters are not counted).
+    return m_pairs.capacity() * sizeof(CColourIntPair) + m_pairs.size() * sizeof(CRGBColour);
 }
 
 } // namespace KestoGDI

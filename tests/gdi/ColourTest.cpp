@@ -38,14 +38,6 @@ TEST(Colour, IntensityIsLuminanceOfTheShownColour)
     EXPECT_EQ(CMonoColour(0, 100).GetIntensity(), 255);
 }
 
-TEST(Colour, DefaultPaletteWhiteIsOpaqueAndUnnamed)
-{
-    const CRGBColour white(0xFFFFFF, nullptr, 0, 255);
-    EXPECT_EQ(white.GetAlpha(), 255);
-    EXPECT_EQ(white.GetTint(), 0);
-    EXPECT_TRUE(white.GetName().empty());
-}
-
 TEST(Colour, IsEqualComparesKindAndValuesWhileEqualColourComparesWhatIsShown)
 {
     const CRGBColour grey(RGB(77, 77, 77));
@@ -73,18 +65,6 @@ TEST(Colour, CloneIsIndependentAndOfTheSameKind)
     clone->SetAlpha(3);
     EXPECT_EQ(original.GetAlpha(), 255);
     EXPECT_FALSE(clone->IsEqual(original));
-}
-
-TEST(Colour, AlphaAndLevelAreClamped)
-{
-    CMonoColour c(300);
-    EXPECT_EQ(c.GetLevel(), 255);
-    c.SetLevel(-5);
-    EXPECT_EQ(c.GetLevel(), 0);
-    c.SetAlpha(1000);
-    EXPECT_EQ(c.GetAlpha(), 255);
-    c.SetAlpha(-1);
-    EXPECT_EQ(c.GetAlpha(), 0);
 }
 
 TEST(Colour, InterpolationKeepsGreyLevelsGreyAndBlendsAlpha)

@@ -65,14 +65,6 @@ TEST(FillControls, DefaultControlsPlaceEachKindOverTheRectangle)
     }
 }
 
-TEST(FillControls, RadialDefaultCoversATallRectangle)
-{
-    CFillRadial radial;
-    radial.SetDefaultControls(CRect(0, 0, 100, 400));
-    EXPECT_EQ(radial.GetCentre(), K2DDblPoint(50, 200));
-    EXPECT_EQ(radial.GetEnd(), K2DDblPoint(250, 200));
-}
-
 TEST(FillControls, PerClassSettersKeepDoublePrecisionAndGetControlsRoundsHalfAwayFromZero)
 {
     CFillLinear linear;
@@ -199,20 +191,6 @@ TEST(FillControls, BitmapsRefuseImpossibleSizesAndIgnoreOutsideAccess)
     b.SetPixel(-1, 0, 0xFFFFFFFF);
     EXPECT_EQ(b.GetPixel(2, 0), 0u);
     EXPECT_EQ(b, CLtBitmap(2, 2));
-}
-
-TEST(FillControls, PlasmaSettingsAreClampedAndCompared)
-{
-    CFillFractal plasma;
-    plasma.SetGrain(150);
-    EXPECT_EQ(plasma.GetGrain(), 100);
-    plasma.SetResolution(0);
-    EXPECT_EQ(plasma.GetResolution(), CFillFractal::MinResolution);
-    RefPtr<CFill> clone = plasma.Clone();
-    dynamic_cast<CFillFractal&>(*clone).SetSeed(plasma.GetSeed() + 1);
-    EXPECT_FALSE(clone->IsEqual(plasma));
-    dynamic_cast<CFillFractal&>(*clone).SetSeed(plasma.GetSeed());
-    EXPECT_TRUE(clone->IsEqual(plasma));
 }
 
 TEST(FillControls, MeshGridKeepsItsShapeWithinLimits)

@@ -19,20 +19,6 @@ TEST(VerifyReporter, HandlerReceivesMessageModuleFileAndLine)
     EXPECT_EQ(Kernel::FormatVerifyReport(reports[0]), "KestoTool (FillToolRadial:443)\nVerify failed");
 }
 
-TEST(VerifyReporter, ScopedHandlerRestoresThePreviousOne)
-{
-    int outer = 0;
-    int inner = 0;
-    Kernel::ScopedVerifyHandler a([&](const Kernel::VerifyReport&) { ++outer; });
-    {
-        Kernel::ScopedVerifyHandler b([&](const Kernel::VerifyReport&) { ++inner; });
-        Kernel::VerifyFailed("m", "f", 1);
-    }
-    Kernel::VerifyFailed("m", "f", 2);
-    EXPECT_EQ(inner, 1);
-    EXPECT_EQ(outer, 1);
-}
-
 TEST(VerifyReporter, DefaultHandlerWritesOneLineToStderr)
 {
     testing::internal::CaptureStderr();

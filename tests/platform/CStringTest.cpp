@@ -36,9 +36,3 @@ TEST(CString, TrimRemovesWhitespaceOnBothEnds)
     EXPECT_TRUE(blank.Trim().IsEmpty());
 }
 
-TEST(CString, FindOneOf)
-{
-    EXPECT_EQ(CString(L"abc7").FindOneOf(L"0123456789"), 3);
-    EXPECT_EQ(CString(L"abc").FindOneOf(L"0123456789"), -1);
-    EXPECT_TRUE(CString(static_cast<const wchar_t*>(nullptr)).IsEmpty());
-}
