@@ -12,6 +12,10 @@ if(KESTO_SANITIZE)
     -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   target_link_options(KestoCompileOptions INTERFACE -fsanitize=address,undefined)
 endif()
+if(KESTO_FUZZ)
+  target_compile_options(KestoCompileOptions INTERFACE -fsanitize=fuzzer-no-link,address,undefined -fno-omit-frame-pointer)
+  target_link_options(KestoCompileOptions INTERFACE -fsanitize=address,undefined)
+endif()
 
 # kesto_library(Target SOURCES ... DEPENDS ...): one library per folder under libs/,
 # its headers included as "folder/Header.h" from the libs root.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace Platform {
 
@@ -10,6 +11,8 @@ public:
     CString() = default;
     CString(const wchar_t* text) : m_text(text ? text : L"") {}
     CString(std::wstring text) : m_text(std::move(text)) {}
+    // Text from UTF-8 bytes; invalid sequences become U+FFFD.
+    static CString FromUtf8(std::string_view utf8);
 
     // printf-style formatting with wide format strings (%s takes a wide string).
     void Format(const wchar_t* format, ...);
@@ -26,6 +29,8 @@ public:
     wchar_t operator[](int i) const { return m_text[static_cast<std::size_t>(i)]; }
     // Index of the first character that is one of the given ones, or -1.
     int FindOneOf(const wchar_t* characters) const;
+    // The text as UTF-8, for file names and narrow interfaces.
+    std::string ToUtf8() const;
 
     CString& operator+=(const CString& s) { m_text += s.m_text; return *this; }
     friend CString operator+(CString a, const CString& b) { return a += b; }

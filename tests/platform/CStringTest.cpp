@@ -36,3 +36,12 @@ TEST(CString, TrimRemovesWhitespaceOnBothEnds)
     EXPECT_TRUE(blank.Trim().IsEmpty());
 }
 
+
+TEST(CString, Utf8RoundTripAndInvalidBytes)
+{
+    const CString text(L"F\u00fcllung \u20ac \U0001F600");
+    EXPECT_EQ(text.ToUtf8(), "F\xC3\xBCllung \xE2\x82\xAC \xF0\x9F\x98\x80");
+    EXPECT_EQ(CString::FromUtf8(text.ToUtf8()), text);
+    EXPECT_EQ(CString::FromUtf8("a\xC3").Str(), L"a\uFFFD");
+    EXPECT_EQ(CString::FromUtf8("\xFFz").Str(), L"\uFFFDz");
+}

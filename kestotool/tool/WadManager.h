@@ -1,0 +1,37 @@
+#pragma once
+
+#include "gdi/WadManager.h"
+#include "tool/KestoToolImports.h"
+
+#include <array>
+#include <string>
+
+namespace KestoTool {
+
+// The icon manager: loads command images for the screen's resolution from the image archive
+// that lies beside the library ("Icons\<dpi>\<name>" entries).
+class WadManager : public KestoGDI::WadManager {
+public:
+    // The image folders, one per screen resolution the icons are drawn for.
+    static constexpr std::array<int, 4> Folders = {96, 120, 144, 192};
+
+    // Made on first use for the screen's horizontal resolution.
+    static WadManager& GetInstance();
+
+    int GetDpi() const { return m_dpi; }
+    // The largest folder not above dpi; 96 for anything below.
+    void SetDpi(int dpi);
+    RefPtr<CLtBitmap> LoadImage(const wchar_t* name) const;
+
+    // The archive beside the library: its directory and file title, less one trailing "D" or
+    // "N", with the archive extension.
+    std::wstring ArchivePath() const;
+    static std::wstring ArchivePathFor(const std::wstring& libraryPath);
+
+private:
+    WadManager();
+
+    int m_dpi = 96;
+};
+
+} // namespace KestoTool

@@ -1,0 +1,18 @@
+#include "platform/ScreenMetrics.h"
+
+namespace Platform::ScreenMetrics {
+namespace {
+int g_logPixelsX = 96;
+} // namespace
+
+int GetLogPixelsX()
+{
+    return g_logPixelsX;
+}
+
+void SetLogPixelsX(int dpi)
+{
+    g_logPixelsX = dpi;
+}
+
+} // namespace Platform::ScreenMetrics

@@ -1,0 +1,9 @@
+// A localised resource module as a translator would ship it, reduced to two texts.
+extern "C" const wchar_t* KestoToolLocString(int id)
+{
+    switch (id) {
+    case 117: return L"Original";
+    case 123: return L"Füllung drehen";
+    default: return nullptr;
+    }
+}
