@@ -1,0 +1,210 @@
+#pragma once
+
+#include "gdi/CColour.h"
+#include "gdi/CFill.h"
+#include "gdi/CRenderContext.h"
+#include "gdi/IRenderTarget.h"
+#include "geometry/K2DArrayPoint.h"
+#include "geometry/K2DCurve.h"
+#include "geometry/K2DLtGeneral.h"
+#include "geometry/KCAngle.h"
+#include "platform/CCmdTarget.h"
+#include "tool/IToolSite.h"
+#include "tool/KestoToolImports.h"
+
+#include <atomic>
+#include <memory>
+
+namespace Platform {
+class CWnd;
+}
+
+namespace KestoTool {
+
+class IDocumentEx;
+class IToolHelper;
+
+using Kesto2D::K2DArrayPoint;
+using Kesto2D::K2DCurve;
+using Kesto2D::K2DDblPoint;
+using Kesto2D::K2DLtGeneral;
+using Kesto2D::KCAngle;
+using KestoGDI::CColour;
+using KestoGDI::CFill;
+using KestoGDI::CRenderContext;
+using KestoGDI::IRenderTarget;
+using Platform::CRuntimeClass;
+using Platform::COLORREF;
+using Platform::CXTPCommandBars;
+
+// The base of every on-canvas fill and transparency tool. A tool edits one fill: it keeps its
+// own copy, talks to the host only through its IToolSite, and hands every change back as a
+// whole new fill through UpdateFill / UpdateTransparency; the host then gives it the committed
+// fill with SetFill. Concrete tools override the virtual operations; the base supplies the
+// state, hit testing, snapping and angle maths, node colours and handle drawing.
+//
+// Mouse-key flags of the drag protocol: Shift is 4, Ctrl is 8.
+class FillTool : public Platform::CCmdTarget {
+    KESTO_DECLARE_DYNAMIC(FillTool)
+public:
+    static const int s_nHandleSize = 8;  // screen pixels: handle side and hit box
+    static const int s_nMinSize = 50;    // paper units: a shorter fill gets no handles
+
+    // Keeps a private clone of fill; site must outlive the tool.
+    FillTool(const CFill* fill, IToolSite* site);
+    ~FillTool() override;
+    FillTool(const FillTool&) = delete;
+    FillTool& operator=(const FillTool&) = delete;
+
+    virtual int IndexFromPoint(const CPoint& point) const;
+    virtual const CFill* GetFill() const;
+    virtual void OnDragStart(CPoint& point, unsigned int flags);
+    virtual void OnDragChange(CPoint& point, unsigned int flags);
+    virtual void OnDragEnd(CPoint& point, unsigned int flags);
+    virtual bool OnFillCellDrop(CPoint& point, const CColour* colour);
+    virtual bool OnFillCellChanged(const CColour* colour);
+    virtual bool OnAlphaCellChanged(unsigned char alpha);
+    virtual bool OnTintChanged(int tint);
+    // The base remembers the view transform for the drawing helpers.
+    virtual void Draw(IRenderTarget* target, bool outlineOnly, const K2DLtGeneral& view) const;
+    virtual void Draw(CRenderContext* context) const;
+    virtual void OnKeyDown(unsigned int key, unsigned int repeat, unsigned int flags);
+    virtual CRect GetToolRect(const CFill* fill);
+    virtual CRect GetFillRect(const CFill* fill);
+    virtual const CColour* ColourFromNode() const;
+    virtual int GetCurrentNode() const;
+    virtual void SetCurrentNode(int node);
+    // Answers 0 and leaves out alone: no hint.
+    virtual int GetHintLine(CString* out) const;
+    virtual bool CanCreateNewNode() const;
+    virtual bool CanDeleteNode() const;
+    virtual bool CreateNewNode(const CPoint& point);
+    // Registers the command images once per process and puts the edit command, the context
+    // item and the type combo on the context bar.
+    virtual void InitContextButtons(CXTPCommandBars* bars);
+    // Whether a host command number is one of the fill tools'.
+    virtual bool RecognisedID(unsigned int hostCommand) const;
+    virtual void GetHandles(K2DArrayPoint* handles) const;
+    virtual void BaseGetHandles(K2DArrayPoint* handles) const;
+    virtual const CColour* GetCurrentColour() const;
+    virtual void SetGhostNode(CPoint& point, const CColour* colour);
+    // Answers whether a ghost node was showing (and so whether to redraw).
+    virtual bool ClearGhostNode();
+    virtual K2DLtGeneral GetAppObjectToSpreadTransform() const;
+    virtual void ConstrainAnglePolar(CPoint origin, CPoint& point);
+    // The stop index of a handle; the base maps every handle to itself.
+    virtual int GradientIndex(int handle) const;
+    virtual bool IsPointOnLine(const CPoint& point, int tolerance) const;
+    virtual int GetPercentageFromPoint(CPoint point) const;
+    virtual CPoint GetPointFromPercentage(int percentage);
+    virtual void DeleteGradientNode(int index);
+    virtual bool CheckSize() const;
+    // The four corners of GetFillRect(fill), closed.
+    virtual K2DArrayPoint GetEffectiveBBox(const CFill* fill);
+
+    // Gives the tool a new fill: a clone of it replaces the tool's copy.
+    void SetFill(const CFill* fill);
+    bool CanEditFill() const { return true; }
+    bool IsTransparency() const;
+    bool IsFill() const { return !IsTransparency(); }
+    static bool IsTwoColourFill(const CFill* fill);
+    static bool IsBitmapFill(const CFill* fill);
+
+    int GetHotNode() const { return m_nHotNode; }
+    bool HasGhostNode() const { return m_bGhostNode; }
+    int GetControlBoxMode() const { return m_nControlBoxMode; }
+    void SetControlBoxMode(int mode) { m_nControlBoxMode = mode; }
+    const CPoint& GetDragStart() const { return m_ptDragStart; }
+
+    // Node colours. A node is 3 (start), 4 (end) or 5 (selected); any other value is taken to
+    // be a host command number and translated through the command-ID map first.
+    // A new colour, or null.
+    std::unique_ptr<CColour> GetNodeColour(unsigned int node) const;
+    // Commits the fill with that node's colour replaced; a none fill becomes a solid fill.
+    void SetNodeColour(unsigned int node, const CColour* colour);
+    // Asks the user for the node's colour and sets it.
+    void AdjustNodeColour(unsigned int node);
+    bool IsNodeColourEnabled(unsigned int node) const;
+
+    // Colour pickers of the tool helper; results belong to the caller.
+    std::unique_ptr<CColour> ColourPicker(const CColour* current);
+    bool ColourPicker(const CColour* current, std::unique_ptr<CColour>& result);
+    std::unique_ptr<CColour> AskUserForNewColour(const CColour* current, CPoint where, Platform::CWnd* owner);
+
+    // Site forwarders.
+    unsigned long GetToolColour() const { return m_pSite->GetToolColour(); }
+    K2DLtGeneral GetObjectToSpreadTransform() const { return m_pSite->GetObjectToSpreadTransform(); }
+    void ClientToPaper(Platform::SIZE* size) const { m_pSite->ClientToPaper(size); }
+    CRect GetObjectBBox() const { return m_pSite->GetObjectBBox(); }
+    CRect GetTransformedObjectBBox() const { return m_pSite->GetTransformedObjectBBox(); }
+    bool IsCreate() const { return m_pSite->IsCreate(); }
+    bool IsInDrag() const { return m_pSite->IsInDrag(); }
+    void ConstrainAngle(CPoint origin, CPoint& point, bool flag) { m_pSite->ConstrainAngle(origin, point, flag); }
+    void Snap(const CPoint& in, CPoint& out) { m_pSite->Snap(in, out); }
+    void ConstrainAngleNoTransform(CPoint origin, CPoint& point, bool flag) { m_pSite->ConstrainAngleNoTransform(origin, point, flag); }
+    void SnapNoTransform(const CPoint& in, CPoint& out) { m_pSite->SnapNoTransform(in, out); }
+    // Rounds in to an integer point for the site and writes the snapped point back as doubles.
+    void SnapNoTransform(const K2DDblPoint& in, K2DDblPoint& out);
+    CString GetCurrentSelectionDescription() const { return m_pSite->GetCurrentSelectionDescription(); }
+    IDocumentEx* GetDocument() const { return m_pSite->GetDocument(); }
+    IToolHelper* GetToolHelper() const;
+    void UpdateFill(const CFill* fill, const wchar_t* undoName) { m_pSite->UpdateFill(fill, undoName); }
+    void UpdateTransparency(const CFill* fill, const wchar_t* undoName, bool flag) { m_pSite->UpdateTransparency(fill, undoName, flag); }
+    void SetFillType(const CRuntimeClass* c) { m_pSite->SetFillType(c); }
+    void SetTransparencyType(const CRuntimeClass* c) { m_pSite->SetTransparencyType(c); }
+    CPoint GetCreateCentre(const CPoint& point) const { return m_pSite->GetCreateCentre(point); }
+
+    // Geometry helpers, in document units.
+    // Index of the first handle whose 8 x 8 pixel box holds pt, or -1.
+    int HitPoint(const K2DArrayPoint& points, const CPoint& pt) const;
+    // Half the handle size in document units.
+    int GetDefaultTolerance() const;
+    // Height / width of the object box; 1 when the width is not positive.
+    float GetAspectRatio() const;
+    static K2DLtGeneral GetNodeTransform(KCAngle& angle, CPoint& centre);
+    // Constrains pt to the host's angle step from origin, unless the constrained point lies
+    // outside the site's angle-snap tolerance; prefers the grid-snapped point when that is
+    // nearer.
+    void SnapAnglePoint(CPoint origin, CPoint& pt, bool flag);
+    // other turned about centre by the angle that takes from onto to.
+    static CPoint PreserveAngle(CPoint centre, CPoint from, CPoint to, CPoint other);
+    // point turned about centre by a right angle (or by the angle between the arms p0-p1 and
+    // p0-p2 when keeping one), its distance from centre scaled to keep the arms' ratio.
+    CPoint CalculatePerpendicular(CPoint p0, CPoint p1, CPoint p2, CPoint& centre, CPoint& point, bool keepFirst,
+                                  bool keepSecond);
+
+protected:
+    // Handle and control-line drawing, in document units mapped through the view transform.
+    void DrawBoxControl(IRenderTarget* target, bool outlineOnly, const CPoint& point, unsigned long colour, int index) const;
+    void DrawBoxControl(IRenderTarget* target, bool outlineOnly, const CPoint& point, const CColour* colour, int index) const;
+    void DrawBoxControl(CRenderContext* context, const CPoint& point, unsigned long colour, int index) const;
+    void DrawControlLine(IRenderTarget* target, bool outlineOnly, const CPoint& a, const CPoint& b, bool highlight) const;
+    void DrawControlLine(IRenderTarget* target, bool outlineOnly, K2DCurve&& curve, bool highlight) const;
+    void DrawControlLine(IRenderTarget* target, bool outlineOnly, const K2DArrayPoint& points, bool highlight) const;
+    void DrawControlLine(CRenderContext* context, const CPoint& a, const CPoint& b, bool highlight) const;
+    void DrawControlLine(CRenderContext* context, K2DCurve&& curve, bool highlight) const;
+    void DrawControlLine(CRenderContext* context, const K2DArrayPoint& points, bool highlight) const;
+
+    // Puts a fill tool command (its own number) on the context bar through the site.
+    void AddContextItem(int libraryCommand);
+    void SetHotNode(int node) { m_nHotNode = node; }
+    IToolSite* GetSite() const { return m_pSite; }
+    const K2DLtGeneral& GetViewTransform() const { return m_viewTransform; }
+
+private:
+    // 3, 4 or 5, or a host command number translated to the library's.
+    static unsigned int TranslateNode(unsigned int node);
+    // The stop index a colour node stands for in a list of n stops; -1 for none.
+    int StopIndexOfNode(unsigned int node, int n) const;
+
+    IToolSite* const m_pSite;
+    int m_nCurrentNode = 0;
+    std::atomic<const CFill*> m_pFill{nullptr};
+    CPoint m_ptDragStart;
+    int m_nHotNode = -1;
+    bool m_bGhostNode = false;
+    int m_nControlBoxMode = 0;
+    mutable K2DLtGeneral m_viewTransform;
+};
+
+} // namespace KestoTool

@@ -1,0 +1,28 @@
+#include "platform/CCmdUI.h"
+
+#include "platform/CCmdTarget.h"
+#include "platform/CXTPControl.h"
+
+namespace Platform {
+
+void CCmdUI::Enable(bool on)
+{
+    m_enabled = on;
+    if (m_pControl)
+        m_pControl->SetEnabled(on);
+}
+
+void CCmdUI::SetCheck(int check)
+{
+    m_check = check;
+    if (m_pControl)
+        m_pControl->SetChecked(check != 0);
+}
+
+bool CCmdUI::DoUpdate(CCmdTarget* target)
+{
+    m_handled = target && target->OnCmdMsg(m_nID, CN_UPDATE_COMMAND_UI, this, nullptr);
+    return m_handled;
+}
+
+} // namespace Platform

@@ -1,0 +1,52 @@
+#include "support/TestDocument.h"
+
+#include "platform/CXTPControlPopupColor.h"
+
+namespace KestoTest {
+
+CColour* TestToolHelper::NextAnswer(const CColour* current)
+{
+    pickerCurrents.push_back(current ? current->Clone() : nullptr);
+    if (pickerAnswers.empty())
+        return nullptr;
+    std::unique_ptr<CColour> answer = std::move(pickerAnswers.front());
+    pickerAnswers.pop_front();
+    return answer.release();
+}
+
+int TestToolHelper::CreateColourControl(Platform::XTP_COMMANDBARS_CREATECONTROL* cc)
+{
+    if (!cc)
+        return 0;
+    cc->pControl = std::make_unique<Platform::CXTPControlPopupColor>(cc->nID);
+    ++colourControlsCreated;
+    return 1;
+}
+
+bool TestToolHelper::ColourPicker(const CColour* current, CColour*& result, Platform::CWnd*)
+{
+    result = NextAnswer(current);
+    return result != nullptr;
+}
+
+CColour* TestToolHelper::ColourPicker(const CColour* current, Platform::CWnd*)
+{
+    return NextAnswer(current);
+}
+
+CColour* TestToolHelper::AskUserForNewColour(const CColour* current, Platform::CPoint, Platform::CWnd*)
+{
+    return NextAnswer(current);
+}
+
+bool TestToolHelper::IsFillTypeAvailable(KestoGDI::CFill* sample)
+{
+    return sample && !unavailableFillTypes.count(sample->GetFillType());
+}
+
+bool TestToolHelper::IsTransparencyTypeAvailable(KestoGDI::CFill* sample)
+{
+    return sample && !unavailableTransparencyTypes.count(sample->GetFillType());
+}
+
+} // namespace KestoTest

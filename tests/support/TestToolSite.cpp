@@ -1,0 +1,62 @@
+#include "support/TestToolSite.h"
+
+#include "geometry/KCAngle.h"
+#include "geometry/Rounding.h"
+
+#include <cmath>
+
+namespace KestoTest {
+
+using Kesto2D::RoundHalfAwayFromZero;
+
+void TestToolSite::ClientToPaper(Platform::SIZE* size)
+{
+    size->cx = RoundHalfAwayFromZero(size->cx * pixelToPaper);
+    size->cy = RoundHalfAwayFromZero(size->cy * pixelToPaper);
+}
+
+CRect TestToolSite::GetTransformedObjectBBox()
+{
+    CRect r(objectToSpread.ApplyTo(objectBox.TopLeft()), objectToSpread.ApplyTo(objectBox.BottomRight()));
+    r.NormalizeRect();
+    return r;
+}
+
+void TestToolSite::ConstrainAngle(CPoint origin, CPoint& point, bool)
+{
+    if (angleStep <= 0)
+        return;
+    const double dx = point.x - origin.x;
+    const double dy = point.y - origin.y;
+    const int angle = Kesto2D::KCAngle::DirectionOf(dx, dy);
+    const int snapped = RoundHalfAwayFromZero(static_cast<double>(angle) / angleStep) * angleStep;
+    double s = 0, c = 1;
+    Kesto2D::KCAngle(snapped).SinCos(s, c);
+    const double d = std::hypot(dx, dy);
+    point = CPoint(origin.x + RoundHalfAwayFromZero(d * c), origin.y - RoundHalfAwayFromZero(d * s));
+}
+
+void TestToolSite::Snap(const CPoint& in, CPoint& out)
+{
+    if (grid <= 0) {
+        out = in;
+        return;
+    }
+    const auto toGrid = [this](int v) { return RoundHalfAwayFromZero(static_cast<double>(v) / grid) * grid; };
+    out = CPoint(toGrid(in.x), toGrid(in.y));
+}
+
+void TestToolSite::Record(const CFill* fill, const wchar_t* undoName, bool transparency, bool flag)
+{
+    Commit c;
+    c.fill = fill ? fill->Clone() : nullptr;
+    c.hasName = undoName != nullptr;
+    c.name = undoName ? undoName : L"";
+    c.transparency = transparency;
+    c.flag = flag;
+    commits.push_back(std::move(c));
+    if (tool)
+        tool->SetFill(fill);
+}
+
+} // namespace KestoTest

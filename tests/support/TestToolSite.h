@@ -1,0 +1,72 @@
+#pragma once
+
+#include "filltool/FillTool.h"
+#include "tool/IToolSite.h"
+
+#include <string>
+#include <vector>
+
+namespace KestoTest {
+
+using KestoGDI::CFill;
+using Platform::CPoint;
+using Platform::CRect;
+
+// A tool site for tests: settable scale, grid, angle step and flags; records every commit and,
+// like a real host, can hand the committed fill back to the tool.
+class TestToolSite : public KestoTool::IToolSite {
+public:
+    struct Commit {
+        Kernel::RefPtr<CFill> fill;  // a copy of what the tool committed
+        bool hasName = false;
+        std::wstring name;
+        bool transparency = false;
+        bool flag = false;
+    };
+
+    double pixelToPaper = 1.0;       // paper units per screen pixel
+    int grid = 0;                    // snap to multiples of this; 0 for no grid
+    int angleStep = 0;               // hundredths of a degree; 0 for no angle constraint
+    double angleSnapTolerance = 5.0; // screen pixels
+    bool create = false;
+    bool inDrag = false;
+    CRect objectBox;
+    Kesto2D::K2DLtGeneral objectToSpread;
+    unsigned long toolColour = 0xFF0000;
+    KestoTool::IDocumentEx* document = nullptr;
+    // When set, each commit is given back to the tool with SetFill.
+    KestoTool::FillTool* tool = nullptr;
+
+    std::vector<Commit> commits;
+    std::vector<int> contextItems;
+    std::vector<const Platform::CRuntimeClass*> typeRequests;
+
+    unsigned long GetToolColour() override { return toolColour; }
+    Kesto2D::K2DLtGeneral GetObjectToSpreadTransform() override { return objectToSpread; }
+    Kesto2D::K2DLtGeneral GetAppObjectToSpreadTransform() override { return objectToSpread; }
+    void ClientToPaper(Platform::SIZE* size) override;
+    CRect GetObjectBBox() override { return objectBox; }
+    CRect GetTransformedObjectBBox() override;
+    bool IsCreate() override { return create; }
+    bool IsInDrag() override { return inDrag; }
+    void ConstrainAngle(CPoint origin, CPoint& point, bool flag) override;
+    void ConstrainAnglePolar(CPoint origin, CPoint& point) override { ConstrainAngle(origin, point, false); }
+    void Snap(const CPoint& in, CPoint& out) override;
+    Platform::CString GetCurrentSelectionDescription() override { return L"Rectangle: "; }
+    void AddContextItem(int hostCommand) override { contextItems.push_back(hostCommand); }
+    KestoTool::IDocumentEx* GetDocument() override { return document; }
+    void UpdateFill(const CFill* fill, const wchar_t* undoName) override { Record(fill, undoName, false, false); }
+    void UpdateTransparency(const CFill* fill, const wchar_t* undoName, bool flag) override
+    {
+        Record(fill, undoName, true, flag);
+    }
+    void SetFillType(const Platform::CRuntimeClass* c) override { typeRequests.push_back(c); }
+    void SetTransparencyType(const Platform::CRuntimeClass* c) override { typeRequests.push_back(c); }
+    void NotifyHandlesReset() override {}
+    double GetAngleSnapTolerance() override { return angleSnapTolerance; }
+
+private:
+    void Record(const CFill* fill, const wchar_t* undoName, bool transparency, bool flag);
+};
+
+} // namespace KestoTest
