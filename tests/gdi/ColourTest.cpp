@@ -56,17 +56,6 @@ TEST(Colour, IsEqualComparesKindAndValuesWhileEqualColourComparesWhatIsShown)
     EXPECT_FALSE(CColour::EqualColour(&grey, nullptr));
 }
 
-TEST(Colour, CloneIsIndependentAndOfTheSameKind)
-{
-    CMonoColour original(40);
-    auto clone = original.Clone();
-    ASSERT_NE(dynamic_cast<CMonoColour*>(clone.get()), nullptr);
-    EXPECT_TRUE(clone->IsEqual(original));
-    clone->SetAlpha(3);
-    EXPECT_EQ(original.GetAlpha(), 255);
-    EXPECT_FALSE(clone->IsEqual(original));
-}
-
 TEST(Colour, InterpolationKeepsGreyLevelsGreyAndBlendsAlpha)
 {
     CMonoColour from(0);

@@ -126,17 +126,6 @@ TEST(FillClassTree, OnlyCreatableFillClassesCreateFills)
     EXPECT_FALSE(CFill::CreateFromClass(Platform::CObject::GetThisClass()));
 }
 
-TEST(FillClassTree, TransparenciesAreTheFillKindTheyShape)
-{
-    EXPECT_NE(dynamic_cast<CFillLinear*>(Make(kKinds[15]).get()), nullptr);
-    const RefPtr<CFill> flat = CFill::CreateFromClass(CTransparencyFlat::GetThisClass());
-    EXPECT_TRUE(flat->IsSolid());
-    EXPECT_TRUE(CFill::CreateFromClass(CTransparencyNone::GetThisClass())->IsNone());
-    EXPECT_FALSE(flat->IsNone());
-    const RefPtr<CFill> vector = CFill::CreateFromClass(CFillVector::GetThisClass());
-    EXPECT_NE(dynamic_cast<CFillBitmap*>(vector.get()), nullptr);
-}
-
 TEST(FillClassTree, CloneIsAnEqualIndependentFillOfTheSameClass)
 {
     const CRect box(-300, 100, 700, 600);

@@ -136,20 +136,6 @@ TEST(FillControls, TransparencyStopsAreGreyLevelsFromOpaqueToClear)
     EXPECT_EQ(dynamic_cast<const CMonoColour&>(three.GetColourIntPairs().GetAt(1)->GetColour()).GetLevel(), 128);
 }
 
-TEST(FillControls, ClonedStopListsAreIndependent)
-{
-    CFillLinear original;
-    RefPtr<CFill> clone = original.Clone();
-    auto* linearClone = dynamic_cast<CFillLinear*>(clone.get());
-    ASSERT_NE(linearClone, nullptr);
-    ColourIntPairs stops = linearClone->GetColourIntPairs();
-    stops.Add(CRGBColour(Platform::RGB(255, 0, 0)), 5000);
-    stops.Sort();
-    ASSERT_TRUE(linearClone->SetColourIntPairs(stops));
-    EXPECT_EQ(original.GetColourIntPairs().GetSize(), 2);
-    EXPECT_FALSE(original.IsEqual(*clone));
-}
-
 TEST(FillControls, SolidFillTakesTheColourAndOptionallyItsAlpha)
 {
     CRGBColour half(Platform::RGB(10, 20, 30));

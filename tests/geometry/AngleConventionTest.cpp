@@ -57,16 +57,6 @@ TEST(AngleConvention, CoincidentPointsGiveZeroNotNaN)
     EXPECT_EQ(K2DGeometry::CalcAngle(CPoint(9, 9), c, c), 0);
 }
 
-TEST(AngleConvention, RadiansRoundTripAndNormalisation)
-{
-    EXPECT_EQ(KCAngle::FromRadians(std::numbers::pi / 2), 9000);
-    EXPECT_EQ(KCAngle::FromRadians(-std::numbers::pi / 2), -9000);
-    EXPECT_DOUBLE_EQ(KCAngle(18000).ToRadians(), std::numbers::pi);
-    static_assert(KCAngle(-9000).Normalized() == 27000);
-    static_assert(KCAngle(72000).Normalized() == 0);
-    EXPECT_EQ(KCAngle::DirectionOf(0, -3), 9000);
-}
-
 TEST(Distances, DoubleAndRoundedIntegerDistanceSurviveHugeCoordinates)
 {
     EXPECT_DOUBLE_EQ(K2DGeometry::CalcDist(CPoint(0, 0), CPoint(3, 4)), 5.0);

@@ -56,15 +56,3 @@ TEST(K2DCurve, FlattenStaysWithinTolerance)
     }
 }
 
-TEST(K2DCurve, LinesAndArcsJoinIntoOnePath)
-{
-    K2DCurve c;
-    c.MoveTo({0, 0});
-    c.LineTo({100, 0});
-    c.ArcTo({100, 100}, 100, 9000, -9000);  // from (100, 0) clockwise to (200, 100)
-    const auto lines = c.Flatten(1);
-    ASSERT_EQ(lines.size(), 1u);
-    EXPECT_NEAR(lines[0].back().x, 200, 1e-9);
-    EXPECT_NEAR(lines[0].back().y, 100, 1e-9);
-    EXPECT_EQ(c.GetBBox(), CRect(0, 0, 200, 100));
-}

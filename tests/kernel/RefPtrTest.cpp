@@ -68,17 +68,6 @@ TEST(RefPtr, MoveAndDetachTransferTheReference)
     EXPECT_EQ(deaths, 1);
 }
 
-TEST(RefPtr, DynamicCastSharesOnlyMatchingObjects)
-{
-    int deaths = 0;
-    Kernel::RefPtr<Counted> plain = Kernel::MakeRef<Counted>(&deaths);
-    Kernel::RefPtr<Counted> derived = Kernel::MakeRef<Derived>(&deaths);
-    EXPECT_FALSE(Kernel::DynamicRefCast<Derived>(plain));
-    auto asDerived = Kernel::DynamicRefCast<Derived>(derived);
-    ASSERT_TRUE(asDerived);
-    EXPECT_EQ(derived->GetRefCount(), 2);
-}
-
 TEST(RefPtr, ReleasingAnUnownedObjectIsReportedNotFreed)
 {
     int reports = 0;
