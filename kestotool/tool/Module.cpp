@@ -1,5 +1,6 @@
 #include "tool/Module.h"
 
+#include "resources/DialogTemplates.h"
 #include "resources/StringTable.h"
 
 #include <dlfcn.h>
@@ -57,6 +58,11 @@ bool Module::LoadString(int id, CString& out) const
         return false;
     out = CString(text);
     return true;
+}
+
+const Platform::DialogTemplate* Module::LoadDialogTemplate(int id) const
+{
+    return FindBuiltInDialogTemplate(id);
 }
 
 CString Module::LoadString(int id) const

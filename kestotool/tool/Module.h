@@ -26,6 +26,8 @@ public:
     bool LoadString(int id, CString& out) const override;
     // The text for an id; empty for an id no resource has.
     CString LoadString(int id) const;
+    // The library's dialog templates (a localised module does not replace layouts).
+    const Platform::DialogTemplate* LoadDialogTemplate(int id) const override;
 
     // The full path of the library's own file.
     static std::wstring GetLibraryPath();

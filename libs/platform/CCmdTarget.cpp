@@ -22,6 +22,7 @@ bool Matches(const AFX_MSGMAP_ENTRY& e, int id, int code)
     case MsgKind::Command: return code == CN_COMMAND;
     case MsgKind::Update: return code == CN_UPDATE_COMMAND_UI;
     case MsgKind::Notify: return code == CN_NOTIFY(e.notifyCode);
+    case MsgKind::Control: return code == e.notifyCode;
     }
     return false;
 }

@@ -11,7 +11,8 @@ namespace Platform {
 class CCmdTarget;
 class CCmdUI;
 
-// Routing codes of OnCmdMsg: a command, an update request, or a control's notification.
+// Routing codes of OnCmdMsg: a command (also a button click), an update request, a control's
+// command notification (its own code, such as EN_KILLFOCUS), or a toolbar control's notification.
 constexpr int CN_COMMAND = 0;
 constexpr int CN_UPDATE_COMMAND_UI = -1;
 // A notification's routing code carries its notification code in the low 16 bits.
@@ -28,7 +29,7 @@ struct AFX_CMDHANDLERINFO {
     CCmdTarget* pTarget = nullptr;
 };
 
-enum class MsgKind { Command, Update, Notify };
+enum class MsgKind { Command, Update, Notify, Control };
 
 // One row of a class's message map: which message it takes and how to call the handler.
 struct AFX_MSGMAP_ENTRY {
@@ -97,6 +98,15 @@ constexpr AFX_MSGMAP_ENTRY Update(int id)
 {
     return {MsgKind::Update, id, id, 0, [](CCmdTarget* t, int, void* extra) {
                 (static_cast<Detail::Class<Handler>*>(t)->*Handler)(static_cast<CCmdUI*>(extra));
+            }};
+}
+
+// A control's command notification (an edit box losing focus, a value changed): void OnX().
+template <auto Handler>
+constexpr AFX_MSGMAP_ENTRY Control(int id, int notifyCode)
+{
+    return {MsgKind::Control, id, id, notifyCode, [](CCmdTarget* t, int, void*) {
+                (static_cast<Detail::Class<Handler>*>(t)->*Handler)();
             }};
 }
 

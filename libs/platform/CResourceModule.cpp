@@ -41,4 +41,13 @@ bool CResourceModule::FindString(int id, CString& out)
     return false;
 }
 
+const DialogTemplate* CResourceModule::FindDialogTemplate(int id)
+{
+    for (const CResourceModule* m : Chain()) {
+        if (const DialogTemplate* t = m->LoadDialogTemplate(id))
+            return t;
+    }
+    return nullptr;
+}
+
 } // namespace Platform

@@ -1,10 +1,11 @@
 #pragma once
 
 #include "platform/CString.h"
+#include "platform/DialogTemplate.h"
 
 namespace Platform {
 
-// A module that holds resources (strings for now), registered in the process-wide chain that
+// A module that holds resources (strings and dialog templates), registered in the process-wide chain that
 // hosts search, as extension modules are on the classic platform.
 class CResourceModule {
 public:
@@ -12,6 +13,8 @@ public:
     virtual const char* GetName() const = 0;
     // Writes the string and answers true when the module has that id.
     virtual bool LoadString(int id, CString& out) const = 0;
+    // The module's dialog template with that id, or null.
+    virtual const DialogTemplate* LoadDialogTemplate(int id) const = 0;
 
     // The chain, searched in the order modules were added. Adding a module twice keeps one entry.
     static void AddToChain(const CResourceModule* module);
@@ -19,6 +22,8 @@ public:
     static bool IsInChain(const CResourceModule* module);
     // The first module's text for the id; false when no module has it.
     static bool FindString(int id, CString& out);
+    // The first module's dialog template with that id, or null.
+    static const DialogTemplate* FindDialogTemplate(int id);
 };
 
 } // namespace Platform

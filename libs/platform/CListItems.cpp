@@ -1,36 +1,36 @@
-#include "platform/CXTPControlComboBox.h"
+#include "platform/CListItems.h"
 
 namespace Platform {
 
-int CXTPControlComboBox::AddString(const CString& text)
+int CListItems::AddString(const CString& text)
 {
     m_items.push_back({text, 0});
     return GetCount() - 1;
 }
 
-void CXTPControlComboBox::ResetContent()
+void CListItems::ResetContent()
 {
     m_items.clear();
     m_current = -1;
 }
 
-CString CXTPControlComboBox::GetLBText(int index) const
+CString CListItems::GetLBText(int index) const
 {
     return Valid(index) ? m_items[static_cast<std::size_t>(index)].text : CString();
 }
 
-std::intptr_t CXTPControlComboBox::GetItemData(int index) const
+std::intptr_t CListItems::GetItemData(int index) const
 {
     return Valid(index) ? m_items[static_cast<std::size_t>(index)].data : 0;
 }
 
-void CXTPControlComboBox::SetItemData(int index, std::intptr_t data)
+void CListItems::SetItemData(int index, std::intptr_t data)
 {
     if (Valid(index))
         m_items[static_cast<std::size_t>(index)].data = data;
 }
 
-void CXTPControlComboBox::SetCurSel(int index)
+void CListItems::SetCurSel(int index)
 {
     m_current = Valid(index) ? index : -1;
 }

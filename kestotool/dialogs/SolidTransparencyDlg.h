@@ -1,0 +1,58 @@
+#pragma once
+
+#include "gdi/CTransparencyFlat.h"
+#include "platform/CEdit.h"
+#include "platform/CSliderCtrl.h"
+#include "platform/CSpinButtonCtrl.h"
+#include "tool/KestoToolImports.h"
+#include "ui/FillPreview.h"
+#include "ui/KCResourceDialog.h"
+
+namespace KestoTool {
+
+// Edits a flat transparency as a percentage (0 opaque .. 100 clear) through a slider, an edit
+// box and a spin button, with a preview. The dialog works on its own copy; GetTrans hands out
+// copies of it.
+class CSolidTransparencyDlg : public KestoUI::KCResourceDialog {
+public:
+    // Keeps a copy of transparency; without one, starts fully transparent (value 255).
+    CSolidTransparencyDlg(const KestoGDI::CTransparencyFlat* transparency, Platform::CWnd* parent);
+
+    RefPtr<KestoGDI::CFill> GetTrans() const;
+    // Holds a copy of transparency; the preview is not told.
+    void SetTrans(const KestoGDI::CTransparencyFlat* transparency);
+    // Holds a copy of transparency and shows it in the preview.
+    void UpdateTrans(const KestoGDI::CTransparencyFlat* transparency);
+    CRect GetBBox() const { return m_bounds; }
+
+    // Value 0..255 as a percentage and back, rounding halves up.
+    static int ToPercentage(int value);
+    static int FromPercentage(int percent);
+
+    const KestoUI::FillPreview& GetPreview() const { return m_preview; }
+    Platform::CSliderCtrl& GetSlider() { return m_slider; }
+    Platform::CEdit& GetEdit() { return m_edit; }
+    Platform::CSpinButtonCtrl& GetSpin() { return m_spin; }
+
+protected:
+    bool OnInitDialog() override;
+    void DoDataExchange(Platform::CDataExchange* pDX) override;
+    const Platform::AFX_MSGMAP* GetMessageMap() const override;
+    void OnHScroll(int code, int pos, Platform::CWnd* bar) override;
+    void OnVScroll(int code, int pos, Platform::CWnd* bar) override;
+    void OnEditKillFocus();
+
+private:
+    // Gives the held transparency the current percent and shows it.
+    void ApplyPercent();
+
+    KestoUI::FillPreview m_preview;
+    Platform::CEdit m_edit;
+    Platform::CSliderCtrl m_slider;
+    int m_percent = 0;
+    Platform::CSpinButtonCtrl m_spin;
+    RefPtr<KestoGDI::CTransparencyFlat> m_trans;
+    const CRect m_bounds{0, 0, 1000, 1000};
+};
+
+} // namespace KestoTool

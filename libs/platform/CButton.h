@@ -1,0 +1,12 @@
+#pragma once
+
+#include "platform/CWnd.h"
+
+namespace Platform {
+
+// A push button: a click tells the parent BN_CLICKED under the button's id.
+class CButton : public CWnd {
+    KESTO_DECLARE_DYNAMIC(CButton)
+};
+
+} // namespace Platform

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "platform/CListItems.h"
+#include "platform/CWnd.h"
+
+namespace Platform {
+
+// A drop-down list window.
+class CComboBox : public CWnd, public CListItems {
+    KESTO_DECLARE_DYNAMIC(CComboBox)
+};
+
+} // namespace Platform

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "platform/CWnd.h"
+
+namespace Platform {
+
+// A slider over a range of integers; moving it sends the parent horizontal scroll messages.
+class CSliderCtrl : public CWnd {
+    KESTO_DECLARE_DYNAMIC(CSliderCtrl)
+public:
+    void SetRange(int minimum, int maximum, bool redraw = false);
+    int GetRangeMin() const { return m_min; }
+    int GetRangeMax() const { return m_max; }
+    // Clamped into the range.
+    void SetPos(int pos);
+    int GetPos() const { return m_pos; }
+
+private:
+    int m_min = 0;
+    int m_max = 100;
+    int m_pos = 0;
+};
+
+} // namespace Platform

@@ -1,0 +1,101 @@
+#pragma once
+
+#include "platform/CCmdTarget.h"
+#include "platform/CRect.h"
+#include "platform/CString.h"
+#include "platform/WindowTypes.h"
+
+#include <memory>
+#include <vector>
+
+namespace Platform {
+
+// A window of the portable window tree: an id, a parent and ordered children, text, enabled
+// and visible state, a rectangle in its parent's client coordinates, timers and the keyboard
+// focus. The state lives here; a back end shows it (the headless one only records it) and
+// feeds user input back through the On... handlers.
+class CWnd : public CCmdTarget {
+    KESTO_DECLARE_DYNAMIC(CWnd)
+public:
+    CWnd() = default;
+    ~CWnd() override;
+    CWnd(const CWnd&) = delete;
+    CWnd& operator=(const CWnd&) = delete;
+
+    // Makes this a live window: a child of parent (appended to its window order) when given.
+    void Create(CWnd* parent, int id, const CRect& rect, const CString& text = {});
+    // Ends the window: its children are destroyed with it and it leaves its parent.
+    void DestroyWindow();
+    bool IsWindow() const { return m_created; }
+
+    int GetDlgCtrlID() const { return m_id; }
+    CWnd* GetParent() const { return m_parent; }
+    // The window after this one in its parent's window order, or null.
+    CWnd* GetNextWindow() const;
+    CWnd* GetDlgItem(int id) const;
+    int GetChildCount() const { return static_cast<int>(m_children.size()); }
+    CWnd* GetChild(int index) const;
+
+    // Takes over the dialog item with that id of parent: this window steps into its place in
+    // the window order with its id, text, rectangle and state. False when there is no such
+    // item or this window is already live.
+    bool SubclassDlgItem(int id, CWnd* parent);
+
+    void SetWindowText(const CString& text);
+    CString GetWindowText() const { return m_text; }
+
+    void EnableWindow(bool enable);
+    bool IsWindowEnabled() const { return m_enabled; }
+    void ShowWindow(int command);
+    bool IsWindowVisible() const { return m_visible; }
+
+    CRect GetWindowRect() const { return m_rect; }
+    void MoveWindow(const CRect& rect);
+    void SetWindowPos(int x, int y, int cx, int cy, unsigned flags);
+
+    void SetFocus();
+    bool HasFocus() const;
+    static CWnd* GetFocus();
+
+    void SetTimer(int id, int milliseconds);
+    void KillTimer(int id);
+
+    // Sends a command message to this window: notification code and id packed in param.
+    virtual bool OnCommand(unsigned param, CWnd* control);
+    // Sends this control's notification to its parent as a command message.
+    void NotifyParent(int code);
+
+    // Input and state handlers, called by the framework and the back end.
+    virtual void OnChar(unsigned ch, unsigned repeat, unsigned flags);
+    virtual void OnKeyDown(unsigned key, unsigned repeat, unsigned flags);
+    virtual void OnKeyUp(unsigned key, unsigned repeat, unsigned flags);
+    virtual void OnSetFocus(CWnd* previous);
+    virtual void OnKillFocus(CWnd* next);
+    virtual void OnTimer(int id);
+    virtual void OnHScroll(int code, int pos, CWnd* bar);
+    virtual void OnVScroll(int code, int pos, CWnd* bar);
+    virtual void OnShowWindow(bool show, int status);
+    virtual void OnEnable(bool enable);
+    virtual void OnWindowPosChanging(WINDOWPOS* pos);
+
+protected:
+    // Lets the back end mirror a change of this window's state.
+    void StateChanged();
+
+private:
+    void Detach();
+
+    bool m_created = false;
+    int m_id = 0;
+    CWnd* m_parent = nullptr;
+    std::vector<CWnd*> m_children;
+    std::vector<std::unique_ptr<CWnd>> m_owned;  // children made for a dialog template's items
+    CString m_text;
+    bool m_enabled = true;
+    bool m_visible = true;
+    CRect m_rect;
+
+    friend class CDialog;
+};
+
+} // namespace Platform

@@ -1,0 +1,125 @@
+#include "platform/HeadlessBackend.h"
+
+#include "platform/CButton.h"
+#include "platform/CDialog.h"
+#include "platform/CSliderCtrl.h"
+#include "platform/CSpinButtonCtrl.h"
+
+#include <algorithm>
+
+namespace Platform {
+
+HeadlessBackend& Headless()
+{
+    static HeadlessBackend backend;
+    return backend;
+}
+
+namespace {
+WindowBackend* g_backend = nullptr;
+} // namespace
+
+WindowBackend& Backend()
+{
+    return g_backend ? *g_backend : Headless();
+}
+
+WindowBackend* SetBackend(WindowBackend* backend)
+{
+    WindowBackend* previous = &Backend();
+    g_backend = backend;
+    return previous;
+}
+
+void HeadlessBackend::SetTimer(CWnd* window, int id, int milliseconds)
+{
+    KillTimer(window, id);
+    const int period = std::max(milliseconds, 1);
+    m_timers.push_back({window, id, period, m_now + period});
+}
+
+void HeadlessBackend::KillTimer(CWnd* window, int id)
+{
+    std::erase_if(m_timers, [&](const Timer& t) { return t.window == window && t.id == id; });
+}
+
+void HeadlessBackend::WindowDestroyed(CWnd* window)
+{
+    std::erase_if(m_timers, [&](const Timer& t) { return t.window == window; });
+    if (m_focus == window)
+        m_focus = nullptr;
+}
+
+int HeadlessBackend::RunModal(CDialog& dialog)
+{
+    if (m_script)
+        m_script(dialog);
+    return IDCANCEL;
+}
+
+void HeadlessBackend::AdvanceClock(int milliseconds)
+{
+    const long long until = m_now + std::max(milliseconds, 0);
+    for (;;) {
+        const auto next = std::min_element(m_timers.begin(), m_timers.end(),
+                                           [](const Timer& a, const Timer& b) { return a.due < b.due; });
+        if (next == m_timers.end() || next->due > until)
+            break;
+        m_now = next->due;
+        next->due += next->period;
+        CWnd* window = next->window;
+        const int id = next->id;
+        // The handler may kill or restart timers, so the entry is not used after this call.
+        window->OnTimer(id);
+    }
+    m_now = until;
+}
+
+void HeadlessBackend::Type(const CString& text)
+{
+    for (int i = 0; i < text.GetLength(); ++i) {
+        if (m_focus)
+            m_focus->OnChar(static_cast<unsigned>(text[i]), 1, 0);
+    }
+}
+
+void HeadlessBackend::PressKey(unsigned key)
+{
+    if (m_focus)
+        m_focus->OnKeyDown(key, 1, 0);
+    if (key == VK_BACK && m_focus)
+        m_focus->OnChar(VK_BACK, 1, 0);
+    if (m_focus)
+        m_focus->OnKeyUp(key, 1, 0);
+}
+
+void HeadlessBackend::MoveFocus(CWnd* window)
+{
+    if (window)
+        window->SetFocus();
+}
+
+void HeadlessBackend::DragSlider(CSliderCtrl& slider, int pos)
+{
+    slider.SetPos(pos);
+    if (CWnd* parent = slider.GetParent()) {
+        parent->OnHScroll(SB_THUMBTRACK, slider.GetPos(), &slider);
+        parent->OnHScroll(SB_ENDSCROLL, slider.GetPos(), &slider);
+    }
+}
+
+void HeadlessBackend::ClickSpin(CSpinButtonCtrl& spin, bool up)
+{
+    spin.Click(up);
+}
+
+void HeadlessBackend::ClickButton(CWnd& dialog, int id)
+{
+    // A click focuses the button first, so an edit box being typed in loses the focus.
+    if (CWnd* item = dialog.GetDlgItem(id)) {
+        item->SetFocus();
+        item->NotifyParent(BN_CLICKED);
+    }
+}
+
+} // namespace Platform

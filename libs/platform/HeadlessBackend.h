@@ -1,0 +1,70 @@
+#pragma once
+
+#include "platform/WindowBackend.h"
+
+#include <functional>
+#include <vector>
+
+namespace Platform {
+
+class CSliderCtrl;
+class CSpinButtonCtrl;
+class CString;
+
+// The back end without a display: window state stays in the window tree, time is a fake clock
+// that only moves when told, and a modal run plays a script. Tests and command-line tools drive
+// dialogs through it as a user would, deterministically.
+class HeadlessBackend : public WindowBackend {
+public:
+    using ModalScript = std::function<void(CDialog&)>;
+
+    void SetTimer(CWnd* window, int id, int milliseconds) override;
+    void KillTimer(CWnd* window, int id) override;
+    CWnd* GetFocus() const override { return m_focus; }
+    void SetFocus(CWnd* window) override { m_focus = window; }
+    // Plays the modal script (if any) on the dialog; a dialog the script did not end is
+    // cancelled.
+    int RunModal(CDialog& dialog) override;
+    void WindowChanged(CWnd*) override { ++m_changes; }
+    void WindowDestroyed(CWnd* window) override;
+
+    // The script the next modal runs play; it stays until replaced.
+    void SetModalScript(ModalScript script) { m_script = std::move(script); }
+
+    long long Now() const { return m_now; }
+    // Moves the clock on, firing every timer that falls due, in time order (a timer repeats
+    // until it is killed).
+    void AdvanceClock(int milliseconds);
+    int PendingTimers() const { return static_cast<int>(m_timers.size()); }
+    // How many state changes windows have reported.
+    long long ChangeCount() const { return m_changes; }
+
+    // User input to the focused window (nothing without a focus).
+    void Type(const CString& text);
+    void PressKey(unsigned key);
+    void MoveFocus(CWnd* window);
+    // The user drags a slider to pos and lets go.
+    void DragSlider(CSliderCtrl& slider, int pos);
+    void ClickSpin(CSpinButtonCtrl& spin, bool up);
+    // The user clicks the button with that id in the dialog (focusing it, as a click does).
+    void ClickButton(CWnd& dialog, int id);
+
+private:
+    struct Timer {
+        CWnd* window;
+        int id;
+        int period;
+        long long due;
+    };
+
+    long long m_now = 0;
+    long long m_changes = 0;
+    CWnd* m_focus = nullptr;
+    std::vector<Timer> m_timers;
+    ModalScript m_script;
+};
+
+// The headless back end that is installed by default.
+HeadlessBackend& Headless();
+
+} // namespace Platform

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "gdi/CFill.h"
+#include "platform/CWnd.h"
+
+namespace KestoUI {
+
+// A window that shows a fill over a rectangle of document units. It keeps its own copy of the
+// fill; each change counts as one refresh of the picture.
+class FillPreview : public Platform::CWnd {
+public:
+    void SetBounds(const Platform::CRect& bounds);
+    const Platform::CRect& GetBounds() const { return m_bounds; }
+    // Shows a copy of fill (null shows nothing).
+    void SetFill(const KestoGDI::CFill* fill);
+    const KestoGDI::CFill* GetFill() const { return m_fill.get(); }
+    int GetRefreshCount() const { return m_refreshes; }
+
+private:
+    Platform::CRect m_bounds;
+    Kernel::RefPtr<KestoGDI::CFill> m_fill;
+    int m_refreshes = 0;
+};
+
+} // namespace KestoUI

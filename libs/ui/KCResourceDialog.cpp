@@ -1,0 +1,12 @@
+#include "ui/KCResourceDialog.h"
+
+#include "platform/CResourceModule.h"
+
+namespace KestoUI {
+
+KCResourceDialog::KCResourceDialog(int templateId, Platform::CWnd* parent)
+    : CDialog(Platform::CResourceModule::FindDialogTemplate(templateId), parent), m_templateId(templateId)
+{
+}
+
+} // namespace KestoUI

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/CDialog.h"
+
+namespace KestoUI {
+
+// A dialog whose template comes from the resource modules by id (the library's localised
+// module first). A template no module has leaves the dialog unable to run: DoModal answers -1.
+class KCResourceDialog : public Platform::CDialog {
+public:
+    KCResourceDialog(int templateId, Platform::CWnd* parent);
+    int GetTemplateId() const { return m_templateId; }
+
+private:
+    int m_templateId;
+};
+
+} // namespace KestoUI

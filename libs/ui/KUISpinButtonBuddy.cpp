@@ -1,0 +1,14 @@
+#include "ui/KUISpinButtonBuddy.h"
+
+#include "platform/CSpinButtonCtrl.h"
+
+namespace KestoUI {
+
+void KUISpinButtonBuddy::Attach(Platform::CWnd* window, Platform::CWnd* buddy)
+{
+    m_window = window;
+    if (auto* spin = dynamic_cast<Platform::CSpinButtonCtrl*>(window))
+        spin->SetScrollTarget(buddy);
+}
+
+} // namespace KestoUI

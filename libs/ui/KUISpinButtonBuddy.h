@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/CWnd.h"
+
+namespace KestoUI {
+
+// Ties a spin button to the edit box it steps: the spin's clicks go to the edit box as
+// vertical scroll messages, and the edit box decides what a step means.
+class KUISpinButtonBuddy {
+public:
+    // Attaches to window (normally a spin button; anything else just rides along with the
+    // edit box) on behalf of buddy.
+    void Attach(Platform::CWnd* window, Platform::CWnd* buddy);
+    Platform::CWnd* GetWindow() const { return m_window; }
+
+private:
+    Platform::CWnd* m_window = nullptr;
+};
+
+} // namespace KestoUI

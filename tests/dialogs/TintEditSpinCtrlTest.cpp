@@ -1,0 +1,199 @@
+#include "dialogs/TintEditSpinCtrl.h"
+
+#include "kernel/VerifyReporter.h"
+#include "platform/CDialog.h"
+#include "platform/CSpinButtonCtrl.h"
+#include "platform/HeadlessBackend.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+using namespace KestoTool;
+using Platform::CString;
+using Platform::Headless;
+
+namespace {
+
+constexpr int kTintId = 100;
+constexpr int kSpinId = 101;
+constexpr int kOtherId = 102;
+
+const Platform::DialogTemplate kTemplate{
+    1, L"Tint", Platform::CRect(0, 0, 200, 100),
+    {{"Edit", kTintId, Platform::CRect(10, 10, 60, 30), L""},
+     {"Spin", kSpinId, Platform::CRect(60, 10, 75, 30), L""},
+     {"Edit", kOtherId, Platform::CRect(10, 40, 60, 60), L""}},
+};
+
+// A dialog holding a tint control; it logs the commands its children send.
+class TintDialog : public Platform::CDialog {
+public:
+    explicit TintDialog(bool updateWhileTyping, int bindId = kTintId)
+        : CDialog(&kTemplate, nullptr), tint(updateWhileTyping, true), m_bindId(bindId)
+    {
+    }
+    CTintEditSpinCtrl tint;
+    std::vector<std::string> commands;
+
+    bool OnCommand(unsigned param, Platform::CWnd* control) override
+    {
+        const int code = Platform::CommandCode(param);
+        if (Platform::CommandId(param) == kTintId && code != Platform::EN_CHANGE)
+            commands.push_back(code == CTintEditSpinCtrl::TintChanged          ? "changed"
+                               : code == CTintEditSpinCtrl::TintChangeFinished ? "finished"
+                                                                               : "other");
+        return CDialog::OnCommand(param, control);
+    }
+    Platform::CSpinButtonCtrl& Spin() { return dynamic_cast<Platform::CSpinButtonCtrl&>(*GetDlgItem(kSpinId)); }
+
+protected:
+    void DoDataExchange(Platform::CDataExchange* pDX) override { tint.DDX(pDX, m_bindId); }
+
+private:
+    int m_bindId;
+};
+
+using Script = std::function<void(TintDialog&)>;
+
+void RunModal(TintDialog& dialog, const Script& script)
+{
+    Headless().SetModalScript([&](Platform::CDialog& d) { script(static_cast<TintDialog&>(d)); });
+    dialog.DoModal();
+    Headless().SetModalScript(nullptr);
+}
+
+using Commands = std::vector<std::string>;
+
+} // namespace
+
+TEST(TintEditSpinCtrlText, TextFormsAndParsing)
+{
+    const struct {
+        int tint;
+        const wchar_t* text;
+    } shown[] = {{0, L"original"}, {30, L"+70%"}, {-30, L"-70%"}, {100, L"+0%"}, {-100, L"-0%"}, {1, L"+99%"}};
+    CTintEditSpinCtrl control(false, false);
+    for (const auto& row : shown) {
+        control.SetTint(row.tint);
+        EXPECT_EQ(control.GetWindowText(), CString(row.text)) << row.tint;
+        EXPECT_EQ(CTintEditSpinCtrl::ParseTint(control.GetWindowText()), row.tint) << row.tint;
+    }
+    const struct {
+        const wchar_t* text;
+        int tint;
+    } parsed[] = {{L"0", 100},   {L"-0", -100}, {L"abc", 0},  {L"150", 0},   {L"+70", 30},
+                  {L" 70% ", 30}, {L"-70", -30}, {L"100", 0}, {L"-101", 0}, {L"", 0}};
+    for (const auto& row : parsed)
+        EXPECT_EQ(CTintEditSpinCtrl::ParseTint(row.text), row.tint) << CString(row.text).ToUtf8();
+}
+
+TEST(TintEditSpinCtrl, ParsedValuesAreClampedToTheRange)
+{
+    TintDialog dialog(false);
+    dialog.tint.SetRange(-50, 50);
+    RunModal(dialog, [](TintDialog& d) {
+        d.tint.SetWindowText(L"10");  // tint 90
+        d.tint.UpdateDataFromControl();
+        EXPECT_EQ(d.tint.GetTint(), 50);
+    });
+}
+
+TEST(TintEditSpinCtrl, TypingWithUpdateWhileTypingNotifiesAfterHalfASecondOfQuiet)
+{
+    TintDialog dialog(true);
+    RunModal(dialog, [](TintDialog& d) {
+        d.tint.SetFocus();
+        d.tint.SetSel(0, -1);
+        Headless().Type(L"8");
+        Headless().AdvanceClock(400);
+        Headless().Type(L"0");  // restarts the timer
+        Headless().AdvanceClock(499);
+        EXPECT_TRUE(d.commands.empty());
+        Headless().AdvanceClock(1);
+        EXPECT_EQ(d.commands, Commands{"changed"});
+        EXPECT_EQ(d.tint.GetTint(), 20);
+        EXPECT_EQ(d.tint.GetWindowText(), CString(L"+80%"));
+        Headless().AdvanceClock(5000);  // the timer stopped itself
+        EXPECT_EQ(d.commands.size(), 1u);
+    });
+}
+
+TEST(TintEditSpinCtrl, TypingWithoutUpdateWaitsForEnterOrFocusLoss)
+{
+    TintDialog dialog(false);
+    RunModal(dialog, [](TintDialog& d) {
+        d.tint.SetFocus();
+        d.tint.SetSel(0, -1);
+        Headless().Type(L"-40");
+        Headless().AdvanceClock(1000);
+        EXPECT_EQ(d.tint.GetTint(), 0);
+        Headless().PressKey(Platform::VK_RETURN);  // parses, but neither redraws nor notifies
+        EXPECT_EQ(d.tint.GetTint(), -60);
+        EXPECT_EQ(d.tint.GetWindowText(), CString(L"-40"));
+        EXPECT_TRUE(d.commands.empty());
+        Headless().MoveFocus(d.GetDlgItem(kOtherId));
+        EXPECT_EQ(d.tint.GetWindowText(), CString(L"-40%"));
+        EXPECT_EQ(d.commands, (Commands{"other", "changed", "finished"}));  // EN_KILLFOCUS first
+    });
+}
+
+TEST(TintEditSpinCtrl, SpinStepsStopAtTheRangeEndsAndEndOfScrollFinishes)
+{
+    TintDialog dialog(false);
+    dialog.tint.SetRange(-2, 2);
+    RunModal(dialog, [](TintDialog& d) {
+        d.tint.SetTint(1);
+        Headless().ClickSpin(d.Spin(), true);
+        EXPECT_EQ(d.tint.GetTint(), 2);
+        Headless().ClickSpin(d.Spin(), true);
+        EXPECT_EQ(d.tint.GetTint(), 2);
+        EXPECT_EQ(d.tint.GetWindowText(), CString(L"+98%"));
+        EXPECT_EQ(d.commands, (Commands{"changed", "changed", "finished", "changed", "changed", "finished"}));
+        // End of scroll does not read the text again.
+        d.commands.clear();
+        d.tint.SetWindowText(L"junk 5");
+        d.tint.OnVScroll(Platform::SB_ENDSCROLL, 0, nullptr);
+        EXPECT_EQ(d.tint.GetTint(), 2);
+        EXPECT_EQ(d.commands, (Commands{"changed", "finished"}));
+        Headless().ClickSpin(d.Spin(), false);
+        // "junk 5" has a digit but no leading number: it reads as 0, tint 100, clamped to 2,
+        // then stepped down.
+        EXPECT_EQ(d.tint.GetTint(), 1);
+    });
+}
+
+TEST(TintEditSpinCtrl, SpinFollowsTheEditBoxWhenShownEnabledOrMoved)
+{
+    TintDialog dialog(false);
+    RunModal(dialog, [](TintDialog& d) {
+        ASSERT_NE(d.tint.GetSpinCtrl(), nullptr);
+        EXPECT_EQ(d.tint.GetSpinCtrl()->GetWindow(), &d.Spin());
+        d.tint.ShowWindow(Platform::SW_HIDE);
+        EXPECT_FALSE(d.Spin().IsWindowVisible());
+        d.tint.ShowWindow(Platform::SW_SHOW);
+        EXPECT_TRUE(d.Spin().IsWindowVisible());
+        d.tint.EnableWindow(false);
+        EXPECT_FALSE(d.Spin().IsWindowEnabled());
+        d.tint.MoveWindow(Platform::CRect(20, 15, 90, 35));  // moved by (10, 5) and resized
+        EXPECT_EQ(d.Spin().GetWindowRect(), Platform::CRect(70, 15, 85, 35));
+        d.tint.SetWindowPos(0, 0, 10, 10, Platform::SWP_NOMOVE);  // a resize alone leaves it
+        EXPECT_EQ(d.Spin().GetWindowRect(), Platform::CRect(70, 15, 85, 35));
+    });
+}
+
+TEST(TintEditSpinCtrl, BindingToAMissingItemIsReported)
+{
+    std::vector<Kernel::VerifyReport> reports;
+    Kernel::ScopedVerifyHandler handler([&](const Kernel::VerifyReport& r) { reports.push_back(r); });
+    TintDialog dialog(false, 999);
+    RunModal(dialog, [](TintDialog& d) {
+        EXPECT_FALSE(d.tint.IsWindow());
+        EXPECT_EQ(d.tint.GetSpinCtrl(), nullptr);
+    });
+    ASSERT_FALSE(reports.empty());
+    EXPECT_EQ(reports[0].module, "KestoUiGdi");
+    EXPECT_EQ(reports[0].file, "TintEditSpinCtrl");
+    EXPECT_EQ(reports[0].line, 73);
+}
