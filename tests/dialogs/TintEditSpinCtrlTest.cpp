@@ -161,6 +161,10 @@ TEST(TintEditSpinCtrl, SpinStepsStopAtTheRangeEndsAndEndOfScrollFinishes)
         // "junk 5" has a digit but no leading number: it reads as 0, tint 100, clamped to 2,
         // then stepped down.
         EXPECT_EQ(d.tint.GetTint(), 1);
+        d.tint.SetTint(-2);
+        Headless().ClickSpin(d.Spin(), false);
+        EXPECT_EQ(d.tint.GetTint(), -2);
+        EXPECT_EQ(d.tint.GetWindowText(), CString(L"-98%"));
     });
 }
 
