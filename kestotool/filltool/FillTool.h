@@ -82,6 +82,12 @@ public:
     // Registers the command images once per process and puts the edit command, the context
     // item and the type combo on the context bar.
     virtual void InitContextButtons(CXTPCommandBars* bars);
+    // Makes (or describes) the toolbar control of a fill tool command; the colour commands'
+    // controls come from the tool helper. False for anything else.
+    virtual int OnCreateControl(Platform::XTP_COMMANDBARS_CREATECONTROL* cc);
+    // Gives a made control its prompt; fills and selects the type combo; lets the colour
+    // controls show their colour.
+    virtual void OnAfterCreateControl(Platform::XTP_COMMANDBARS_CREATECONTROL* cc);
     // Whether a host command number is one of the fill tools'.
     virtual bool RecognisedID(unsigned int hostCommand) const;
     virtual void GetHandles(K2DArrayPoint* handles) const;
@@ -173,7 +179,30 @@ public:
     CPoint CalculatePerpendicular(CPoint p0, CPoint p1, CPoint p2, CPoint& centre, CPoint& point, bool keepFirst,
                                   bool keepSecond);
 
+    // Routes a host command number as the fill tools' own (-1, routed nowhere, when foreign).
+    bool OnCmdMsg(int id, int code, void* extra, Platform::AFX_CMDHANDLERINFO* info) override;
+
 protected:
+    const Platform::AFX_MSGMAP* GetMessageMap() const override;
+
+    // Commands of the context toolbar.
+    void OnFillEdit();
+    void OnUpdateFillEdit(Platform::CCmdUI* ui);
+    void OnTransEdit();
+    void OnFillEditType();
+    void OnUpdateFillEditType(Platform::CCmdUI* ui);
+    void OnFillStart();
+    void OnFillEnd();
+    void OnFillSolid();
+    void OnUpdateFillStart(Platform::CCmdUI* ui);
+    void OnUpdateFillEnd(Platform::CCmdUI* ui);
+    void OnUpdateFillSolid(Platform::CCmdUI* ui);
+    void OnFillTypeChange(Platform::NMXTPCONTROL* notify, long* result);
+
+    // The hint line for the case at hand: the selection's description followed by the text of
+    // fillStringId or transparencyStringId (-1 for no hint). False, out untouched, without one.
+    bool ComposeHintLine(CString* out, int fillStringId, int transparencyStringId) const;
+
     // Handle and control-line drawing, in document units mapped through the view transform.
     void DrawBoxControl(IRenderTarget* target, bool outlineOnly, const CPoint& point, unsigned long colour, int index) const;
     void DrawBoxControl(IRenderTarget* target, bool outlineOnly, const CPoint& point, const CColour* colour, int index) const;
@@ -192,6 +221,9 @@ protected:
     const K2DLtGeneral& GetViewTransform() const { return m_viewTransform; }
 
 private:
+    // Shows a colour node's colour on the colour control behind an update request.
+    void UpdateColourCommand(Platform::CCmdUI* ui, unsigned int node);
+
     // 3, 4 or 5, or a host command number translated to the library's.
     static unsigned int TranslateNode(unsigned int node);
     // The stop index a colour node stands for in a list of n stops; -1 for none.

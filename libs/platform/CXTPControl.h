@@ -1,16 +1,29 @@
 #pragma once
 
+#include "platform/CRect.h"
 #include "platform/CString.h"
 
 #include <cstdint>
 
 namespace Platform {
 
+// Control types with the toolkit's numbers; 0 means none was described.
 enum class XTPControlType {
-    Button,
-    ComboBox,
-    PopupColor,
-    Edit,
+    None = 0,
+    Button = 1,
+    Popup = 2,
+    SplitButtonPopup = 3,
+    ComboBox = 4,
+    Edit = 5,
+    PopupColor = 6,
+};
+
+// How a button shows itself.
+enum class XTPButtonStyle {
+    Automatic = 0,
+    Caption = 1,
+    Icon = 2,
+    IconAndCaption = 3,
 };
 
 // One item of a command bar as a plain object: the host maps it onto a real toolbar control.
@@ -22,8 +35,11 @@ public:
     XTPControlType GetType() const { return m_type; }
     int GetID() const { return m_id; }
     void SetID(int id) { m_id = id; }
-    int GetStyle() const { return m_style; }
-    void SetStyle(int style) { m_style = style; }
+    void SetType(XTPControlType type) { m_type = type; }
+    XTPButtonStyle GetStyle() const { return m_style; }
+    void SetStyle(XTPButtonStyle style) { m_style = style; }
+    const CRect& GetRect() const { return m_rect; }
+    void SetRect(const CRect& rect) { m_rect = rect; }
     const CString& GetCaption() const { return m_caption; }
     void SetCaption(const CString& caption) { m_caption = caption; }
     // Description, tooltip title and short caption separated by line feeds.
@@ -41,7 +57,8 @@ public:
 private:
     XTPControlType m_type;
     int m_id;
-    int m_style = 0;
+    XTPButtonStyle m_style = XTPButtonStyle::Automatic;
+    CRect m_rect;
     CString m_caption;
     CString m_prompt;
     std::uint32_t m_flags = 0;
@@ -53,6 +70,35 @@ private:
 class CXTPControlButton : public CXTPControl {
 public:
     explicit CXTPControlButton(int id = 0) : CXTPControl(XTPControlType::Button, id) {}
+};
+
+// A button that opens a drop-down.
+class CXTPControlPopup : public CXTPControl {
+public:
+    explicit CXTPControlPopup(int id = 0, XTPControlType type = XTPControlType::Popup) : CXTPControl(type, id) {}
+};
+
+// A button with a drop-down beside it.
+class CXTPControlSplitButtonPopup : public CXTPControlPopup {
+public:
+    explicit CXTPControlSplitButtonPopup(int id = 0) : CXTPControlPopup(id, XTPControlType::SplitButtonPopup) {}
+};
+
+// An edit box that shows a number with a unit (a percentage).
+class CXTPControlEdit : public CXTPControl {
+public:
+    explicit CXTPControlEdit(int id = 0) : CXTPControl(XTPControlType::Edit, id) {}
+    double GetValue() const { return m_value; }
+    void SetValue(double value) { m_value = value; }
+    const CString& GetUnit() const { return m_unit; }
+    void SetUnit(const CString& unit) { m_unit = unit; }
+    bool HasFocus() const { return m_focus; }
+    void SetFocused(bool focus) { m_focus = focus; }
+
+private:
+    double m_value = 0;
+    CString m_unit;
+    bool m_focus = false;
 };
 
 } // namespace Platform

@@ -6,9 +6,9 @@
 namespace Platform {
 
 // A button that shows and picks a colour.
-class CXTPControlPopupColor : public CXTPControl {
+class CXTPControlPopupColor : public CXTPControlPopup {
 public:
-    explicit CXTPControlPopupColor(int id = 0) : CXTPControl(XTPControlType::PopupColor, id) {}
+    explicit CXTPControlPopupColor(int id = 0) : CXTPControlPopup(id, XTPControlType::PopupColor) {}
 
     COLORREF GetColor() const { return m_colour; }
     void SetColor(COLORREF colour) { m_colour = colour; }

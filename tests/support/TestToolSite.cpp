@@ -46,6 +46,16 @@ void TestToolSite::Snap(const CPoint& in, CPoint& out)
     out = CPoint(toGrid(in.x), toGrid(in.y));
 }
 
+void TestToolSite::AddContextItem(int hostCommand)
+{
+    contextItems.push_back(hostCommand);
+    if (bars && tool) {
+        bars->CreateControl(
+            hostCommand, true, [this](Platform::XTP_COMMANDBARS_CREATECONTROL* cc) { return tool->OnCreateControl(cc); },
+            [this](Platform::XTP_COMMANDBARS_CREATECONTROL* cc) { tool->OnAfterCreateControl(cc); });
+    }
+}
+
 void TestToolSite::Record(const CFill* fill, const wchar_t* undoName, bool transparency, bool flag)
 {
     Commit c;

@@ -34,8 +34,10 @@ public:
     Kesto2D::K2DLtGeneral objectToSpread;
     unsigned long toolColour = 0xFF0000;
     KestoTool::IDocumentEx* document = nullptr;
-    // When set, each commit is given back to the tool with SetFill.
+    // When set, each commit is given back to the tool with SetFill, and context items become
+    // controls of the bars made through the tool, as a host's toolbar makes them.
     KestoTool::FillTool* tool = nullptr;
+    Platform::CXTPCommandBars* bars = nullptr;
 
     std::vector<Commit> commits;
     std::vector<int> contextItems;
@@ -53,7 +55,7 @@ public:
     void ConstrainAnglePolar(CPoint origin, CPoint& point) override { ConstrainAngle(origin, point, false); }
     void Snap(const CPoint& in, CPoint& out) override;
     Platform::CString GetCurrentSelectionDescription() override { return L"Rectangle: "; }
-    void AddContextItem(int hostCommand) override { contextItems.push_back(hostCommand); }
+    void AddContextItem(int hostCommand) override;
     KestoTool::IDocumentEx* GetDocument() override { return document; }
     void UpdateFill(const CFill* fill, const wchar_t* undoName) override { Record(fill, undoName, false, false); }
     void UpdateTransparency(const CFill* fill, const wchar_t* undoName, bool flag) override

@@ -1,0 +1,289 @@
+// FillTool's context toolbar, command map, editor commands and hint lines.
+#include "filltool/FillTool.h"
+
+#include "dialogs/EditorEntryPoints.h"
+#include "filltool/FillCommands.h"
+#include "gdi/CFillVector.h"
+#include "gdi/CTransparency.h"
+#include "geometry/Rounding.h"
+#include "kernel/VerifyReporter.h"
+#include "platform/CCmdUI.h"
+#include "platform/CXTPControlComboBox.h"
+#include "platform/CXTPControlPopupColor.h"
+#include "platform/ScreenMetrics.h"
+#include "tool/CommandImages.h"
+#include "tool/FillCommandTable.h"
+#include "tool/IDocumentEx.h"
+#include "tool/IToolHelper.h"
+#include "tool/Module.h"
+#include "tool/ToolIdMap.h"
+
+namespace KestoTool {
+
+using Platform::XTPButtonStyle;
+using Platform::XTPControlType;
+
+namespace {
+
+// The toolkit classes a control description can name.
+enum class ControlClass { Button, Popup, SplitButtonPopup, ComboBox, UnitEdit };
+
+bool DerivesFromPopup(ControlClass c)
+{
+    return c == ControlClass::Popup || c == ControlClass::SplitButtonPopup;
+}
+
+std::unique_ptr<Platform::CXTPControl> MakeControl(ControlClass c, int id)
+{
+    switch (c) {
+    case ControlClass::Button: return std::make_unique<Platform::CXTPControlButton>(id);
+    case ControlClass::Popup: return std::make_unique<Platform::CXTPControlPopup>(id);
+    case ControlClass::SplitButtonPopup: return std::make_unique<Platform::CXTPControlSplitButtonPopup>(id);
+    case ControlClass::ComboBox: return std::make_unique<Platform::CXTPControlComboBox>(id);
+    case ControlClass::UnitEdit: return std::make_unique<Platform::CXTPControlEdit>(id);
+    }
+    return nullptr;
+}
+
+// How to make the control of a command: its class, number, type and button style, a
+// rectangle in 96-dpi pixels, a caption, and whether it becomes a plain button off a toolbar.
+struct ControlDescription {
+    ControlClass controlClass;
+    int number;
+    XTPControlType type;
+    XTPButtonStyle style;
+    Platform::CRect rect;
+    const wchar_t* caption;
+    bool buttonOffToolbar;
+};
+
+// The edit buttons show icon and caption; the type combo is a combo; the opacity labels are
+// popups holding their boxes and the opacity boxes unit edits; fit to shape is a split button
+// whose drop-down offers the other fits.
+constexpr ControlDescription kControls[] = {
+    {ControlClass::Button, FillCmdEdit, XTPControlType::Button, XTPButtonStyle::IconAndCaption, {}, L"Edit Fill", false},
+    {ControlClass::Button, FillCmdTransEdit, XTPControlType::Button, XTPButtonStyle::IconAndCaption, {},
+     L"Edit Transparency", false},
+    {ControlClass::ComboBox, FillCmdEditType, XTPControlType::ComboBox, XTPButtonStyle::Automatic, {0, 0, 120, 22},
+     L"Fill Type", false},
+    {ControlClass::Popup, FillCmdOpacityStart, XTPControlType::Popup, XTPButtonStyle::Caption, {}, L"Opacity Start:",
+     true},
+    {ControlClass::Popup, FillCmdOpacityEnd, XTPControlType::Popup, XTPButtonStyle::Caption, {}, L"Opacity End:",
+     true},
+    {ControlClass::Popup, FillCmdOpacity, XTPControlType::Popup, XTPButtonStyle::Caption, {}, L"Opacity:", true},
+    {ControlClass::UnitEdit, FillCmdOpacityStartHandle, XTPControlType::Edit, XTPButtonStyle::Automatic,
+     {0, 0, 50, 22}, L"", false},
+    {ControlClass::UnitEdit, FillCmdOpacityEndHandle, XTPControlType::Edit, XTPButtonStyle::Automatic,
+     {0, 0, 50, 22}, L"", false},
+    {ControlClass::UnitEdit, FillCmdOpacityHandle, XTPControlType::Edit, XTPButtonStyle::Automatic, {0, 0, 50, 22},
+     L"", false},
+    {ControlClass::SplitButtonPopup, FillCmdFitFill, XTPControlType::SplitButtonPopup, XTPButtonStyle::Icon, {},
+     L"Fit to Shape", true},
+};
+
+const ControlDescription* FindControlDescription(int number)
+{
+    for (const ControlDescription& d : kControls) {
+        if (d.number == number)
+            return &d;
+    }
+    return nullptr;
+}
+
+// Position kept, width and height scaled from 96 dpi to the screen's.
+Platform::CRect ScaledForScreen(const Platform::CRect& r)
+{
+    const int dpi = Platform::ScreenMetrics::GetLogPixelsX();
+    return {r.left, r.top, r.left + Kesto2D::MulDiv(r.Width(), dpi, 96), r.top + Kesto2D::MulDiv(r.Height(), dpi, 96)};
+}
+
+int ToLibrary(int hostCommand)
+{
+    return ToolIdMap::GetInstance().MapIDToLibrary(FillToolKey, hostCommand);
+}
+
+bool RangeAllocated()
+{
+    return ToolIdMap::GetInstance().RangeAllocated(FillToolKey);
+}
+
+bool IsColourCommand(int number)
+{
+    return number == FillCmdStart || number == FillCmdEnd || number == FillCmdSolid;
+}
+
+} // namespace
+
+const Platform::AFX_MSGMAP* FillTool::GetMessageMap() const
+{
+    using namespace Platform::MessageMap;
+    static const Platform::AFX_MSGMAP_ENTRY entries[] = {
+        Command<&FillTool::OnFillEdit>(FillCmdEdit),
+        Update<&FillTool::OnUpdateFillEdit>(FillCmdEdit),
+        Command<&FillTool::OnTransEdit>(FillCmdTransEdit),
+        Command<&FillTool::OnFillEditType>(FillCmdEditType),
+        Update<&FillTool::OnUpdateFillEditType>(FillCmdEditType),
+        Command<&FillTool::OnFillStart>(FillCmdStart),
+        Update<&FillTool::OnUpdateFillStart>(FillCmdStart),
+        Command<&FillTool::OnFillEnd>(FillCmdEnd),
+        Update<&FillTool::OnUpdateFillEnd>(FillCmdEnd),
+        Command<&FillTool::OnFillSolid>(FillCmdSolid),
+        Update<&FillTool::OnUpdateFillSolid>(FillCmdSolid),
+        Notify<&FillTool::OnFillTypeChange>(FillCmdEditType, 100),
+    };
+    static const Platform::AFX_MSGMAP map{CCmdTarget::GetThisMessageMap(), entries};
+    return &map;
+}
+
+bool FillTool::OnCmdMsg(int id, int code, void* extra, Platform::AFX_CMDHANDLERINFO* info)
+{
+    return CCmdTarget::OnCmdMsg(ToLibrary(id), code, extra, info);
+}
+
+int FillTool::OnCreateControl(Platform::XTP_COMMANDBARS_CREATECONTROL* cc)
+{
+    if (!cc || !RangeAllocated())
+        return false;
+    const int number = ToLibrary(cc->nID);
+    if (number == -1)
+        return false;
+    if (IsColourCommand(number))
+        return GetToolHelper()->CreateColourControl(cc);
+    const ControlDescription* d = FindControlDescription(number);
+    if (!d)
+        return false;
+    if (d->controlClass == ControlClass::Popup && d->type != XTPControlType::None) {
+        const bool plainButton = d->buttonOffToolbar && !cc->bToolBar;
+        cc->controlType = plainButton ? XTPControlType::Button : d->type;
+        cc->buttonStyle = d->style;
+        return true;
+    }
+    if (DerivesFromPopup(d->controlClass) && d->buttonOffToolbar && !cc->bToolBar) {
+        cc->pControl = std::make_unique<Platform::CXTPControlButton>(cc->nID);
+        return true;
+    }
+    std::unique_ptr<Platform::CXTPControl> control = MakeControl(d->controlClass, cc->nID);
+    if (d->type != XTPControlType::None)
+        control->SetType(d->type);
+    if (d->style != XTPButtonStyle::Automatic)
+        control->SetStyle(d->style);
+    control->SetRect(ScaledForScreen(d->rect));
+    control->SetCaption(d->caption);
+    cc->pControl = std::move(control);
+    return true;
+}
+
+void FillTool::OnAfterCreateControl(Platform::XTP_COMMANDBARS_CREATECONTROL* cc)
+{
+    if (!cc || !RangeAllocated() || !cc->pControl)
+        return;
+    const int number = ToLibrary(cc->nID);
+    if (number == -1)
+        return;
+    Platform::CXTPControl* control = cc->pControl.get();
+    if (const FillCommandRow* row = FindFillCommand(number)) {
+        const CString prompt = Module::Get().LoadString(row->promptId);
+        if (!prompt.IsEmpty())
+            control->SetPrompt(prompt);
+    }
+    if (number == FillCmdEditType) {
+        if (IsTransparency()) {
+            PopulateTransTypeCombo(GetToolHelper(), control);
+            SetCurrentTransComboIndex(control, GetFill());
+        } else {
+            PopulateFillTypeCombo(GetToolHelper(), control);
+            SetCurrentFillComboIndex(control, GetFill());
+        }
+    }
+    if (IsColourCommand(number))
+        control->SetFlags(control->GetFlags() & ~4u);
+}
+
+void FillTool::OnFillEdit()
+{
+    const K2DLtGeneral toSpread = GetAppObjectToSpreadTransform();
+    const CRect box = GetObjectBBox();
+    RefPtr<CFill> copy = GetFill()->Clone();
+    auto* vector = dynamic_cast<KestoGDI::CFillVector*>(copy.get());
+    K2DLtGeneral vectorTransform;
+    copy->Transform(toSpread);
+    if (vector) {
+        vectorTransform = vector->GetTransform();
+        vector->UpdateBBox(box, K2DLtGeneral());
+    }
+    RefPtr<CFill> edited = EditFill(GetDocument(), copy.get(), box, nullptr, toSpread);
+    if (!edited)
+        return;
+    RefPtr<CFill> result = edited->Clone();
+    const K2DLtGeneral back = toSpread.HasInverse() ? toSpread.GetInverse() : K2DLtGeneral();
+    if (auto* editedVector = dynamic_cast<KestoGDI::CFillVector*>(result.get())) {
+        editedVector->UpdateBBox(box, vectorTransform);
+        editedVector->Transform(back);
+        editedVector->UpdateBBox(box, editedVector->GetTransform());
+    } else {
+        result->Transform(back);
+    }
+    UpdateFill(result.get(), nullptr);
+}
+
+void FillTool::OnTransEdit()
+{
+    const K2DLtGeneral toSpread = GetAppObjectToSpreadTransform();
+    RefPtr<CFill> copy = GetFill()->Clone();
+    copy->Transform(toSpread);
+    RefPtr<CFill> edited = EditTransparency(GetDocument(), copy.get(), GetObjectBBox(), nullptr);
+    if (!edited)
+        return;
+    RefPtr<CFill> result = edited->Clone();
+    if (toSpread.HasInverse())
+        result->Transform(toSpread.GetInverse());
+    UpdateTransparency(result.get(), nullptr, false);
+}
+
+// The edit command's update and the type combo's command have nothing to do; they exist so that
+// the toolkit finds the commands handled.
+void FillTool::OnUpdateFillEdit(Platform::CCmdUI*) {}
+void FillTool::OnFillEditType() {}
+void FillTool::OnUpdateFillEditType(Platform::CCmdUI*) {}
+
+void FillTool::OnFillStart() { AdjustNodeColour(FillCmdStart); }
+void FillTool::OnFillEnd() { AdjustNodeColour(FillCmdEnd); }
+void FillTool::OnFillSolid() { AdjustNodeColour(FillCmdSolid); }
+void FillTool::OnUpdateFillStart(Platform::CCmdUI* ui) { UpdateColourCommand(ui, FillCmdStart); }
+void FillTool::OnUpdateFillEnd(Platform::CCmdUI* ui) { UpdateColourCommand(ui, FillCmdEnd); }
+void FillTool::OnUpdateFillSolid(Platform::CCmdUI* ui) { UpdateColourCommand(ui, FillCmdSolid); }
+
+void FillTool::UpdateColourCommand(Platform::CCmdUI* ui, unsigned int node)
+{
+    auto* popup = dynamic_cast<Platform::CXTPControlPopupColor*>(ui->GetControl());
+    if (std::unique_ptr<CColour> colour = GetNodeColour(node); colour && popup)
+        popup->SetColor(colour->GetRGB());
+    ui->Enable(true);
+}
+
+void FillTool::OnFillTypeChange(Platform::NMXTPCONTROL* notify, long*)
+{
+    auto* combo = dynamic_cast<Platform::CXTPControlComboBox*>(notify ? notify->pControl : nullptr);
+    if (!combo) {
+        Kernel::VerifyFailed("KestoTool", "FillTool", 1060);
+        return;
+    }
+    const auto type = static_cast<int>(combo->GetItemData(combo->GetCurSel()));
+    if (IsTransparency()) {
+        if (const CRuntimeClass* c = KestoGDI::CTransparency::GetRuntimeClassFromType(type))
+            SetTransparencyType(c);
+    } else if (const CRuntimeClass* c = CFill::GetRuntimeClassFromType(type)) {
+        SetFillType(c);
+    }
+}
+
+bool FillTool::ComposeHintLine(CString* out, int fillStringId, int transparencyStringId) const
+{
+    const int id = IsTransparency() ? transparencyStringId : fillStringId;
+    if (id == -1 || !out)
+        return false;
+    out->Format(L"%s%s", GetCurrentSelectionDescription().GetString(), Module::Get().LoadString(id).GetString());
+    return true;
+}
+
+} // namespace KestoTool

@@ -1,0 +1,197 @@
+#include "dialogs/EditorEntryPoints.h"
+
+#include "gdi/CFillBitmap.h"
+#include "gdi/CFillDiscreteMesh.h"
+#include "gdi/CFillFourColour.h"
+#include "gdi/CFillFractal.h"
+#include "gdi/CFillLinear.h"
+#include "gdi/CFillNone.h"
+#include "gdi/CFillSolid.h"
+#include "gdi/CFillThreeColour.h"
+#include "gdi/CFillVector.h"
+#include "gdi/CRGBColour.h"
+#include "gdi/CTransparencyBitmap.h"
+#include "gdi/CTransparencyFlat.h"
+#include "gdi/CTransparencyFractal.h"
+#include "gdi/CTransparencyLinear.h"
+#include "gdi/CTransparencyNone.h"
+#include "gdi/CTransparencyThreePoint.h"
+#include "platform/CXTPControlComboBox.h"
+#include "platform/HeadlessBackend.h"
+#include "resources/ResourceIds.h"
+#include "support/TestDocument.h"
+#include "ui/KCResourceDialog.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+using namespace KestoTool;
+using namespace KestoGDI;
+using Platform::Headless;
+
+namespace {
+
+constexpr int kChooser = -2;  // the host's colour chooser rather than a dialog
+constexpr int kNothing = -3;  // no editor at all
+
+struct EditorTest : testing::Test {
+    KestoTest::TestDocument document;
+    int opened = kNothing;
+    Platform::CWnd* openedParent = reinterpret_cast<Platform::CWnd*>(1);
+    bool thirdButtonShown = false;
+
+    // Each modal run records which template it showed, then confirms (or cancels).
+    void Script(bool confirm)
+    {
+        Headless().SetModalScript([this, confirm](Platform::CDialog& d) {
+            opened = static_cast<KestoUI::KCResourceDialog&>(d).GetTemplateId();
+            openedParent = d.GetParent();
+            if (Platform::CWnd* third = d.GetDlgItem(IDC_PREVIEW_EXPAND))
+                thirdButtonShown = third->IsWindowVisible();
+            Headless().ClickButton(d, confirm ? Platform::IDOK : Platform::IDCANCEL);
+        });
+    }
+    void TearDown() override { Headless().SetModalScript(nullptr); }
+
+    RefPtr<CFill> Edit(const CFill& fill)
+    {
+        opened = kNothing;
+        const std::size_t picks = document.helper.pickerCurrents.size();
+        RefPtr<CFill> result = EditFill(&document, &fill, CRect(0, 0, 100, 100), nullptr, {});
+        if (document.helper.pickerCurrents.size() > picks)
+            opened = kChooser;
+        return result;
+    }
+};
+
+struct RouteRow {
+    std::function<RefPtr<CFill>()> make;
+    int expected;
+};
+
+} // namespace
+
+TEST_F(EditorTest, EachFillReachesItsEditorAndComesBackAsANewEqualFill)
+{
+    Script(true);
+    const RouteRow rows[] = {
+        {[] { return Kernel::MakeRef<CFillLinear>(); }, IDD_GRADIENT_FILL},
+        {[] { return Kernel::MakeRef<CFillThreeColour>(); }, IDD_THREE_FOUR_COLOUR_FILL},
+        {[] { return Kernel::MakeRef<CFillFourColour>(); }, IDD_THREE_FOUR_COLOUR_FILL},
+        {[] { return Kernel::MakeRef<CFillFractal>(); }, IDD_PLASMA_FILL},
+        {[] { return Kernel::MakeRef<CFillVector>(); }, IDD_VECTOR_FILL},
+        {[] { return Kernel::MakeRef<CFillBitmap>(); }, kNothing},
+        {[] { return Kernel::MakeRef<CFillDiscreteMesh>(); }, kNothing},
+    };
+    for (const auto& row : rows) {
+        const RefPtr<CFill> fill = row.make();
+        const RefPtr<CFill> before = fill->Clone();
+        const RefPtr<CFill> result = Edit(*fill);
+        SCOPED_TRACE(fill->GetRuntimeClass()->m_lpszClassName);
+        EXPECT_EQ(opened, row.expected);
+        EXPECT_EQ(bool(result), row.expected != kNothing);
+        if (result) {
+            EXPECT_NE(result.get(), fill.get());
+            EXPECT_TRUE(result->IsEqual(*fill));
+        }
+        EXPECT_TRUE(fill->IsEqual(*before));
+    }
+}
+
+TEST_F(EditorTest, CancelGivesNothingAndTheHelperSettingReachesTheDialog)
+{
+    Script(false);
+    document.helper.dialogSetting = false;
+    EXPECT_FALSE(Edit(CFillLinear()));
+    EXPECT_EQ(opened, IDD_GRADIENT_FILL);
+    EXPECT_FALSE(thirdButtonShown);
+    Script(true);
+    document.helper.dialogSetting = true;
+    EXPECT_TRUE(Edit(CFillLinear()));
+    EXPECT_TRUE(thirdButtonShown);
+}
+
+TEST_F(EditorTest, SolidAndNoneFillsGoToTheColourChooser)
+{
+    CFillSolid solid(CRGBColour(0x0000FF), true);
+    solid.SetBlendMode(BlendMode::Multiply);
+    solid.SetOverprint(true);
+    document.helper.Answer(CRGBColour(0x00FF00));
+    const RefPtr<CFill> recoloured = Edit(solid);
+    EXPECT_EQ(opened, kChooser);
+    EXPECT_EQ(document.helper.pickerCurrents.back()->GetRGB(), 0x0000FFu);
+    const auto& result = dynamic_cast<const CFillSolid&>(*recoloured);
+    EXPECT_EQ(result.GetColour().GetRGB(), 0x00FF00u);
+    EXPECT_EQ(result.GetBlendMode(), BlendMode::Multiply);
+    EXPECT_TRUE(result.GetOverprint());
+
+    document.helper.Answer(CRGBColour(0x00FF00));
+    const RefPtr<CFill> fromNone = Edit(CFillNone());
+    EXPECT_EQ(document.helper.pickerCurrents.back(), nullptr);
+    EXPECT_EQ(fromNone->GetRuntimeClass(), CFillSolid::GetThisClass());
+    EXPECT_EQ(fromNone->GetBlendMode(), BlendMode::Normal);
+    EXPECT_FALSE(fromNone->GetOverprint());
+
+    document.helper.Cancel();
+    EXPECT_FALSE(Edit(solid));
+}
+
+TEST_F(EditorTest, TransparenciesReachTheirEditorsWithOrWithoutADocument)
+{
+    Script(true);
+    const RouteRow rows[] = {
+        {[] { return Kernel::MakeRef<CTransparencyFlat>(); }, IDD_SOLID_TRANSPARENCY},
+        {[] { return Kernel::MakeRef<CTransparencyNone>(); }, IDD_SOLID_TRANSPARENCY},
+        {[] { return Kernel::MakeRef<CTransparencyThreePoint>(); }, IDD_THREE_FOUR_COLOUR_TRANSPARENCY},
+        {[] { return Kernel::MakeRef<CTransparencyFractal>(); }, IDD_PLASMA_FILL},
+        {[] { return Kernel::MakeRef<CTransparencyLinear>(); }, IDD_GRADIENT_TRANSPARENCY},
+        {[] { return Kernel::MakeRef<CTransparencyBitmap>(); }, kNothing},
+    };
+    Platform::CWnd owner;
+    for (const auto& row : rows) {
+        const RefPtr<CFill> t = row.make();
+        opened = kNothing;
+        const RefPtr<CFill> result = EditTransparency(nullptr, t.get(), CRect(0, 0, 10, 10), &owner);
+        SCOPED_TRACE(t->GetRuntimeClass()->m_lpszClassName);
+        EXPECT_EQ(opened, row.expected);
+        EXPECT_EQ(bool(result), row.expected != kNothing);
+        if (row.expected == IDD_SOLID_TRANSPARENCY) {
+            EXPECT_EQ(openedParent, nullptr);  // this dialog never gets the parent
+        } else if (row.expected != kNothing) {
+            EXPECT_FALSE(thirdButtonShown);  // no document: the setting is no
+        }
+    }
+}
+
+TEST(TypeCombos, FilledOnceWithTheOfferedKindsAndKeptInStep)
+{
+    KestoTest::TestToolHelper helper;
+    helper.unavailableFillTypes = {FillType::DiscreteMesh};
+    Platform::CXTPControlComboBox fills;
+    PopulateFillTypeCombo(&helper, &fills);
+    PopulateFillTypeCombo(&helper, &fills);
+    EXPECT_EQ(fills.GetCount(), 12);
+    EXPECT_EQ(fills.GetDropDownItemCount(), 13);
+    EXPECT_EQ(fills.GetLBText(2), CString(L"Linear"));
+    EXPECT_EQ(fills.GetItemData(6), FillType::Plasma);
+
+    SetCurrentFillComboIndex(&fills, std::make_unique<CFillFractal>().get());
+    EXPECT_EQ(fills.GetCurSel(), 6);
+    SetCurrentFillComboIndex(&fills, std::make_unique<CFillDiscreteMesh>().get());
+    EXPECT_EQ(fills.GetCurSel(), -1);
+
+    Platform::CXTPControlComboBox transparencies;
+    PopulateTransTypeCombo(&helper, &transparencies);
+    EXPECT_EQ(transparencies.GetCount(), 11);
+    EXPECT_EQ(transparencies.GetDropDownItemCount(), 0);  // left alone, unlike the fill combo
+    SetCurrentTransComboIndex(&transparencies, std::make_unique<CTransparencyLinear>().get());
+    EXPECT_EQ(transparencies.GetCurSel(), 2);
+    SetCurrentTransComboIndex(&transparencies, std::make_unique<CFillVector>().get());
+    EXPECT_EQ(transparencies.GetCurSel(), -1);
+
+    Platform::CXTPControlButton notACombo;
+    PopulateFillTypeCombo(&helper, &notACombo);  // ignored
+    SetCurrentFillComboIndex(&fills, nullptr);
+    EXPECT_EQ(fills.GetCurSel(), -1);
+}
