@@ -32,17 +32,14 @@ FillTool::FillTool(const CFill* fill, IToolSite* site) : m_pSite(site)
 
 FillTool::~FillTool()
 {
-    if (const CFill* fill = m_pFill.exchange(nullptr))
+    if (CFill* fill = m_pFill.exchange(nullptr))
         fill->Release();
 }
 
 void FillTool::SetFill(const CFill* fill)
 {
-    const CFill* copy = nullptr;
-    if (fill) {
-        copy = fill->Clone().Detach();
-    }
-    if (const CFill* previous = m_pFill.exchange(copy))
+    CFill* copy = fill ? fill->Clone().Detach() : nullptr;
+    if (CFill* previous = m_pFill.exchange(copy))
         previous->Release();
 }
 

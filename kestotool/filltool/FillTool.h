@@ -218,6 +218,9 @@ protected:
     void AddContextItem(int libraryCommand);
     void SetHotNode(int node) { m_nHotNode = node; }
     IToolSite* GetSite() const { return m_pSite; }
+    // The tool's own copy, which drags reshape in place; the host reads it back through GetFill
+    // when the gesture ends.
+    CFill* GetWorkingFill() const { return m_pFill.load(); }
     const K2DLtGeneral& GetViewTransform() const { return m_viewTransform; }
 
 private:
@@ -231,7 +234,7 @@ private:
 
     IToolSite* const m_pSite;
     int m_nCurrentNode = 0;
-    std::atomic<const CFill*> m_pFill{nullptr};
+    std::atomic<CFill*> m_pFill{nullptr};
     CPoint m_ptDragStart;
     int m_nHotNode = -1;
     bool m_bGhostNode = false;

@@ -32,6 +32,8 @@ public:
     virtual bool IsTransparencyTypeAvailable(KestoGDI::CFill* sample) = 0;
     // A yes/no setting handed to the editor dialogs before they are shown; the host's to define.
     virtual bool GetDialogSetting() = 0;
+    // Whether the host offers the lock-ratio command on the gradient tools' toolbar.
+    virtual bool IsLockRatioAvailable() = 0;
 };
 
 } // namespace KestoTool

@@ -22,6 +22,7 @@ public:
     std::set<int> unavailableFillTypes;
     std::set<int> unavailableTransparencyTypes;
     bool dialogSetting = true;
+    bool lockRatioAvailable = true;
     int colourControlsCreated = 0;
 
     void Answer(const CColour& colour) { pickerAnswers.push_back(colour.Clone()); }
@@ -34,6 +35,7 @@ public:
     bool IsFillTypeAvailable(KestoGDI::CFill* sample) override;
     bool IsTransparencyTypeAvailable(KestoGDI::CFill* sample) override;
     bool GetDialogSetting() override { return dialogSetting; }
+    bool IsLockRatioAvailable() override { return lockRatioAvailable; }
 
 private:
     CColour* NextAnswer(const CColour* current);

@@ -56,6 +56,24 @@ void TestToolSite::AddContextItem(int hostCommand)
     }
 }
 
+void TestToolSite::Drag(KestoTool::FillTool& dragged, CPoint from, std::initializer_list<CPoint> moves, unsigned flags)
+{
+    inDrag = true;
+    CPoint p = from;
+    dragged.OnDragStart(p, flags);
+    for (CPoint move : moves) {
+        p = move;
+        dragged.OnDragChange(p, flags);
+    }
+    dragged.OnDragEnd(p, flags);
+    inDrag = false;
+    Commit c;
+    c.fill = dragged.GetFill()->Clone();
+    c.transparency = dragged.IsTransparency();
+    c.gesture = true;
+    commits.push_back(std::move(c));
+}
+
 void TestToolSite::Record(const CFill* fill, const wchar_t* undoName, bool transparency, bool flag)
 {
     Commit c;

@@ -22,6 +22,7 @@ public:
         std::wstring name;
         bool transparency = false;
         bool flag = false;
+        bool gesture = false;  // recorded by the host at the end of a drag, not sent by the tool
     };
 
     double pixelToPaper = 1.0;       // paper units per screen pixel
@@ -40,6 +41,10 @@ public:
     Platform::CXTPCommandBars* bars = nullptr;
 
     std::vector<Commit> commits;
+
+    // Plays a drag as a host does: start, each move, end, with the flags (Shift 4, Ctrl 8), and
+    // then records the geometry the tool holds as the gesture's commit.
+    void Drag(KestoTool::FillTool& dragged, CPoint from, std::initializer_list<CPoint> moves, unsigned flags = 0);
     std::vector<int> contextItems;
     std::vector<const Platform::CRuntimeClass*> typeRequests;
 

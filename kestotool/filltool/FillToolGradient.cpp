@@ -1,0 +1,506 @@
+#include "filltool/FillToolGradient.h"
+
+#include "filltool/FillCommands.h"
+#include "gdi/CFillBitmap.h"
+#include "gdi/CFillGradient.h"
+#include "gdi/CMonoColour.h"
+#include "geometry/K2DStraightLine.h"
+#include "geometry/Rounding.h"
+#include "platform/CCmdUI.h"
+#include "platform/WindowTypes.h"
+#include "tool/IDocumentEx.h"
+#include "tool/IToolHelper.h"
+#include "tool/Module.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace KestoTool {
+
+using KestoGDI::CFillWithStops;
+using KestoGDI::CMonoColour;
+using KestoGDI::ColourIntPairs;
+using Kesto2D::RoundHalfUp;
+
+KESTO_IMPLEMENT_DYNAMIC(FillToolGradient, FillTool)
+
+namespace {
+
+constexpr int kLevelBoxCommitCode = 65536;
+constexpr int kRotateFillUndo = 123;
+constexpr int kRotateTransparencyUndo = 131;
+
+} // namespace
+
+const ColourIntPairs& FillToolGradient::GetGradientNodes() const
+{
+    static const ColourIntPairs none;
+    const auto* withStops = dynamic_cast<const CFillWithStops*>(GetFill());
+    return withStops ? withStops->GetColourIntPairs() : none;
+}
+
+int FillToolGradient::GetNumGradientNodes() const
+{
+    return CanCreateNewNode() ? GetNodeCount() : 2;
+}
+
+bool FillToolGradient::IsLastNode(int handle) const
+{
+    return CanCreateNewNode() ? handle == GetNodeCount() - 1 : handle == 1;
+}
+
+int FillToolGradient::GetExtendedNode() const
+{
+    const int c = GetCurrentNode();
+    return c < GetNumGradientNodes() ? -1 : c - GetNumGradientNodes();
+}
+
+const CColour* FillToolGradient::GetGradientColour(int index) const
+{
+    const KestoGDI::CColourIntPair* stop = index == -1 ? nullptr : GetGradientNodes().GetAt(index);
+    return stop ? &stop->GetColour() : nullptr;
+}
+
+const CColour* FillToolGradient::ColourFromNode() const
+{
+    const int index = GradientIndex(GetCurrentNode());
+    return index == -1 ? nullptr : GetGradientColour(index);
+}
+
+int FillToolGradient::IndexFromPoint(const CPoint& point) const
+{
+    K2DArrayPoint handles;
+    BaseGetHandles(&handles);
+    return HitPoint(handles, point);
+}
+
+void FillToolGradient::AddGradientHandles(K2DArrayPoint* handles, CPoint start, CPoint end) const
+{
+    const ColourIntPairs& stops = GetGradientNodes();
+    for (int i = 0; i < stops.GetSize(); ++i) {
+        if (CanCreateNewNode() || i == 0 || i == stops.GetSize() - 1)
+            handles->Add(stops.GetAt(i)->GetValue(start, end));
+    }
+}
+
+int FillToolGradient::GetNodeValueFromPoints(CPoint start, CPoint end, CPoint p) const
+{
+    Kesto2D::K2DStraightLine line;
+    if (!line.SetFinite(start, end))
+        return -1;
+    const K2DDblPoint q = line.ClosestPointOnLine(p);
+    return static_cast<int>(K2DDblPoint(start).Distance(q) * 10000.0 / line.GetLength());
+}
+
+bool FillToolGradient::IsPointOnNodeLine(CPoint a, CPoint b, CPoint p, int tolerance) const
+{
+    if (tolerance == -1)
+        tolerance = GetDefaultTolerance();
+    Kesto2D::K2DStraightLine line;
+    line.SetFinite(a, b);
+    return line.IsPointOnLine(p, tolerance);
+}
+
+int FillToolGradient::AddGradientNode(int position)
+{
+    ColourIntPairs stops = GetGradientNodes();
+    const std::unique_ptr<CColour> colour = stops.MakeColourForValue(position);
+    if (!colour)
+        return 0;
+    stops.Add(*colour, position);
+    stops.Sort();
+    const int index = std::max(stops.Find(position, colour.get()), 0);
+    SetGradientNodes(stops);
+    return index;
+}
+
+int FillToolGradient::AddGradientNode(const CColour& colour, int position)
+{
+    const CMonoColour level(255 - colour.GetIntensity());
+    const CColour& used = IsTransparency() ? static_cast<const CColour&>(level) : colour;
+    ColourIntPairs stops = GetGradientNodes();
+    stops.Add(used, position);
+    stops.Sort();
+    const int index = std::max(stops.Find(position, &used), 0);
+    SetGradientNodes(stops);
+    return index;
+}
+
+bool FillToolGradient::CreateNewNode(const CPoint& point)
+{
+    if (!CanCreateNewNode() || !IsPointOnLine(point, -1))
+        return false;
+    const int position = GetPercentageFromPoint(point);
+    if (position == -1)
+        return false;
+    AddGradientNode(position);
+    return true;
+}
+
+bool FillToolGradient::OnFillCellDrop(CPoint& point, const CColour* colour)
+{
+    if (!colour)
+        return false;
+    const int h = IndexFromPoint(point);
+    if (h != -1) {
+        SetCurrentNode(h);
+        SetGradientColour(GradientIndex(h), colour);
+        return true;
+    }
+    if (IsPointOnLine(point, -1) && CanCreateNewNode()) {
+        AddGradientNode(*colour, GetPercentageFromPoint(point));
+        return true;
+    }
+    return false;
+}
+
+int FillToolGradient::SetGradientValue(int index, int value)
+{
+    ColourIntPairs stops = GetGradientNodes();
+    if (stops.IsEmpty())
+        return 0;
+    index = std::clamp(index, 0, stops.GetSize() - 1);
+    KestoGDI::CColourIntPair* stop = stops.GetAt(index);
+    const std::unique_ptr<CColour> colour = stop->GetColour().Clone();
+    stop->SetValue(value);
+    stops.Sort();
+    SetGradientNodes(stops);
+    const int found = stops.Find(value, colour.get());
+    return found == -1 ? index : found;
+}
+
+void FillToolGradient::SetGradientColour(int index, const CColour* colour)
+{
+    const CMonoColour level(colour ? 255 - colour->GetIntensity() : 255);
+    const CColour& used = (IsTransparency() || !colour) ? static_cast<const CColour&>(level) : *colour;
+    ColourIntPairs stops = GetGradientNodes();
+    KestoGDI::CColourIntPair* stop = stops.GetAt(index);
+    if (!stop)
+        return;
+    stop->SetColour(used);
+    stop->GetColour().SetAlpha(used.GetAlpha());
+    SetGradientNodes(stops);
+}
+
+void FillToolGradient::SetGradientAlpha(int index, unsigned char alpha)
+{
+    if (IsTransparency()) {
+        const CMonoColour level(255 - alpha);
+        SetGradientColour(index, &level);
+        return;
+    }
+    ColourIntPairs stops = GetGradientNodes();
+    if (KestoGDI::CColourIntPair* stop = stops.GetAt(index)) {
+        stop->GetColour().SetAlpha(alpha);
+        SetGradientNodes(stops);
+    }
+}
+
+void FillToolGradient::SetGradientTint(int index, int tint)
+{
+    const CColour* current = GetGradientColour(index);
+    if (!current)
+        return;
+    const std::unique_ptr<CColour> tinted = current->Clone();
+    tinted->SetTint(static_cast<short>(tint));
+    SetGradientColour(index, tinted.get());
+}
+
+bool FillToolGradient::OnFillCellChanged(const CColour* colour)
+{
+    const int c = GetCurrentNode();
+    if (c == -1)
+        return false;
+    const auto* mono = dynamic_cast<const CMonoColour*>(colour);
+    if (IsTransparency() && mono)
+        SetGradientAlpha(GradientIndex(c), static_cast<unsigned char>(mono->GetLevel()));
+    else
+        SetGradientColour(GradientIndex(c), colour);
+    return true;
+}
+
+bool FillToolGradient::OnAlphaCellChanged(unsigned char alpha)
+{
+    const int c = GetCurrentNode();
+    if (c == -1)
+        return false;
+    if (c >= GetNodeCount()) {
+        SetCurrentNode(-1);
+        return false;
+    }
+    SetGradientAlpha(GradientIndex(c), alpha);
+    return true;
+}
+
+bool FillToolGradient::OnTintChanged(int tint)
+{
+    const int c = GetCurrentNode();
+    if (c == -1)
+        return false;
+    if (c >= GetNodeCount()) {
+        SetCurrentNode(-1);
+        return false;
+    }
+    SetGradientTint(GradientIndex(c), tint);
+    return true;
+}
+
+void FillToolGradient::Commit(const CFill* fill, const wchar_t* undoName)
+{
+    if (fill->IsTransparency())
+        UpdateTransparency(fill, undoName, false);
+    else
+        UpdateFill(fill, undoName);
+}
+
+void FillToolGradient::SetGradientNodes(const ColourIntPairs& stops)
+{
+    RefPtr<CFill> clone = GetFill()->Clone();
+    if (auto* withStops = dynamic_cast<CFillWithStops*>(clone.get()))
+        withStops->SetColourIntPairs(stops);
+    if (auto* bitmap = dynamic_cast<KestoGDI::CFillBitmap*>(clone.get()); bitmap && !stops.IsEmpty())
+        bitmap->SetGradientRecolour(true);
+    Commit(clone.get(), nullptr);
+}
+
+void FillToolGradient::DeleteGradientNode(int index)
+{
+    ColourIntPairs stops = GetGradientNodes();
+    stops.Delete(index);
+    SetGradientNodes(stops);
+}
+
+bool FillToolGradient::CanDeleteCurrentNode() const
+{
+    const int c = GetCurrentNode();
+    return CanDeleteNode() && c >= 1 && c < GetNumGradientNodes() - 1;
+}
+
+void FillToolGradient::OnKeyDown(unsigned int key, unsigned int, unsigned int)
+{
+    if (key == Platform::VK_DELETE && CanDeleteCurrentNode())
+        DeleteCurrentNode();
+}
+
+int FillToolGradient::GetLevel(int handle) const
+{
+    const int index = GradientIndex(handle);
+    const auto* gradient = dynamic_cast<const KestoGDI::CFillGradient*>(GetFill());
+    if (index == -1 || !gradient)
+        return -1;
+    const KestoGDI::CColourIntPair* stop = gradient->GetColourIntPairs().GetAt(index);
+    const auto* mono = stop ? dynamic_cast<const CMonoColour*>(&stop->GetColour()) : nullptr;
+    return mono ? mono->GetLevel() : -1;
+}
+
+void FillToolGradient::SetLevel(int level, int index, bool commit)
+{
+    if (index == -1)
+        index = GetCurrentNode();
+    if (index == -1)
+        return;
+    RefPtr<CFill> clone = GetFill()->Clone();
+    auto* gradient = dynamic_cast<KestoGDI::CFillGradient*>(clone.get());
+    if (!gradient)
+        return;
+    // The index is the stop's own, not a handle's: GradientIndex is not applied here.
+    ColourIntPairs stops = gradient->GetColourIntPairs();
+    if (KestoGDI::CColourIntPair* stop = stops.GetAt(index))
+        stop->SetColour(CMonoColour(level));
+    gradient->SetColourIntPairs(stops);
+    UpdateTransparency(clone.get(), nullptr, commit);
+}
+
+void FillToolGradient::TakeLevelFromBox(Platform::NMXTPCONTROL* notify, int index)
+{
+    auto* box = dynamic_cast<Platform::CXTPControlEdit*>(notify ? notify->pControl : nullptr);
+    if (!box || !dynamic_cast<const KestoGDI::CFillGradient*>(GetFill()))
+        return;
+    // The box shows the level itself as a percentage, not inverted.
+    const int percent = RoundHalfUp(box->GetValue());
+    const int level = RoundHalfUp(percent * 255.0 / 100.0);
+    SetLevel(level, index, notify->hdr.code == kLevelBoxCommitCode);
+}
+
+void FillToolGradient::OnTransStart(Platform::NMXTPCONTROL* notify, long*) { TakeLevelFromBox(notify, 0); }
+void FillToolGradient::OnTransEnd(Platform::NMXTPCONTROL* notify, long*) { TakeLevelFromBox(notify, GetNodeCount() - 1); }
+void FillToolGradient::OnTransSolid(Platform::NMXTPCONTROL* notify, long*) { TakeLevelFromBox(notify, -1); }
+
+void FillToolGradient::ShowLevelInBox(Platform::CCmdUI* ui, int handle)
+{
+    ui->Enable(true);
+    auto* box = dynamic_cast<Platform::CXTPControlEdit*>(ui->GetControl());
+    if (box && !box->HasFocus())
+        box->SetValue(RoundHalfUp(GetLevel(handle) * 100.0 / 255.0));
+}
+
+void FillToolGradient::OnUpdateTransStart(Platform::CCmdUI* ui) { ShowLevelInBox(ui, 0); }
+void FillToolGradient::OnUpdateTransEnd(Platform::CCmdUI* ui) { ShowLevelInBox(ui, GetNodeCount() - 1); }
+void FillToolGradient::OnUpdateTransSolid(Platform::CCmdUI* ui) { ShowLevelInBox(ui, GetCurrentNode()); }
+
+void FillToolGradient::OnUpdateFillAspect(Platform::CCmdUI* ui)
+{
+    ui->Enable(true);
+    ui->SetCheck(m_bLockRatio ? 1 : 0);
+}
+
+CRect FillToolGradient::ObjectBoxInObjectSpace() const
+{
+    CRect box = GetTransformedObjectBBox();
+    const Kesto2D::K2DVector t = GetObjectToSpreadTransform().GetTranslation();
+    box.OffsetRect(-Kesto2D::RoundHalfAwayFromZero(t.dx), -Kesto2D::RoundHalfAwayFromZero(t.dy));
+    return box;
+}
+
+void FillToolGradient::RotateFill(int angle)
+{
+    RefPtr<CFill> clone = GetFill()->Clone();
+    const CRect box = ObjectBoxInObjectSpace();
+    const CPoint centre = box.CenterPoint();
+    const double cx = centre.x;
+    const double cy = centre.y;
+    if (m_bLockRatio && box.Width() != 0 && box.Height() != 0) {
+        const double w = box.Width();
+        const double h = box.Height();
+        const CRect line = GetFillLineBox(clone.get());
+        const double f = std::abs(line.Height()) <= std::abs(line.Width()) ? h / w : w / h;
+        K2DLtGeneral scale;
+        scale += Kesto2D::K2DLtTranslate(-cx, -cy);
+        scale += Kesto2D::K2DLtScale(f, f);
+        scale += Kesto2D::K2DLtTranslate(cx, cy);
+        clone->Transform(scale);
+    }
+    K2DLtGeneral rotate;
+    rotate += Kesto2D::K2DLtTranslate(-cx, -cy);
+    rotate += Kesto2D::K2DLtRotate(angle);
+    rotate += Kesto2D::K2DLtTranslate(cx, cy);
+    clone->Transform(rotate);
+    const CString undo = Module::Get().LoadString(clone->IsTransparency() ? kRotateTransparencyUndo : kRotateFillUndo);
+    Commit(clone.get(), undo.GetString());
+}
+
+void FillToolGradient::FitToShape(bool max)
+{
+    RefPtr<CFill> clone = GetFill()->Clone();
+    CRect box = ObjectBoxInObjectSpace();
+    const auto* bitmapFill = dynamic_cast<const KestoGDI::CFillBitmap*>(clone.get());
+    const KestoGDI::CLtBitmap* bitmap = bitmapFill ? bitmapFill->GetBitmapForFill() : nullptr;
+    if (max && bitmap && !bitmap->IsEmpty() && box.Width() > 0 && box.Height() > 0) {
+        const double bw = bitmap->GetWidth();
+        const double bh = bitmap->GetHeight();
+        const double w = box.Width();
+        const double h = box.Height();
+        if (std::abs(bw / bh - w / h) > 1e-6) {
+            if (bw / bh > w / h) {
+                const int grow = RoundHalfUp((h / bh * bw - w) * 0.5);
+                box.InflateRect(grow, 0);
+            } else {
+                const int grow = RoundHalfUp((w / bw * bh - h) * 0.5);
+                box.InflateRect(0, grow);
+            }
+        }
+    }
+    clone->SetDefaultControls(box);
+    Commit(clone.get(), nullptr);
+}
+
+CRect FillToolGradient::GetToolRect(const CFill* fill)
+{
+    const CRect r = GetFillRect(fill);
+    const K2DLtGeneral toSpread = GetObjectToSpreadTransform();
+    CRect spread(toSpread.ApplyTo(r.TopLeft()), toSpread.ApplyTo(r.BottomRight()));
+    spread.NormalizeRect();
+    Platform::SIZE margin{7, 7};
+    ClientToPaper(&margin);
+    spread.InflateRect(margin);
+    return spread;
+}
+
+const CColour* FillToolGradient::HandleColour(int handle) const
+{
+    // Without a handle per stop, the handles show the first and the last stop.
+    const int entry = GradientIndex(handle);
+    if (CanCreateNewNode())
+        return GetGradientColour(entry);
+    const int stops = GetGradientNodes().GetSize();
+    return entry == 0 ? GetGradientColour(0) : entry == 1 ? GetGradientColour(stops - 1) : nullptr;
+}
+
+void FillToolGradient::DrawControlBoxes(IRenderTarget* target, bool outlineOnly) const
+{
+    K2DArrayPoint handles;
+    BaseGetHandles(&handles);
+    for (int i = 0; i < handles.GetSize(); ++i) {
+        if (const CColour* colour = HandleColour(i))
+            DrawBoxControl(target, outlineOnly, handles.GetAt(i), colour, i);
+    }
+}
+
+void FillToolGradient::DrawControlBoxes(CRenderContext* context) const
+{
+    K2DArrayPoint handles;
+    BaseGetHandles(&handles);
+    for (int i = 0; i < handles.GetSize(); ++i) {
+        if (const CColour* colour = HandleColour(i))
+            DrawBoxControl(context, handles.GetAt(i), colour->GetRGB(), i);
+    }
+}
+
+void FillToolGradient::InitContextButtons(CXTPCommandBars* bars)
+{
+    FillTool::InitContextButtons(bars);
+    AddContextItem(FillCmdContext);
+    if (!IsBitmapFill(GetFill())) {
+        if (IsTwoColourFill(GetFill())) {
+            if (IsFill()) {
+                AddContextItem(FillCmdStart);
+                AddContextItem(FillCmdEnd);
+            } else {
+                AddContextItem(FillCmdOpacityStart);
+                AddContextItem(FillCmdOpacityStartHandle);
+                AddContextItem(FillCmdOpacityEnd);
+                AddContextItem(FillCmdOpacityEndHandle);
+            }
+        } else if (IsFill()) {
+            AddContextItem(FillCmdSolid);
+        } else {
+            AddContextItem(FillCmdOpacity);
+            AddContextItem(FillCmdOpacityHandle);
+        }
+    }
+    // The context item goes on a second time; the host ignores the repeat.
+    AddContextItem(FillCmdResetHandles);
+    AddContextItem(FillCmdContext);
+    AddContextItem(FillCmdRotateLeft);
+    AddContextItem(FillCmdRotateRight);
+    if (GetToolHelper()->IsLockRatioAvailable() && SupportsLockRatio())
+        AddContextItem(FillCmdLockRatio);
+}
+
+const Platform::AFX_MSGMAP* FillToolGradient::GetMessageMap() const
+{
+    using namespace Platform::MessageMap;
+    static const Platform::AFX_MSGMAP_ENTRY entries[] = {
+        Command<&FillToolGradient::OnFillRotateCCW>(FillCmdRotateLeft),
+        Command<&FillToolGradient::OnFillRotateCW>(FillCmdRotateRight),
+        Notify<&FillToolGradient::OnTransStart>(FillCmdOpacityStartHandle, 100),
+        Notify<&FillToolGradient::OnTransStart>(FillCmdOpacityStartHandle, 0),
+        Update<&FillToolGradient::OnUpdateTransStart>(FillCmdOpacityStartHandle),
+        Notify<&FillToolGradient::OnTransEnd>(FillCmdOpacityEndHandle, 100),
+        Notify<&FillToolGradient::OnTransEnd>(FillCmdOpacityEndHandle, 0),
+        Update<&FillToolGradient::OnUpdateTransEnd>(FillCmdOpacityEndHandle),
+        Notify<&FillToolGradient::OnTransSolid>(FillCmdOpacityHandle, 0),
+        Notify<&FillToolGradient::OnTransSolid>(FillCmdOpacityHandle, 100),
+        Update<&FillToolGradient::OnUpdateTransSolid>(FillCmdOpacityHandle),
+        Command<&FillToolGradient::OnFillAspect>(FillCmdLockRatio),
+        Update<&FillToolGradient::OnUpdateFillAspect>(FillCmdLockRatio),
+        Command<&FillToolGradient::OnFitToShape>(FillCmdFitFill),
+        Command<&FillToolGradient::OnMaxFitToShape>(FillCmdMaxFit),
+        Command<&FillToolGradient::OnTransFitToShape>(FillCmdFitTransparency),
+        Command<&FillToolGradient::OnResetNodes>(FillCmdResetHandles),
+    };
+    static const Platform::AFX_MSGMAP map{FillTool::GetMessageMap(), entries};
+    return &map;
+}
+
+} // namespace KestoTool

@@ -1,0 +1,115 @@
+#pragma once
+
+#include "filltool/FillTool.h"
+#include "gdi/ColourIntPairs.h"
+
+namespace KestoTool {
+
+// The base of the tools whose colours are a stop list: adding, moving, recolouring, making
+// transparent and deleting stops, the transparency-level boxes, 90-degree rotation and fitting
+// to the shape. Every edit copies the list, changes the copy and commits a whole new fill.
+//
+// Handles: the stop handles come first, in stop order (all stops when CanCreateNewNode, else
+// only the first and the last), then the concrete tool's extra handles, the extended nodes.
+class FillToolGradient : public FillTool {
+    KESTO_DECLARE_DYNAMIC(FillToolGradient)
+public:
+    FillToolGradient(const CFill* fill, IToolSite* site) : FillTool(fill, site) {}
+
+    int IndexFromPoint(const CPoint& point) const override;
+    bool OnFillCellDrop(CPoint& point, const CColour* colour) override;
+    bool OnFillCellChanged(const CColour* colour) override;
+    bool OnAlphaCellChanged(unsigned char alpha) override;
+    bool OnTintChanged(int tint) override;
+    const CColour* ColourFromNode() const override;
+    bool CreateNewNode(const CPoint& point) override;
+    void InitContextButtons(CXTPCommandBars* bars) override;
+    const CColour* GetCurrentColour() const override { return ColourFromNode(); }
+    void DeleteGradientNode(int index) override;
+    // Delete (virtual key 46) removes the current stop when it may be deleted.
+    void OnKeyDown(unsigned int key, unsigned int repeat, unsigned int flags) override;
+    // The fill rectangle in spread space, normalised, grown by 7 x 7 pixels for the handles.
+    CRect GetToolRect(const CFill* fill) override;
+
+    // Rotates the fill about the object's centre by angle (hundredths of a degree,
+    // anticlockwise), keeping its proportions to the object when the ratio is locked.
+    virtual void RotateFill(int angle);
+    virtual bool SupportsLockRatio() const { return true; }
+    virtual int GetNodeCount() const { return GetGradientNodes().GetSize(); }
+    virtual const KestoGDI::ColourIntPairs& GetGradientNodes() const;
+    // Moves stop index to value; answers the stop's index after sorting.
+    virtual int SetGradientValue(int index, int value);
+    virtual void SetGradientColour(int index, const CColour* colour);
+    virtual bool IsPointOnNodeLine(CPoint a, CPoint b, CPoint p, int tolerance) const;
+    // The box of the fill's line, whose proportions decide the lock-ratio factor.
+    virtual CRect GetFillLineBox(const CFill* fill) { return GetFillRect(fill); }
+
+    // Appends the stop handles between start and end.
+    void AddGradientHandles(K2DArrayPoint* handles, CPoint start, CPoint end) const;
+    // Adds a stop at position of the given colour (for a transparency, of the inverted level);
+    // answers its index.
+    int AddGradientNode(const CColour& colour, int position);
+    // Adds a stop at position with the gradient's own colour there; answers its index.
+    int AddGradientNode(int position);
+    bool CanDeleteCurrentNode() const;
+    void DeleteCurrentNode() { DeleteGradientNode(GetCurrentNode()); }
+    void DrawControlBoxes(CRenderContext* context) const;
+    void DrawControlBoxes(IRenderTarget* target, bool outlineOnly) const;
+    // Gives the fill its default placement over the object; with max, a bitmap fill grows the
+    // box to the bitmap's proportions so that it still covers the object.
+    void FitToShape(bool max);
+    int GetExtendedNode() const;
+    const CColour* GetGradientColour(int index) const;
+    // The transparency level (0..255) of handle h's stop; -1 when there is none.
+    int GetLevel(int handle) const;
+    // Position 0..10000 of the point of segment start-end nearest p; -1 for a degenerate segment.
+    int GetNodeValueFromPoints(CPoint start, CPoint end, CPoint p) const;
+    int GetNumGradientNodes() const;
+    bool IsExtendedNode(int handle) const { return handle >= GetNumGradientNodes(); }
+    bool IsExtendedNode() const { return IsExtendedNode(GetCurrentNode()); }
+    bool IsFirstNode(int handle) const { return handle == 0; }
+    bool IsFirstNode() const { return IsFirstNode(GetCurrentNode()); }
+    bool IsLastNode(int handle) const;
+    bool IsLastNode() const { return IsLastNode(GetCurrentNode()); }
+    void SetGradientAlpha(int index, unsigned char alpha);
+    // Commits the fill with this stop list: the one place a changed list leaves the tool.
+    void SetGradientNodes(const KestoGDI::ColourIntPairs& stops);
+    void SetGradientTint(int index, int tint);
+    // Sets stop index (-1: the current node) to a grey level and commits the transparency.
+    void SetLevel(int level, int index, bool commit);
+    bool IsLockRatio() const { return m_bLockRatio; }
+
+protected:
+    const Platform::AFX_MSGMAP* GetMessageMap() const override;
+
+    void OnFillRotateCCW() { RotateFill(9000); }
+    void OnFillRotateCW() { RotateFill(-9000); }
+    void OnTransStart(Platform::NMXTPCONTROL* notify, long* result);
+    void OnTransEnd(Platform::NMXTPCONTROL* notify, long* result);
+    void OnTransSolid(Platform::NMXTPCONTROL* notify, long* result);
+    void OnUpdateTransStart(Platform::CCmdUI* ui);
+    void OnUpdateTransEnd(Platform::CCmdUI* ui);
+    void OnUpdateTransSolid(Platform::CCmdUI* ui);
+    void OnFillAspect() { m_bLockRatio = !m_bLockRatio; }
+    void OnUpdateFillAspect(Platform::CCmdUI* ui);
+    void OnFitToShape() { FitToShape(false); }
+    void OnMaxFitToShape() { FitToShape(true); }
+    void OnTransFitToShape() { FitToShape(false); }
+    void OnResetNodes() { FitToShape(false); }
+
+private:
+    // A level box's value, as a level, set on stop index (-1: the current node).
+    void TakeLevelFromBox(Platform::NMXTPCONTROL* notify, int index);
+    // Shows the level of handle h in the level box behind an update request.
+    void ShowLevelInBox(Platform::CCmdUI* ui, int handle);
+    // The colour a handle is drawn in.
+    const CColour* HandleColour(int handle) const;
+    // The object's box moved into object space.
+    CRect ObjectBoxInObjectSpace() const;
+    // Commits a whole new fill as the tool's kind of edit: fill or transparency.
+    void Commit(const CFill* fill, const wchar_t* undoName);
+
+    bool m_bLockRatio = false;
+};
+
+} // namespace KestoTool

@@ -1,0 +1,202 @@
+#include "filltool/FillToolLinear.h"
+
+#include "gdi/CFillLinear.h"
+#include "geometry/K2DGeometry.h"
+#include "geometry/K2DStraightLine.h"
+#include "kernel/VerifyReporter.h"
+
+#include <algorithm>
+
+namespace KestoTool {
+
+KESTO_IMPLEMENT_DYNAMIC(FillToolLinear, FillToolGradient)
+
+namespace {
+
+constexpr unsigned kShift = 4;
+constexpr unsigned kCtrl = 8;
+
+// Hint-line string ids: fill, transparency.
+constexpr int kHintCreate[] = {147, 160};
+constexpr int kHintNoNode[] = {148, 161};
+constexpr int kHintEndDragging[] = {149, 162};
+constexpr int kHintEndOver[] = {168, 164};
+constexpr int kHintInnerDragging[] = {167, 163};
+constexpr int kHintInnerOver[] = {169, 165};
+
+} // namespace
+
+bool FillToolLinear::GetLine(const CFill* fill, CPoint& start, CPoint& end) const
+{
+    const auto* linear = dynamic_cast<const KestoGDI::CFillLinear*>(fill ? fill : GetFill());
+    if (!linear)
+        return false;
+    start = linear->GetStart().Round();
+    end = linear->GetEnd().Round();
+    return true;
+}
+
+void FillToolLinear::SetLine(const CPoint& start, const CPoint& end)
+{
+    if (auto* linear = dynamic_cast<KestoGDI::CFillLinear*>(GetWorkingFill()))
+        linear->SetControls(K2DDblPoint(start), K2DDblPoint(end));
+}
+
+void FillToolLinear::OnDragStart(CPoint& point, unsigned int flags)
+{
+    FillTool::OnDragStart(point, flags);
+    const int h = IndexFromPoint(point);
+    SetCurrentNode(h);
+    if (h < 0 || h >= GetNumGradientNodes())
+        SetCurrentNode(GetNumGradientNodes() - 1);
+    GetLine(nullptr, m_startAtPress, m_endAtPress);
+}
+
+void FillToolLinear::OnDragChange(CPoint& point, unsigned int flags)
+{
+    const bool shift = (flags & kShift) != 0;
+    const bool creating = IsCreate();
+    CPoint press = GetDragStart();
+    if (creating && (flags & kCtrl))
+        press = GetCreateCentre(press);
+    if (shift) {
+        CPoint anchor = m_startAtPress;
+        if (creating) {
+            anchor = press;
+        } else if (IsFirstNode()) {
+            anchor = m_endAtPress;
+            press = m_startAtPress;
+        } else if (IsLastNode()) {
+            press = m_endAtPress;
+        }
+        SnapAnglePoint(anchor, point, false);
+    }
+    if (creating) {
+        // A click without a move still makes a line the user can see and grab.
+        if (point == press)
+            point += CSize(50, 50);
+        Snap(press, press);
+        if (!shift)
+            Snap(point, point);
+        SetCurrentNode(GetNumGradientNodes() - 1);
+        SetLine(press, point);
+        return;
+    }
+    const CSize d = point - press;
+    if (IsFirstNode()) {
+        CPoint start = m_startAtPress + d;
+        if (!shift)
+            Snap(start, start);
+        SetLine(start, m_endAtPress);
+    } else if (IsLastNode()) {
+        CPoint end = m_endAtPress + d;
+        if (!shift)
+            Snap(end, end);
+        SetLine(m_startAtPress, end);
+    } else {
+        // The stop may overtake a neighbour; the current node keeps its number regardless.
+        SetGradientValue(GetCurrentNode(), GetPercentageFromPoint(point));
+    }
+}
+
+void FillToolLinear::Draw(IRenderTarget* target, bool outlineOnly, const K2DLtGeneral& view) const
+{
+    FillTool::Draw(target, outlineOnly, view);
+    CPoint s, e;
+    if (!GetLine(nullptr, s, e))
+        return;
+    DrawControlLine(target, outlineOnly, s, e, true);
+    const KestoGDI::ColourIntPairs& stops = GetGradientNodes();
+    for (int i = 0; i < stops.GetSize(); ++i)
+        DrawBoxControl(target, outlineOnly, stops.GetAt(i)->GetValue(s, e), &stops.GetAt(i)->GetColour(), i);
+}
+
+void FillToolLinear::Draw(CRenderContext* context) const
+{
+    CPoint s, e;
+    if (!GetLine(nullptr, s, e))
+        return;
+    DrawControlLine(context, s, e, false);
+    const KestoGDI::ColourIntPairs& stops = GetGradientNodes();
+    for (int i = 0; i < stops.GetSize(); ++i)
+        DrawBoxControl(context, stops.GetAt(i)->GetValue(s, e), stops.GetAt(i)->GetColour().GetRGB(), i);
+}
+
+CRect FillToolLinear::GetFillRect(const CFill* fill)
+{
+    CPoint s, e;
+    if (!fill && !GetFill()) {
+        Kernel::VerifyFailed("KestoTool", "FillToolLinear", 153);
+        return {};
+    }
+    if (!GetLine(fill, s, e))
+        return {};
+    return {s.x, s.y, e.x, e.y};
+}
+
+K2DArrayPoint FillToolLinear::GetEffectiveBBox(const CFill* fill)
+{
+    CPoint s, e;
+    if (!fill && !GetFill()) {
+        Kernel::VerifyFailed("KestoTool", "FillToolLinear", 126);
+        return {};
+    }
+    K2DArrayPoint outline;
+    if (!GetLine(fill, s, e))
+        return outline;
+    Kesto2D::K2DStraightLine line;
+    line.SetFinite(s, e);
+    const double half = line.GetLength() / 2;
+    outline.Add(line.PointAtPerpendicularDistance(s, -half).Round());
+    outline.Add(line.PointAtPerpendicularDistance(e, -half).Round());
+    outline.Add(line.PointAtPerpendicularDistance(e, half).Round());
+    outline.Add(line.PointAtPerpendicularDistance(s, half).Round());
+    outline.AddClose(0);
+    return outline;
+}
+
+int FillToolLinear::GetHintLine(CString* out) const
+{
+    const int* ids = kHintNoNode;
+    const int c = GetCurrentNode();
+    const bool dragging = IsInDrag();
+    if (IsCreate())
+        ids = kHintCreate;
+    else if (c == -1)
+        ids = kHintNoNode;
+    else if (IsFirstNode() || IsLastNode())
+        ids = dragging ? kHintEndDragging : kHintEndOver;
+    else
+        ids = dragging ? kHintInnerDragging : kHintInnerOver;
+    ComposeHintLine(out, ids[0], ids[1]);
+    return 1;
+}
+
+void FillToolLinear::BaseGetHandles(K2DArrayPoint* handles) const
+{
+    CPoint s, e;
+    if (GetLine(nullptr, s, e))
+        AddGradientHandles(handles, s, e);
+}
+
+bool FillToolLinear::IsPointOnLine(const CPoint& point, int tolerance) const
+{
+    CPoint s, e;
+    return GetLine(nullptr, s, e) && IsPointOnNodeLine(s, e, point, tolerance);
+}
+
+int FillToolLinear::GetPercentageFromPoint(CPoint point) const
+{
+    CPoint s, e;
+    if (!GetLine(nullptr, s, e))
+        return 1;
+    return std::clamp(GetNodeValueFromPoints(s, e, point), 1, 9999);
+}
+
+bool FillToolLinear::CheckSize() const
+{
+    CPoint s, e;
+    return GetLine(nullptr, s, e) && Kesto2D::K2DGeometry::IDist(s, e) > 49;
+}
+
+} // namespace KestoTool
