@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace KestoTool {
 
@@ -219,30 +220,32 @@ bool FillToolGradient::OnFillCellChanged(const CColour* colour)
     return true;
 }
 
-bool FillToolGradient::OnAlphaCellChanged(unsigned char alpha)
+std::optional<int> FillToolGradient::CurrentStopForEdit()
 {
     const int c = GetCurrentNode();
     if (c == -1)
-        return false;
+        return std::nullopt;
     if (c >= GetNodeCount()) {
         SetCurrentNode(-1);
-        return false;
+        return std::nullopt;
     }
-    SetGradientAlpha(GradientIndex(c), alpha);
-    return true;
+    return GradientIndex(c);
+}
+
+bool FillToolGradient::OnAlphaCellChanged(unsigned char alpha)
+{
+    const std::optional<int> stop = CurrentStopForEdit();
+    if (stop)
+        SetGradientAlpha(*stop, alpha);
+    return stop.has_value();
 }
 
 bool FillToolGradient::OnTintChanged(int tint)
 {
-    const int c = GetCurrentNode();
-    if (c == -1)
-        return false;
-    if (c >= GetNodeCount()) {
-        SetCurrentNode(-1);
-        return false;
-    }
-    SetGradientTint(GradientIndex(c), tint);
-    return true;
+    const std::optional<int> stop = CurrentStopForEdit();
+    if (stop)
+        SetGradientTint(*stop, tint);
+    return stop.has_value();
 }
 
 void FillToolGradient::Commit(const CFill* fill, const wchar_t* undoName)

@@ -3,6 +3,8 @@
 #include "filltool/FillTool.h"
 #include "gdi/ColourIntPairs.h"
 
+#include <optional>
+
 namespace KestoTool {
 
 // The base of the tools whose colours are a stop list: adding, moving, recolouring, making
@@ -102,6 +104,9 @@ private:
     void TakeLevelFromBox(Platform::NMXTPCONTROL* notify, int index);
     // Shows the level of handle h in the level box behind an update request.
     void ShowLevelInBox(Platform::CCmdUI* ui, int handle);
+    // The stop that the current handle's alpha or tint edit goes to; none without a current
+    // node, or (clearing it) for a current node past the stops.
+    std::optional<int> CurrentStopForEdit();
     // The colour a handle is drawn in.
     const CColour* HandleColour(int handle) const;
     // The object's box moved into object space.

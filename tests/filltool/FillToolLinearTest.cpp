@@ -208,6 +208,22 @@ TEST_F(LinearTest, TransparencyDropsAndLevelBoxesUseLevels)
     EXPECT_TRUE(ui.IsEnabled());
 }
 
+TEST_F(LinearTest, AlphaAndTintGoToTheCurrentStopAndAStaleNodeIsCleared)
+{
+    auto tool = Tool(Line({0, 0}, {1000, 0}));
+    tool->SetCurrentNode(1);
+    EXPECT_TRUE(tool->OnAlphaCellChanged(96));
+    EXPECT_EQ(tool->GetGradientColour(1)->GetAlpha(), 96);
+    EXPECT_TRUE(tool->OnTintChanged(-100));
+    EXPECT_EQ(tool->GetGradientColour(1)->GetRGB(), 0u);  // white tinted fully to black
+    EXPECT_EQ(tool->GetGradientColour(1)->GetAlpha(), 96);
+    tool->SetCurrentNode(5);
+    EXPECT_FALSE(tool->OnAlphaCellChanged(10));
+    EXPECT_EQ(tool->GetCurrentNode(), -1);
+    EXPECT_FALSE(tool->OnTintChanged(10));
+    EXPECT_EQ(site.commits.size(), 2u);
+}
+
 TEST_F(LinearTest, DeleteRemovesOnlyInnerStops)
 {
     auto tool = Tool(Line({0, 0}, {1000, 0}, {5000}));
