@@ -40,13 +40,12 @@ void RegisterFillToolImages(Platform::CXTPImageManager& images, int start)
 void RegisterFillToolImagesOnce(Platform::CXTPCommandBars* bars)
 {
     static bool registered = false;
-    if (registered || !bars)
+    if (registered)
         return;
     registered = true;
     const int start = ToolIdMap::GetInstance().AllocateRange(FillToolKey, FillToolCommandCount);
-    if (start == -1)
-        return;
-    RegisterFillToolImages(*bars->GetImageManager(), start);
+    if (start != -1 && bars)
+        RegisterFillToolImages(*bars->GetImageManager(), start);
 }
 
 } // namespace KestoTool

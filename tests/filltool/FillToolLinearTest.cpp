@@ -1,7 +1,9 @@
 #include "filltool/FillToolLinear.h"
 
 #include "filltool/FillCommands.h"
+#include "gdi/CFillBitmap.h"
 #include "gdi/CFillLinear.h"
+#include "gdi/CRecordingRenderTarget.h"
 #include "gdi/CMonoColour.h"
 #include "gdi/CRGBColour.h"
 #include "gdi/CTransparencyLinear.h"
@@ -340,4 +342,42 @@ TEST_F(LinearTest, ShapesOfTheLine)
     EXPECT_FALSE(Tool(Line({0, 0}, {49, 0}))->CheckSize());
     site.pixelToPaper = 2;
     EXPECT_EQ(tool->GetToolRect(nullptr), CRect(-14, -14, 114, 14));
+}
+
+TEST_F(LinearTest, MaxFitGrowsTheBoxToTheBitmapsProportions)
+{
+    site.objectBox = CRect(0, 0, 400, 400);
+    const KestoGDI::CFillBitmap bitmap{RefPtr<const KestoGDI::CLtBitmap>(Kernel::MakeRef<KestoGDI::CLtBitmap>(100, 50))};
+    FillToolGradient tool(&bitmap, &site);
+    site.tool = &tool;
+    tool.FitToShape(false);
+    EXPECT_EQ(tool.GetFill()->GetControlPoint(1), K2DDblPoint(400, 0));
+    tool.FitToShape(true);  // a 2:1 bitmap over a square grows 200 each side to cover it
+    EXPECT_EQ(tool.GetFill()->GetControlPoint(0), K2DDblPoint(-200, 0));
+    EXPECT_EQ(tool.GetFill()->GetControlPoint(1), K2DDblPoint(600, 0));
+    EXPECT_EQ(tool.GetFill()->GetControlPoint(2), K2DDblPoint(-200, 400));
+}
+
+TEST_F(LinearTest, DrawsTheLineThenEveryStopHandle)
+{
+    auto tool = Tool(Line({0, 0}, {100, 0}, {5000}));
+    tool->SetCurrentNode(-1);
+    KestoGDI::CRecordingRenderTarget target;
+    tool->Draw(&target, false, K2DLtGeneral());
+    const std::vector<std::string>& log = target.Log();
+    ASSERT_EQ(log.size(), 2u + 3u * 2u);
+    EXPECT_EQ(log[0], "line (0,0)(100,0) pen=FFFFFF/192/3");
+    EXPECT_EQ(log[3], "disc (0,0) r=4 fill=000000/255 pen=FF0000/255/1");
+    EXPECT_EQ(log[5], "disc (50,0) r=4 fill=0000FF/255 pen=FF0000/255/1");
+    EXPECT_EQ(log[7], "disc (100,0) r=4 fill=FFFFFF/255 pen=FF0000/255/1");
+}
+
+TEST_F(LinearTest, ShapesWithoutAFillAreReported)
+{
+    std::vector<int> lines;
+    Kernel::ScopedVerifyHandler handler([&](const Kernel::VerifyReport& r) { lines.push_back(r.line); });
+    FillToolLinear tool(nullptr, &site);
+    EXPECT_EQ(tool.GetFillRect(nullptr), CRect());
+    EXPECT_TRUE(tool.GetEffectiveBBox(nullptr).IsEmpty());
+    EXPECT_EQ(lines, (std::vector<int>{153, 126}));
 }

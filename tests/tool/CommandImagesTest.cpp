@@ -41,6 +41,13 @@ TEST(CommandImages, SharedImagesArePairedAsTheTableSays)
     EXPECT_FALSE(same(20, 21));
 }
 
+TEST(CommandImages, TheRangeIsAllocatedEvenWithoutBars)
+{
+    KestoTool::Init(41000, 41100);
+    KestoTool::RegisterFillToolImagesOnce(nullptr);
+    EXPECT_TRUE(KestoTool::ToolIdMap::GetInstance().RangeAllocated(KestoTool::FillToolKey));
+}
+
 TEST(CommandImages, RegistrationRunsOncePerProcessUnderTheFillToolKey)
 {
     KestoTool::Init(40000, 40100);
