@@ -137,11 +137,17 @@ void CTintEditSpinCtrl::OnVScroll(int code, int, Platform::CWnd*)
     SendNotification(TintChanged);
 }
 
+Platform::CWnd* CTintEditSpinCtrl::SpinWindow() const
+{
+    // The spin lives and dies with the dialog; once this box is gone it may be gone too.
+    return IsWindow() && m_spin ? m_spin->GetWindow() : nullptr;
+}
+
 void CTintEditSpinCtrl::OnShowWindow(bool show, int status)
 {
     CEdit::OnShowWindow(show, status);
-    if (m_spin && m_spin->GetWindow())
-        m_spin->GetWindow()->ShowWindow(show ? Platform::SW_SHOW : Platform::SW_HIDE);
+    if (Platform::CWnd* spin = SpinWindow())
+        spin->ShowWindow(show ? Platform::SW_SHOW : Platform::SW_HIDE);
 }
 
 void CTintEditSpinCtrl::OnEnable(bool enable)
@@ -149,17 +155,17 @@ void CTintEditSpinCtrl::OnEnable(bool enable)
     CEdit::OnEnable(enable);
     // The spin goes with the edit box: a spin left live beside a disabled box would change a
     // value the user has been told is not editable.
-    if (m_spin && m_spin->GetWindow())
-        m_spin->GetWindow()->EnableWindow(enable);
+    if (Platform::CWnd* spin = SpinWindow())
+        spin->EnableWindow(enable);
 }
 
 void CTintEditSpinCtrl::OnWindowPosChanging(Platform::WINDOWPOS* pos)
 {
     CEdit::OnWindowPosChanging(pos);
-    if ((pos->flags & Platform::SWP_NOMOVE) || !m_keepSpinBesideEdit || !m_spin || !m_spin->GetWindow())
+    Platform::CWnd* spin = SpinWindow();
+    if ((pos->flags & Platform::SWP_NOMOVE) || !m_keepSpinBesideEdit || !spin)
         return;
     const CRect now = GetWindowRect();
-    Platform::CWnd* spin = m_spin->GetWindow();
     const CRect spinRect = spin->GetWindowRect();
     spin->SetWindowPos(spinRect.left + (pos->x - now.left), spinRect.top + (pos->y - now.top), 0, 0,
                        Platform::SWP_NOSIZE | Platform::SWP_NOZORDER | Platform::SWP_NOACTIVATE);

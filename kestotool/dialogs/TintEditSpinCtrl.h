@@ -50,6 +50,7 @@ public:
 
 private:
     int Clamped(int tint) const;
+    Platform::CWnd* SpinWindow() const;
 
     int m_tint = 0;
     bool m_updateWhileTyping;

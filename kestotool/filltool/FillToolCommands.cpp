@@ -201,6 +201,8 @@ void FillTool::OnAfterCreateControl(Platform::XTP_COMMANDBARS_CREATECONTROL* cc)
 
 void FillTool::OnFillEdit()
 {
+    if (!GetFill())
+        return;
     const K2DLtGeneral toSpread = GetAppObjectToSpreadTransform();
     const CRect box = GetObjectBBox();
     RefPtr<CFill> copy = GetFill()->Clone();
@@ -228,6 +230,8 @@ void FillTool::OnFillEdit()
 
 void FillTool::OnTransEdit()
 {
+    if (!GetFill())
+        return;
     const K2DLtGeneral toSpread = GetAppObjectToSpreadTransform();
     RefPtr<CFill> copy = GetFill()->Clone();
     copy->Transform(toSpread);

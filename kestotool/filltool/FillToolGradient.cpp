@@ -258,6 +258,8 @@ void FillToolGradient::Commit(const CFill* fill, const wchar_t* undoName)
 
 void FillToolGradient::SetGradientNodes(const ColourIntPairs& stops)
 {
+    if (!GetFill())
+        return;
     RefPtr<CFill> clone = GetFill()->Clone();
     if (auto* withStops = dynamic_cast<CFillWithStops*>(clone.get()))
         withStops->SetColourIntPairs(stops);
@@ -300,7 +302,7 @@ void FillToolGradient::SetLevel(int level, int index, bool commit)
 {
     if (index == -1)
         index = GetCurrentNode();
-    if (index == -1)
+    if (index == -1 || !GetFill())
         return;
     RefPtr<CFill> clone = GetFill()->Clone();
     auto* gradient = dynamic_cast<KestoGDI::CFillGradient*>(clone.get());
@@ -357,6 +359,8 @@ CRect FillToolGradient::ObjectBoxInObjectSpace() const
 
 void FillToolGradient::RotateFill(int angle)
 {
+    if (!GetFill())
+        return;
     RefPtr<CFill> clone = GetFill()->Clone();
     const CRect box = ObjectBoxInObjectSpace();
     const CPoint centre = box.CenterPoint();
@@ -384,6 +388,8 @@ void FillToolGradient::RotateFill(int angle)
 
 void FillToolGradient::FitToShape(bool max)
 {
+    if (!GetFill())
+        return;
     RefPtr<CFill> clone = GetFill()->Clone();
     CRect box = ObjectBoxInObjectSpace();
     const auto* bitmapFill = dynamic_cast<const KestoGDI::CFillBitmap*>(clone.get());

@@ -187,6 +187,18 @@ TEST(TintEditSpinCtrl, SpinFollowsTheEditBoxWhenShownEnabledOrMoved)
     });
 }
 
+TEST(TintEditSpinCtrl, AfterTheDialogClosesTheControlLeavesItsSpinAloneAndBindsAgain)
+{
+    TintDialog dialog(false);
+    RunModal(dialog, [](TintDialog&) {});
+    dialog.tint.ShowWindow(Platform::SW_HIDE);  // the spin window is gone: nothing to touch
+    dialog.tint.EnableWindow(false);
+    RunModal(dialog, [](TintDialog& d) {
+        ASSERT_TRUE(d.tint.IsWindow());
+        EXPECT_EQ(d.tint.GetSpinCtrl()->GetWindow(), &d.Spin());
+    });
+}
+
 TEST(TintEditSpinCtrl, BindingToAMissingItemIsReported)
 {
     std::vector<Kernel::VerifyReport> reports;

@@ -380,4 +380,10 @@ TEST_F(LinearTest, ShapesWithoutAFillAreReported)
     EXPECT_EQ(tool.GetFillRect(nullptr), CRect());
     EXPECT_TRUE(tool.GetEffectiveBBox(nullptr).IsEmpty());
     EXPECT_EQ(lines, (std::vector<int>{153, 126}));
+    // Commands on a tool without a fill change nothing.
+    tool.RotateFill(9000);
+    tool.FitToShape(false);
+    tool.SetLevel(0, 0, true);
+    EXPECT_FALSE(tool.CreateNewNode({0, 0}));
+    EXPECT_TRUE(site.commits.empty());
 }
