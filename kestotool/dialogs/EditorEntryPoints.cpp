@@ -18,16 +18,8 @@
 #include "gdi/CFillSolid.h"
 #include "gdi/CFillSquare.h"
 #include "gdi/CFillThreeColour.h"
-#include "gdi/CTransparencyBitmap.h"
-#include "gdi/CTransparencyConical.h"
-#include "gdi/CTransparencyEllipse.h"
-#include "gdi/CTransparencyFourPoint.h"
-#include "gdi/CTransparencyFractal.h"
-#include "gdi/CTransparencyLinear.h"
-#include "gdi/CTransparencyNone.h"
-#include "gdi/CTransparencyRadial.h"
-#include "gdi/CTransparencySquare.h"
-#include "gdi/CTransparencyThreePoint.h"
+#include "gdi/CTransparencyFlat.h"
+#include "gdi/FillKinds.h"
 #include "platform/CXTPControlComboBox.h"
 #include "platform/WindowTypes.h"
 #include "tool/IDocumentEx.h"
@@ -48,15 +40,8 @@ RefPtr<CFill> Run(CFillEditorDlg&& dialog, bool helperSetting)
     return dialog.DoModal() == Platform::IDOK ? dialog.TakeFill() : nullptr;
 }
 
-template <class T>
-const T* As(const CFill* fill)
+RefPtr<CFill> PickSolid(IDocumentEx* document, const CFillSolid* solid, Platform::CWnd* parent)
 {
-    return dynamic_cast<const T*>(fill);
-}
-
-RefPtr<CFill> PickSolid(IDocumentEx* document, const CFill* fill, Platform::CWnd* parent)
-{
-    const auto* solid = As<CFillSolid>(fill);
     std::unique_ptr<CColour> chosen(
         document->GetToolHelper()->ColourPicker(solid ? &solid->GetColour() : nullptr, parent));
     if (!chosen)
@@ -69,31 +54,135 @@ RefPtr<CFill> PickSolid(IDocumentEx* document, const CFill* fill, Platform::CWnd
     return result;
 }
 
-bool IsThreeOrFourColour(const CFill* fill)
-{
-    return As<CFillThreeColour>(fill) || As<CFillFourColour>(fill);
-}
+// What an editor is opened with.
+struct EditorArguments {
+    IDocumentEx* document;
+    const CRect& objectRect;
+    Platform::CWnd* parent;
+    bool helperSetting;
+};
+
+// The fill editor of each kind (EditFill). None and solid fills go to the colour chooser;
+// bitmap and discrete-mesh fills have no editor.
+class FillEditorChoice final : public ConstFillVisitor {
+public:
+    FillEditorChoice(const EditorArguments& args, const Kesto2D::K2DLtGeneral& objectTransform)
+        : m_args(args), m_objectTransform(objectTransform)
+    {
+    }
+
+    RefPtr<CFill> result;
+
+    void Visit(const CFillNone&) override { result = PickSolid(m_args.document, nullptr, m_args.parent); }
+    void Visit(const CFillSolid& fill) override { result = PickSolid(m_args.document, &fill, m_args.parent); }
+    void Visit(const CFillLinear& fill) override { Gradient(fill); }
+    void Visit(const CFillRadial& fill) override { Gradient(fill); }
+    void Visit(const CFillEllipse& fill) override { Gradient(fill); }
+    void Visit(const CFillConical& fill) override { Gradient(fill); }
+    void Visit(const CFillSquare& fill) override { Gradient(fill); }
+    void Visit(const CFillThreeColour& fill) override { ThreeOrFourColour(fill); }
+    void Visit(const CFillFourColour& fill) override { ThreeOrFourColour(fill); }
+    void Visit(const CFillFractal& fill) override
+    {
+        result = Run(CPlasmaFillDlg(m_args.document, &fill, m_args.objectRect, m_args.parent), m_args.helperSetting);
+    }
+    void Visit(const CFillBitmap&) override {}
+    void Visit(const CFillDiscreteMesh&) override {}
+    void Visit(const CFillVector& fill) override
+    {
+        result = Run(CVectorFillDlgBase(m_args.document, &fill, m_args.objectRect, m_args.parent, IDD_VECTOR_FILL,
+                                        m_objectTransform),
+                     m_args.helperSetting);
+    }
+
+private:
+    void Gradient(const CFillGradient& fill)
+    {
+        result = Run(CGradientFillDlg(m_args.document, &fill, m_args.objectRect, m_args.parent), m_args.helperSetting);
+    }
+    void ThreeOrFourColour(const CFillGradient& fill)
+    {
+        result = Run(CThreeAndFourColourFillDlg(m_args.document, &fill, m_args.objectRect, m_args.parent),
+                     m_args.helperSetting);
+    }
+
+    const EditorArguments m_args;
+    const Kesto2D::K2DLtGeneral& m_objectTransform;
+};
+
+// The transparency editor of each kind (EditTransparency). There is no plasma transparency
+// dialog: the plasma fill dialog serves both. Bitmap transparencies have no editor.
+class TransparencyEditorChoice final : public ConstFillVisitor {
+public:
+    explicit TransparencyEditorChoice(const EditorArguments& args) : m_args(args) {}
+
+    RefPtr<CFill> result;
+
+    void Visit(const CFillNone&) override { Flat(nullptr); }
+    void Visit(const CFillSolid& fill) override
+    {
+        // A plain solid fill is no transparency: only a flat transparency opens the dialog.
+        if (const auto* flat = dynamic_cast<const CTransparencyFlat*>(&fill))
+            Flat(flat);
+    }
+    void Visit(const CFillLinear& fill) override { Gradient(fill); }
+    void Visit(const CFillRadial& fill) override { Gradient(fill); }
+    void Visit(const CFillEllipse& fill) override { Gradient(fill); }
+    void Visit(const CFillConical& fill) override { Gradient(fill); }
+    void Visit(const CFillSquare& fill) override { Gradient(fill); }
+    void Visit(const CFillThreeColour& fill) override { ThreeOrFourColour(fill); }
+    void Visit(const CFillFourColour& fill) override { ThreeOrFourColour(fill); }
+    void Visit(const CFillFractal& fill) override
+    {
+        result = Run(CPlasmaFillDlg(m_args.document, &fill, m_args.objectRect, m_args.parent), m_args.helperSetting);
+    }
+    void Visit(const CFillBitmap&) override {}
+    void Visit(const CFillDiscreteMesh&) override {}
+    void Visit(const CFillVector&) override {}
+
+private:
+    void Flat(const CTransparencyFlat* flat)
+    {
+        // This dialog is made without the parent window and without the helper's setting.
+        CSolidTransparencyDlg dialog(flat, nullptr);
+        result = dialog.DoModal() == Platform::IDOK ? dialog.GetTrans() : nullptr;
+    }
+    void Gradient(const CFillGradient& fill)
+    {
+        result = Run(CGradientTranspDlg(m_args.document, &fill, m_args.objectRect, m_args.parent), m_args.helperSetting);
+    }
+    void ThreeOrFourColour(const CFillGradient& fill)
+    {
+        result = Run(CThreeAndFourColourTranspDlg(m_args.document, &fill, m_args.objectRect, m_args.parent),
+                     m_args.helperSetting);
+    }
+
+    const EditorArguments m_args;
+};
 
 using Available = bool (IToolHelper::*)(CFill*);
+using KindClass = const Platform::CRuntimeClass* FillKind::*;
 
-void PopulateTypeCombo(IToolHelper* helper, Platform::CXTPControl* control,
-                       std::span<const Platform::CRuntimeClass* const> table, Available available,
+void PopulateTypeCombo(IToolHelper* helper, Platform::CXTPControl* control, KindClass kindClass, Available available,
                        bool setDropDownCount)
 {
     auto* combo = dynamic_cast<Platform::CXTPControlComboBox*>(control);
     if (!combo)
         return;
-    if (combo->GetCount() == 0) {
-        for (const Platform::CRuntimeClass* kind : table) {
-            const RefPtr<CFill> sample = CFill::CreateFromClass(kind);
-            if (sample && (helper->*available)(sample.get())) {
-                const int index = combo->AddString(sample->GetTypeAsString());
-                combo->SetItemData(index, sample->GetFillType());
-            }
+    const bool empty = combo->GetCount() == 0;
+    int kinds = 0;
+    for (const FillKind& kind : FillKinds::All()) {
+        if (!(kind.*kindClass))
+            continue;
+        ++kinds;
+        const RefPtr<CFill> sample = empty ? CFill::CreateFromClass(kind.*kindClass) : nullptr;
+        if (sample && (helper->*available)(sample.get())) {
+            const int index = combo->AddString(sample->GetTypeAsString());
+            combo->SetItemData(index, sample->GetFillType());
         }
     }
     if (setDropDownCount)
-        combo->SetDropDownItemCount(static_cast<int>(table.size()));
+        combo->SetDropDownItemCount(kinds);
 }
 
 void SelectType(Platform::CXTPControl* control, const CFill* fill)
@@ -112,66 +201,26 @@ void SelectType(Platform::CXTPControl* control, const CFill* fill)
 
 } // namespace
 
-std::span<const Platform::CRuntimeClass* const> FillTypeTable()
-{
-    static const Platform::CRuntimeClass* const table[] = {
-        CFillNone::GetThisClass(),        CFillSolid::GetThisClass(),        CFillLinear::GetThisClass(),
-        CFillRadial::GetThisClass(),      CFillEllipse::GetThisClass(),      CFillConical::GetThisClass(),
-        CFillFractal::GetThisClass(),     CFillSquare::GetThisClass(),       CFillThreeColour::GetThisClass(),
-        CFillFourColour::GetThisClass(),  CFillBitmap::GetThisClass(),       CFillDiscreteMesh::GetThisClass(),
-        CFillVector::GetThisClass(),
-    };
-    return table;
-}
-
-std::span<const Platform::CRuntimeClass* const> TransparencyTypeTable()
-{
-    static const Platform::CRuntimeClass* const table[] = {
-        CTransparencyNone::GetThisClass(),       CTransparencyFlat::GetThisClass(),
-        CTransparencyLinear::GetThisClass(),     CTransparencyRadial::GetThisClass(),
-        CTransparencyEllipse::GetThisClass(),    CTransparencyConical::GetThisClass(),
-        CTransparencyFractal::GetThisClass(),    CTransparencySquare::GetThisClass(),
-        CTransparencyThreePoint::GetThisClass(), CTransparencyFourPoint::GetThisClass(),
-        CTransparencyBitmap::GetThisClass(),
-    };
-    return table;
-}
-
 RefPtr<CFill> EditFill(IDocumentEx* document, const CFill* fill, const CRect& objectRect, Platform::CWnd* parent,
                        const Kesto2D::K2DLtGeneral& objectTransform)
 {
-    const bool setting = document->GetToolHelper()->GetDialogSetting();
-    if (As<CFillNone>(fill) || As<CFillSolid>(fill))
-        return PickSolid(document, fill, parent);
-    if (IsThreeOrFourColour(fill))
-        return Run(CThreeAndFourColourFillDlg(document, As<CFillGradient>(fill), objectRect, parent), setting);
-    if (const auto* plasma = As<CFillFractal>(fill))
-        return Run(CPlasmaFillDlg(document, plasma, objectRect, parent), setting);
-    if (const auto* vector = As<CFillVector>(fill))
-        return Run(CVectorFillDlgBase(document, vector, objectRect, parent, IDD_VECTOR_FILL, objectTransform), setting);
-    if (const auto* gradient = As<CFillGradient>(fill))
-        return Run(CGradientFillDlg(document, gradient, objectRect, parent), setting);
-    return nullptr;
+    const EditorArguments args{document, objectRect, parent, document->GetToolHelper()->GetDialogSetting()};
+    if (!fill)
+        return nullptr;
+    FillEditorChoice choice(args, objectTransform);
+    fill->Accept(choice);
+    return std::move(choice.result);
 }
 
 RefPtr<CFill> EditTransparency(IDocumentEx* document, const CFill* transparency, CString&, const CRect& objectRect,
                                Platform::CWnd* parent)
 {
     const bool setting = document ? document->GetToolHelper()->GetDialogSetting() : false;
-    if (As<CTransparencyFlat>(transparency) || As<CFillNone>(transparency)) {
-        // This dialog is made without the parent window and without the helper's setting.
-        CSolidTransparencyDlg dialog(As<CTransparencyFlat>(transparency), nullptr);
-        return dialog.DoModal() == Platform::IDOK ? dialog.GetTrans() : nullptr;
-    }
-    if (IsThreeOrFourColour(transparency))
-        return Run(CThreeAndFourColourTranspDlg(document, As<CFillGradient>(transparency), objectRect, parent),
-                   setting);
-    // There is no plasma transparency dialog: the plasma fill dialog serves both.
-    if (const auto* plasma = As<CFillFractal>(transparency))
-        return Run(CPlasmaFillDlg(document, plasma, objectRect, parent), setting);
-    if (const auto* gradient = As<CFillGradient>(transparency))
-        return Run(CGradientTranspDlg(document, gradient, objectRect, parent), setting);
-    return nullptr;
+    if (!transparency)
+        return nullptr;
+    TransparencyEditorChoice choice({document, objectRect, parent, setting});
+    transparency->Accept(choice);
+    return std::move(choice.result);
 }
 
 RefPtr<CFill> EditTransparency(IDocumentEx* document, const CFill* transparency, const CRect& objectRect,
@@ -183,12 +232,12 @@ RefPtr<CFill> EditTransparency(IDocumentEx* document, const CFill* transparency,
 
 void PopulateFillTypeCombo(IToolHelper* helper, Platform::CXTPControl* control)
 {
-    PopulateTypeCombo(helper, control, FillTypeTable(), &IToolHelper::IsFillTypeAvailable, true);
+    PopulateTypeCombo(helper, control, &FillKind::fillClass, &IToolHelper::IsFillTypeAvailable, true);
 }
 
 void PopulateTransTypeCombo(IToolHelper* helper, Platform::CXTPControl* control)
 {
-    PopulateTypeCombo(helper, control, TransparencyTypeTable(), &IToolHelper::IsTransparencyTypeAvailable, false);
+    PopulateTypeCombo(helper, control, &FillKind::transparencyClass, &IToolHelper::IsTransparencyTypeAvailable, false);
 }
 
 void SetCurrentFillComboIndex(Platform::CXTPControl* control, const CFill* fill)

@@ -5,7 +5,6 @@
 #include "platform/CXTPControl.h"
 #include "tool/KestoToolImports.h"
 
-#include <span>
 
 namespace Platform {
 class CWnd;
@@ -30,12 +29,9 @@ RefPtr<KestoGDI::CFill> EditTransparency(IDocumentEx* document, const KestoGDI::
 RefPtr<KestoGDI::CFill> EditTransparency(IDocumentEx* document, const KestoGDI::CFill* transparency,
                                          const CRect& objectRect, Platform::CWnd* parent);
 
-// The fill kinds and transparency kinds, in the order the type combos list them.
-std::span<const Platform::CRuntimeClass* const> FillTypeTable();
-std::span<const Platform::CRuntimeClass* const> TransparencyTypeTable();
-
-// Fills an empty type combo with the kinds the helper offers (text: the kind's name, data: its
-// fill type), and sets the drop-down to show all 13 (also when the combo was not empty).
+// Fills an empty type combo with the fill kinds the helper offers, in the order of FillKinds
+// (text: the kind's name, data: its fill type), and sets the drop-down to show every fill kind
+// (also when the combo was not empty).
 void PopulateFillTypeCombo(IToolHelper* helper, Platform::CXTPControl* control);
 // The same for transparencies; the drop-down count is left as it is.
 void PopulateTransTypeCombo(IToolHelper* helper, Platform::CXTPControl* control);

@@ -1,18 +1,8 @@
 #include "gdi/CFill.h"
 
-#include "gdi/CFillBitmap.h"
-#include "gdi/CFillConical.h"
-#include "gdi/CFillDiscreteMesh.h"
-#include "gdi/CFillEllipse.h"
-#include "gdi/CFillFourColour.h"
-#include "gdi/CFillFractal.h"
-#include "gdi/CFillLinear.h"
 #include "gdi/CFillNone.h"
-#include "gdi/CFillRadial.h"
 #include "gdi/CFillSolid.h"
-#include "gdi/CFillSquare.h"
-#include "gdi/CFillThreeColour.h"
-#include "gdi/CFillVector.h"
+#include "gdi/FillKinds.h"
 #include "kernel/VerifyReporter.h"
 
 #include <algorithm>
@@ -25,22 +15,16 @@ KESTO_IMPLEMENT_DYNAMIC(CFill, Platform::CObject)
 
 const CRuntimeClass* CFill::GetRuntimeClassFromType(int type)
 {
-    switch (type) {
-    case FillType::None: return CFillNone::GetThisClass();
-    case FillType::Solid: return CFillSolid::GetThisClass();
-    case FillType::Linear: return CFillLinear::GetThisClass();
-    case FillType::Radial: return CFillRadial::GetThisClass();
-    case FillType::ThreeColour: return CFillThreeColour::GetThisClass();
-    case FillType::FourColour: return CFillFourColour::GetThisClass();
-    case FillType::Plasma: return CFillFractal::GetThisClass();
-    case FillType::Square: return CFillSquare::GetThisClass();
-    case FillType::Elliptical: return CFillEllipse::GetThisClass();
-    case FillType::Conical: return CFillConical::GetThisClass();
-    case FillType::Bitmap: return CFillBitmap::GetThisClass();
-    case FillType::DiscreteMesh: return CFillDiscreteMesh::GetThisClass();
-    case FillType::Vector: return CFillVector::GetThisClass();
-    default: return nullptr;
-    }
+    const FillKind* kind = FillKinds::Find(type);
+    return kind ? kind->fillClass : nullptr;
+}
+
+const wchar_t* CFill::GetTypeAsString() const
+{
+    const FillKind* kind = FillKinds::Find(GetFillType());
+    if (!kind)
+        return L"";
+    return IsTransparency() ? kind->transparencyName : kind->fillName;
 }
 
 RefPtr<CFill> CFill::CreateFromClass(const CRuntimeClass* runtimeClass)

@@ -2,6 +2,7 @@
 
 #include "gdi/BlendMode.h"
 #include "gdi/FillType.h"
+#include "gdi/FillVisitor.h"
 #include "gdi/KestoGDIImports.h"
 #include "kernel/CRefCount.h"
 
@@ -33,8 +34,11 @@ public:
     virtual RefPtr<CFill> Clone() const = 0;
     virtual FillType::Type GetFillType() const = 0;
     virtual bool IsTransparency() const { return false; }
-    // The kind's name as type combos show it.
-    virtual const wchar_t* GetTypeAsString() const = 0;
+    // The kind's name as type combos show it (FillKinds).
+    virtual const wchar_t* GetTypeAsString() const;
+    // Calls the visitor's Visit for this fill's kind.
+    virtual void Accept(FillVisitor& visitor) = 0;
+    virtual void Accept(ConstFillVisitor& visitor) const = 0;
 
     bool IsNone() const;
     bool IsSolid() const;
@@ -89,14 +93,19 @@ private:
 
 } // namespace KestoGDI
 
-// Declares and implements what every creatable fill class has: its run-time class and Clone.
-#define KESTO_DECLARE_FILL(Class)      \
-    KESTO_DECLARE_DYNCREATE(Class)     \
-    ::Kernel::RefPtr<::KestoGDI::CFill> Clone() const override;
+// Declares and implements what every creatable fill class has: its run-time class, Clone and
+// the visitor's dispatch (a transparency class reaches the Visit of the fill kind it derives from).
+#define KESTO_DECLARE_FILL(Class)                                  \
+    KESTO_DECLARE_DYNCREATE(Class)                                 \
+    ::Kernel::RefPtr<::KestoGDI::CFill> Clone() const override;    \
+    void Accept(::KestoGDI::FillVisitor& visitor) override;        \
+    void Accept(::KestoGDI::ConstFillVisitor& visitor) const override;
 
 #define KESTO_IMPLEMENT_FILL(Class, Base)                                                        \
     KESTO_IMPLEMENT_DYNCREATE(Class, Base)                                                       \
     ::Kernel::RefPtr<::KestoGDI::CFill> Class::Clone() const                                     \
     {                                                                                            \
         return ::Kernel::RefPtr<::KestoGDI::CFill>(new Class(*this));                            \
-    }
+    }                                                                                            \
+    void Class::Accept(::KestoGDI::FillVisitor& visitor) { visitor.Visit(*this); }               \
+    void Class::Accept(::KestoGDI::ConstFillVisitor& visitor) const { visitor.Visit(*this); }

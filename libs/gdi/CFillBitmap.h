@@ -17,7 +17,6 @@ public:
     explicit CFillBitmap(RefPtr<const CLtBitmap> bitmap);
 
     FillType::Type GetFillType() const override { return FillType::Bitmap; }
-    const wchar_t* GetTypeAsString() const override { return L"Bitmap"; }
 
     void SetControls(const K2DDblPoint& p0, const K2DDblPoint& p1, const K2DDblPoint& p2) { SetPoints({p0, p1, p2}); }
     using CFill::SetControls;

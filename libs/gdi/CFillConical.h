@@ -13,7 +13,6 @@ public:
     CFillConical();
 
     FillType::Type GetFillType() const override { return FillType::Conical; }
-    const wchar_t* GetTypeAsString() const override { return L"Conical"; }
 
     K2DDblPoint GetCentre() const { return Point(0); }
     K2DDblPoint GetEnd() const { return Point(1); }

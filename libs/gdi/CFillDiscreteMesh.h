@@ -19,7 +19,6 @@ public:
     CFillDiscreteMesh();
 
     FillType::Type GetFillType() const override { return FillType::DiscreteMesh; }
-    const wchar_t* GetTypeAsString() const override { return L"Discrete Mesh"; }
 
     int GetColumns() const { return m_columns; }
     int GetRows() const { return m_rows; }

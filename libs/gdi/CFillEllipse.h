@@ -10,7 +10,6 @@ class CFillEllipse : public CFillCentreAxes {
     KESTO_DECLARE_FILL(CFillEllipse)
 public:
     FillType::Type GetFillType() const override { return FillType::Elliptical; }
-    const wchar_t* GetTypeAsString() const override { return L"Elliptical"; }
 };
 
 } // namespace KestoGDI

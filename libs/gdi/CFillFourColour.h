@@ -14,7 +14,6 @@ public:
     CFillFourColour();
 
     FillType::Type GetFillType() const override { return FillType::FourColour; }
-    const wchar_t* GetTypeAsString() const override { return L"Four Colour"; }
 
     void SetControls(const K2DDblPoint& p0, const K2DDblPoint& p1, const K2DDblPoint& p2, const K2DDblPoint& p3)
     {

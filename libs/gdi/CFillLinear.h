@@ -13,7 +13,6 @@ public:
     CFillLinear();
 
     FillType::Type GetFillType() const override { return FillType::Linear; }
-    const wchar_t* GetTypeAsString() const override { return L"Linear"; }
 
     K2DDblPoint GetStart() const { return Point(0); }
     K2DDblPoint GetEnd() const { return Point(1); }

@@ -9,7 +9,6 @@ class CFillNone : public CFill {
     KESTO_DECLARE_FILL(CFillNone)
 public:
     FillType::Type GetFillType() const override { return FillType::None; }
-    const wchar_t* GetTypeAsString() const override { return L"No Fill"; }
 };
 
 } // namespace KestoGDI

@@ -13,7 +13,6 @@ public:
     CFillRadial();
 
     FillType::Type GetFillType() const override { return FillType::Radial; }
-    const wchar_t* GetTypeAsString() const override { return L"Radial"; }
 
     K2DDblPoint GetCentre() const { return Point(0); }
     K2DDblPoint GetEnd() const { return Point(1); }

@@ -20,7 +20,6 @@ public:
     ~CFillSolid() override;
 
     FillType::Type GetFillType() const override { return FillType::Solid; }
-    const wchar_t* GetTypeAsString() const override { return L"Solid"; }
 
     const CColour& GetColour() const { return *m_colour; }
     void SetColour(const CColour& colour) { m_colour = colour.Clone(); }

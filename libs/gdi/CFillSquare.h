@@ -9,7 +9,6 @@ class CFillSquare : public CFillCentreAxes {
     KESTO_DECLARE_FILL(CFillSquare)
 public:
     FillType::Type GetFillType() const override { return FillType::Square; }
-    const wchar_t* GetTypeAsString() const override { return L"Square"; }
 };
 
 } // namespace KestoGDI

@@ -14,7 +14,6 @@ public:
     CFillThreeColour();
 
     FillType::Type GetFillType() const override { return FillType::ThreeColour; }
-    const wchar_t* GetTypeAsString() const override { return L"Three Colour"; }
 
     void SetControls(const K2DDblPoint& p0, const K2DDblPoint& p1, const K2DDblPoint& p2) { SetPoints({p0, p1, p2}); }
     using CFill::SetControls;

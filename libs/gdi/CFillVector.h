@@ -12,7 +12,6 @@ class CFillVector : public CFillBitmap {
     KESTO_DECLARE_FILL(CFillVector)
 public:
     FillType::Type GetFillType() const override { return FillType::Vector; }
-    const wchar_t* GetTypeAsString() const override { return L"Vector"; }
 
     const K2DLtGeneral& GetTransform() const { return m_transform; }
     const CRect& GetObjectBox() const { return m_objectBox; }

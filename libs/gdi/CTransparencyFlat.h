@@ -12,7 +12,6 @@ public:
     // Half transparent (level 128).
     CTransparencyFlat();
     bool IsTransparency() const override { return true; }
-    const wchar_t* GetTypeAsString() const override { return L"Flat"; }
 };
 
 } // namespace KestoGDI

@@ -10,7 +10,6 @@ class CTransparencyFourPoint : public CFillFourColour {
 public:
     CTransparencyFourPoint();
     bool IsTransparency() const override { return true; }
-    const wchar_t* GetTypeAsString() const override { return L"Four Point"; }
 };
 
 } // namespace KestoGDI

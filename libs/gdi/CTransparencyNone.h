@@ -9,7 +9,6 @@ class CTransparencyNone : public CFillNone {
     KESTO_DECLARE_FILL(CTransparencyNone)
 public:
     bool IsTransparency() const override { return true; }
-    const wchar_t* GetTypeAsString() const override { return L"No Transparency"; }
 };
 
 } // namespace KestoGDI

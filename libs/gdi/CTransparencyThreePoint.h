@@ -10,7 +10,6 @@ class CTransparencyThreePoint : public CFillThreeColour {
 public:
     CTransparencyThreePoint();
     bool IsTransparency() const override { return true; }
-    const wchar_t* GetTypeAsString() const override { return L"Three Point"; }
 };
 
 } // namespace KestoGDI

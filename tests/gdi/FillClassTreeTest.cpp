@@ -23,6 +23,7 @@
 #include "gdi/CTransparencyRadial.h"
 #include "gdi/CTransparencySquare.h"
 #include "gdi/CTransparencyThreePoint.h"
+#include "gdi/FillKinds.h"
 
 #include <gtest/gtest.h>
 
@@ -76,7 +77,48 @@ RefPtr<CFill> Make(const KindRow& row)
     return fill;
 }
 
+// Records which Visit a fill reached, as the run-time class of the parameter's type.
+class VisitedClass final : public ConstFillVisitor {
+public:
+    const CRuntimeClass* visited = nullptr;
+    void Visit(const CFillNone&) override { visited = CFillNone::GetThisClass(); }
+    void Visit(const CFillSolid&) override { visited = CFillSolid::GetThisClass(); }
+    void Visit(const CFillLinear&) override { visited = CFillLinear::GetThisClass(); }
+    void Visit(const CFillRadial&) override { visited = CFillRadial::GetThisClass(); }
+    void Visit(const CFillEllipse&) override { visited = CFillEllipse::GetThisClass(); }
+    void Visit(const CFillConical&) override { visited = CFillConical::GetThisClass(); }
+    void Visit(const CFillSquare&) override { visited = CFillSquare::GetThisClass(); }
+    void Visit(const CFillThreeColour&) override { visited = CFillThreeColour::GetThisClass(); }
+    void Visit(const CFillFourColour&) override { visited = CFillFourColour::GetThisClass(); }
+    void Visit(const CFillFractal&) override { visited = CFillFractal::GetThisClass(); }
+    void Visit(const CFillBitmap&) override { visited = CFillBitmap::GetThisClass(); }
+    void Visit(const CFillDiscreteMesh&) override { visited = CFillDiscreteMesh::GetThisClass(); }
+    void Visit(const CFillVector&) override { visited = CFillVector::GetThisClass(); }
+};
+
 } // namespace
+
+TEST(FillClassTree, EachKindOfTheTableVisitsAsItsFillClassAndAgreesWithItsInstances)
+{
+    const auto kinds = FillKinds::All();
+    EXPECT_EQ(kinds.size(), std::size(kKinds) - 11);
+    for (const FillKind& kind : kinds) {
+        SCOPED_TRACE(kind.fillName);
+        for (const CRuntimeClass* c : {kind.fillClass, kind.transparencyClass}) {
+            if (!c)
+                continue;
+            const RefPtr<CFill> fill = CFill::CreateFromClass(c);
+            ASSERT_TRUE(fill);
+            VisitedClass visitor;
+            fill->Accept(visitor);
+            EXPECT_EQ(visitor.visited, kind.fillClass);
+            EXPECT_EQ(fill->GetFillType(), kind.type);
+            EXPECT_EQ(dynamic_cast<const CFillWithStops*>(fill.get()) != nullptr, kind.hasStops);
+            EXPECT_STREQ(fill->GetTypeAsString(), fill->IsTransparency() ? kind.transparencyName : kind.fillName);
+        }
+    }
+    EXPECT_EQ(FillKinds::Find(3), nullptr);
+}
 
 TEST(FillClassTree, EveryKindAnswersItsTypeKindAndControlCount)
 {
