@@ -5,28 +5,25 @@
 #include "SvgRenderTarget.h"
 
 #include "filltool/FillCommands.h"
-#include "filltool/FillToolLinear.h"
+#include "filltool/FillToolImages.h"
+#include "filltool/FillToolFactory.h"
 #include "gdi/CFillLinear.h"
 #include "gdi/CRGBColour.h"
 #include "platform/CCmdTarget.h"
 #include "platform/WindowTypes.h"
-#include "tool/CommandImages.h"
-#include "tool/FillCommandTable.h"
 #include "tool/Module.h"
 #include "tool/ToolIdMap.h"
 
 #include <cstdio>
 #include <fstream>
 #include <iostream>
+#include <memory>
 #include <string>
 
 using namespace KestoTool;
 using Platform::CPoint;
 
 namespace {
-
-constexpr unsigned kShift = 4;
-constexpr unsigned kCtrl = 8;
 
 std::string Utf8(const CString& s)
 {
@@ -52,7 +49,7 @@ std::string Describe(const KestoGDI::CFill& fill)
     return s;
 }
 
-void Report(const char* step, DemoHost& host, FillToolLinear& tool, int commitsBefore)
+void Report(const char* step, DemoHost& host, FillTool& tool, int commitsBefore)
 {
     CString hint;
     tool.GetHintLine(&hint);
@@ -69,14 +66,14 @@ void Report(const char* step, DemoHost& host, FillToolLinear& tool, int commitsB
 }
 
 // The point at a stop position along the tool's line.
-CPoint Along(const FillToolLinear& tool, int position)
+CPoint Along(const FillTool& tool, int position)
 {
     const auto& line = dynamic_cast<const KestoGDI::CFillLinear&>(*tool.GetFill());
     const KestoGDI::CColourIntPair probe(KestoGDI::CRGBColour(0), position);
     return probe.GetValue(line.GetStart().Round(), line.GetEnd().Round());
 }
 
-std::string Picture(const DemoHost& host, const FillToolLinear& tool)
+std::string Picture(const DemoHost& host, const FillTool& tool)
 {
     constexpr int margin = 90;
     const CRect r = host.Object();
@@ -125,7 +122,9 @@ int main(int argc, char** argv)
     KestoGDI::CFillLinear start;
     start.SetDefaultControls(host.Object());
     host.fill = start.Clone();
-    FillToolLinear tool(host.fill.get(), &host);
+    // The host asks the factory for the tool that edits the selection's fill.
+    const std::unique_ptr<FillTool> made = FillToolFactory::Create(host.fill.get(), &host);
+    FillTool& tool = *made;
     host.tool = &tool;
 
     Platform::CXTPCommandBars bars;
@@ -140,11 +139,11 @@ int main(int argc, char** argv)
     CString hint;
     tool.GetHintLine(&hint);
     std::cout << "\n   (while creating) hint: " << Utf8(hint) << '\n';
-    host.Drag({40, 170}, {330, 43}, kCtrl);
+    host.Drag({40, 170}, {330, 43}, DragFlagCtrl);
     Report("drag out a new line with Ctrl: it starts at the centre", host, tool, before);
 
     before = host.commits;
-    host.Drag({330, 40}, {380, 20}, kShift);
+    host.Drag({330, 40}, {380, 20}, DragFlagShift);
     Report("drag the end handle with Shift: the angle snaps to 15-degree steps", host, tool, before);
 
     before = host.commits;
@@ -160,7 +159,7 @@ int main(int argc, char** argv)
 
     before = host.commits;
     host.Click(Along(tool, 8500));
-    tool.OnKeyDown(Platform::VK_DELETE, 1, 0);
+    tool.OnKeyDown(KeyDelete, 1, 0);
     Report("select the orange stop and press Delete", host, tool, before);
 
     before = host.commits;

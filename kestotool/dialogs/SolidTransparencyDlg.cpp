@@ -1,6 +1,7 @@
 #include "dialogs/SolidTransparencyDlg.h"
 
 #include "gdi/CMonoColour.h"
+#include "geometry/Rounding.h"
 #include "resources/ResourceIds.h"
 
 namespace KestoTool {
@@ -48,12 +49,12 @@ void CSolidTransparencyDlg::UpdateTrans(const KestoGDI::CTransparencyFlat* trans
 
 int CSolidTransparencyDlg::ToPercentage(int value)
 {
-    return static_cast<int>(value * 100.0 / 255.0 + 0.5);
+    return Kesto2D::AddHalfAndTruncate(value * 100.0 / 255.0);
 }
 
 int CSolidTransparencyDlg::FromPercentage(int percent)
 {
-    return static_cast<int>(percent * 255.0 / 100.0 + 0.5);
+    return Kesto2D::AddHalfAndTruncate(percent * 255.0 / 100.0);
 }
 
 const Platform::AFX_MSGMAP* CSolidTransparencyDlg::GetMessageMap() const

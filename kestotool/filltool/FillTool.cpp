@@ -1,13 +1,13 @@
 #include "filltool/FillTool.h"
 
 #include "filltool/FillCommands.h"
+#include "filltool/FillToolImages.h"
 #include "gdi/CFillBitmap.h"
 #include "gdi/CFillGradient.h"
 #include "gdi/CFillSolid.h"
 #include "gdi/CRGBColour.h"
 #include "geometry/K2DGeometry.h"
 #include "geometry/Rounding.h"
-#include "tool/CommandImages.h"
 #include "tool/IDocumentEx.h"
 #include "tool/IToolHelper.h"
 #include "tool/ToolIdMap.h"
@@ -20,7 +20,6 @@ namespace KestoTool {
 
 using Kesto2D::K2DLtRotate;
 using Kesto2D::K2DLtScale;
-using Kesto2D::K2DLtTranslate;
 using Kesto2D::K2DGeometry::CalcAngle;
 
 KESTO_IMPLEMENT_DYNAMIC(FillTool, Platform::CCmdTarget)
@@ -178,11 +177,7 @@ float FillTool::GetAspectRatio() const
 
 K2DLtGeneral FillTool::GetNodeTransform(KCAngle& angle, CPoint& centre)
 {
-    K2DLtGeneral t;
-    t += K2DLtTranslate(-centre.x, -centre.y);
-    t += K2DLtRotate(angle);
-    t += K2DLtTranslate(centre.x, centre.y);
-    return t;
+    return K2DLtGeneral::About(centre, K2DLtRotate(angle));
 }
 
 void FillTool::SnapAnglePoint(CPoint origin, CPoint& pt, bool flag)
@@ -240,14 +235,11 @@ CPoint FillTool::CalculatePerpendicular(CPoint p0, CPoint p1, CPoint p2, CPoint&
     else if (keepFirst)
         theta = CalcAngle(p2, p0, p1);
 
-    K2DLtGeneral t;
-    t += K2DLtTranslate(-centre.x, -centre.y);
-    t += K2DLtRotate(alpha);
-    t += K2DLtScale(r, 1.0);
-    t += K2DLtRotate(theta);
-    t += K2DLtRotate(beta);
-    t += K2DLtTranslate(centre.x, centre.y);
-    return t.ApplyTo(point);
+    K2DLtGeneral turn(K2DLtRotate{alpha});
+    turn += K2DLtScale(r, 1.0);
+    turn += K2DLtRotate(theta);
+    turn += K2DLtRotate(beta);
+    return K2DLtGeneral::About(centre, turn).ApplyTo(point);
 }
 
 unsigned int FillTool::TranslateNode(unsigned int node)

@@ -9,6 +9,7 @@
 #include "geometry/K2DLtGeneral.h"
 #include "geometry/KCAngle.h"
 #include "platform/CCmdTarget.h"
+#include "platform/WindowTypes.h"
 #include "tool/IToolSite.h"
 #include "tool/KestoToolImports.h"
 
@@ -37,13 +38,17 @@ using Platform::CRuntimeClass;
 using Platform::COLORREF;
 using Platform::CXTPCommandBars;
 
+// The mouse-key flags of the drag protocol, as the platform reports them with a mouse message,
+// and the key (OnKeyDown) that deletes the current stop.
+inline constexpr unsigned int DragFlagShift = 4;
+inline constexpr unsigned int DragFlagCtrl = 8;
+inline constexpr unsigned int KeyDelete = Platform::VK_DELETE;
+
 // The base of every on-canvas fill and transparency tool. A tool edits one fill: it keeps its
 // own copy, talks to the host only through its IToolSite, and hands every change back as a
 // whole new fill through UpdateFill / UpdateTransparency; the host then gives it the committed
 // fill with SetFill. Concrete tools override the virtual operations; the base supplies the
 // state, hit testing, snapping and angle maths, node colours and handle drawing.
-//
-// Mouse-key flags of the drag protocol: Shift is 4, Ctrl is 8.
 class FillTool : public Platform::CCmdTarget {
     KESTO_DECLARE_DYNAMIC(FillTool)
 public:

@@ -11,8 +11,6 @@
 #include "platform/CXTPControlComboBox.h"
 #include "platform/CXTPControlPopupColor.h"
 #include "platform/ScreenMetrics.h"
-#include "tool/CommandImages.h"
-#include "tool/FillCommandTable.h"
 #include "tool/IDocumentEx.h"
 #include "tool/IToolHelper.h"
 #include "tool/Module.h"
@@ -25,67 +23,20 @@ using Platform::XTPControlType;
 
 namespace {
 
-// The toolkit classes a control description can name.
-enum class ControlClass { Button, Popup, SplitButtonPopup, ComboBox, UnitEdit };
-
-bool DerivesFromPopup(ControlClass c)
+bool DerivesFromPopup(FillControlClass c)
 {
-    return c == ControlClass::Popup || c == ControlClass::SplitButtonPopup;
+    return c == FillControlClass::Popup || c == FillControlClass::SplitButtonPopup;
 }
 
-std::unique_ptr<Platform::CXTPControl> MakeControl(ControlClass c, int id)
+std::unique_ptr<Platform::CXTPControl> MakeControl(FillControlClass c, int id)
 {
     switch (c) {
-    case ControlClass::Button: return std::make_unique<Platform::CXTPControlButton>(id);
-    case ControlClass::Popup: return std::make_unique<Platform::CXTPControlPopup>(id);
-    case ControlClass::SplitButtonPopup: return std::make_unique<Platform::CXTPControlSplitButtonPopup>(id);
-    case ControlClass::ComboBox: return std::make_unique<Platform::CXTPControlComboBox>(id);
-    case ControlClass::UnitEdit: return std::make_unique<Platform::CXTPControlEdit>(id);
-    }
-    return nullptr;
-}
-
-// How to make the control of a command: its class, number, type and button style, a
-// rectangle in 96-dpi pixels, a caption, and whether it becomes a plain button off a toolbar.
-struct ControlDescription {
-    ControlClass controlClass;
-    int number;
-    XTPControlType type;
-    XTPButtonStyle style;
-    Platform::CRect rect;
-    const wchar_t* caption;
-    bool buttonOffToolbar;
-};
-
-// The edit buttons show icon and caption; the type combo is a combo; the opacity labels are
-// popups holding their boxes and the opacity boxes unit edits; fit to shape is a split button
-// whose drop-down offers the other fits.
-constexpr ControlDescription kControls[] = {
-    {ControlClass::Button, FillCmdEdit, XTPControlType::Button, XTPButtonStyle::IconAndCaption, {}, L"Edit Fill", false},
-    {ControlClass::Button, FillCmdTransEdit, XTPControlType::Button, XTPButtonStyle::IconAndCaption, {},
-     L"Edit Transparency", false},
-    {ControlClass::ComboBox, FillCmdEditType, XTPControlType::ComboBox, XTPButtonStyle::Automatic, {0, 0, 120, 22},
-     L"Fill Type", false},
-    {ControlClass::Popup, FillCmdOpacityStart, XTPControlType::Popup, XTPButtonStyle::Caption, {}, L"Opacity Start:",
-     true},
-    {ControlClass::Popup, FillCmdOpacityEnd, XTPControlType::Popup, XTPButtonStyle::Caption, {}, L"Opacity End:",
-     true},
-    {ControlClass::Popup, FillCmdOpacity, XTPControlType::Popup, XTPButtonStyle::Caption, {}, L"Opacity:", true},
-    {ControlClass::UnitEdit, FillCmdOpacityStartHandle, XTPControlType::Edit, XTPButtonStyle::Automatic,
-     {0, 0, 50, 22}, L"", false},
-    {ControlClass::UnitEdit, FillCmdOpacityEndHandle, XTPControlType::Edit, XTPButtonStyle::Automatic,
-     {0, 0, 50, 22}, L"", false},
-    {ControlClass::UnitEdit, FillCmdOpacityHandle, XTPControlType::Edit, XTPButtonStyle::Automatic, {0, 0, 50, 22},
-     L"", false},
-    {ControlClass::SplitButtonPopup, FillCmdFitFill, XTPControlType::SplitButtonPopup, XTPButtonStyle::Icon, {},
-     L"Fit to Shape", true},
-};
-
-const ControlDescription* FindControlDescription(int number)
-{
-    for (const ControlDescription& d : kControls) {
-        if (d.number == number)
-            return &d;
+    case FillControlClass::Button: return std::make_unique<Platform::CXTPControlButton>(id);
+    case FillControlClass::Popup: return std::make_unique<Platform::CXTPControlPopup>(id);
+    case FillControlClass::SplitButtonPopup: return std::make_unique<Platform::CXTPControlSplitButtonPopup>(id);
+    case FillControlClass::ComboBox: return std::make_unique<Platform::CXTPControlComboBox>(id);
+    case FillControlClass::UnitEdit: return std::make_unique<Platform::CXTPControlEdit>(id);
+    case FillControlClass::None: break;
     }
     return nullptr;
 }
@@ -149,10 +100,10 @@ int FillTool::OnCreateControl(Platform::XTP_COMMANDBARS_CREATECONTROL* cc)
         return false;
     if (IsColourCommand(number))
         return GetToolHelper()->CreateColourControl(cc);
-    const ControlDescription* d = FindControlDescription(number);
-    if (!d)
+    const FillCommandRow* d = FillCommands::Find(number);
+    if (!d || d->controlClass == FillControlClass::None)
         return false;
-    if (d->controlClass == ControlClass::Popup && d->type != XTPControlType::None) {
+    if (d->controlClass == FillControlClass::Popup && d->type != XTPControlType::None) {
         const bool plainButton = d->buttonOffToolbar && !cc->bToolBar;
         cc->controlType = plainButton ? XTPControlType::Button : d->type;
         cc->buttonStyle = d->style;
@@ -181,7 +132,7 @@ void FillTool::OnAfterCreateControl(Platform::XTP_COMMANDBARS_CREATECONTROL* cc)
     if (number == -1)
         return;
     Platform::CXTPControl* control = cc->pControl.get();
-    if (const FillCommandRow* row = FindFillCommand(number)) {
+    if (const FillCommandRow* row = FillCommands::Find(number); row && row->promptId != 0) {
         const CString prompt = Module::Get().LoadString(row->promptId);
         if (!prompt.IsEmpty())
             control->SetPrompt(prompt);

@@ -8,6 +8,7 @@
 #include "geometry/Rounding.h"
 #include "platform/CCmdUI.h"
 #include "platform/WindowTypes.h"
+#include "resources/ResourceIds.h"
 #include "tool/IDocumentEx.h"
 #include "tool/IToolHelper.h"
 #include "tool/Module.h"
@@ -28,8 +29,6 @@ KESTO_IMPLEMENT_DYNAMIC(FillToolGradient, FillTool)
 namespace {
 
 constexpr int kLevelBoxCommitCode = 65536;
-constexpr int kRotateFillUndo = 123;
-constexpr int kRotateTransparencyUndo = 131;
 
 } // namespace
 
@@ -283,7 +282,7 @@ bool FillToolGradient::CanDeleteCurrentNode() const
 
 void FillToolGradient::OnKeyDown(unsigned int key, unsigned int, unsigned int)
 {
-    if (key == Platform::VK_DELETE && CanDeleteCurrentNode())
+    if (key == KeyDelete && CanDeleteCurrentNode())
         DeleteCurrentNode();
 }
 
@@ -364,25 +363,15 @@ void FillToolGradient::RotateFill(int angle)
     RefPtr<CFill> clone = GetFill()->Clone();
     const CRect box = ObjectBoxInObjectSpace();
     const CPoint centre = box.CenterPoint();
-    const double cx = centre.x;
-    const double cy = centre.y;
     if (m_bLockRatio && box.Width() != 0 && box.Height() != 0) {
         const double w = box.Width();
         const double h = box.Height();
         const CRect line = GetFillLineBox(clone.get());
         const double f = std::abs(line.Height()) <= std::abs(line.Width()) ? h / w : w / h;
-        K2DLtGeneral scale;
-        scale += Kesto2D::K2DLtTranslate(-cx, -cy);
-        scale += Kesto2D::K2DLtScale(f, f);
-        scale += Kesto2D::K2DLtTranslate(cx, cy);
-        clone->Transform(scale);
+        clone->Transform(K2DLtGeneral::About(centre, Kesto2D::K2DLtScale(f, f)));
     }
-    K2DLtGeneral rotate;
-    rotate += Kesto2D::K2DLtTranslate(-cx, -cy);
-    rotate += Kesto2D::K2DLtRotate(angle);
-    rotate += Kesto2D::K2DLtTranslate(cx, cy);
-    clone->Transform(rotate);
-    const CString undo = Module::Get().LoadString(clone->IsTransparency() ? kRotateTransparencyUndo : kRotateFillUndo);
+    clone->Transform(K2DLtGeneral::About(centre, Kesto2D::K2DLtRotate(angle)));
+    const CString undo = Module::Get().LoadString(clone->IsTransparency() ? IDS_UNDO_ROTATE_TRANSPARENCY : IDS_UNDO_ROTATE_FILL);
     Commit(clone.get(), undo.GetString());
 }
 

@@ -28,7 +28,7 @@ public:
     void InitContextButtons(CXTPCommandBars* bars) override;
     const CColour* GetCurrentColour() const override { return ColourFromNode(); }
     void DeleteGradientNode(int index) override;
-    // Delete (virtual key 46) removes the current stop when it may be deleted.
+    // KeyDelete removes the current stop when it may be deleted.
     void OnKeyDown(unsigned int key, unsigned int repeat, unsigned int flags) override;
     // The fill rectangle in spread space, normalised, grown by 7 x 7 pixels for the handles.
     CRect GetToolRect(const CFill* fill) override;

@@ -4,6 +4,7 @@
 #include "geometry/K2DGeometry.h"
 #include "geometry/K2DStraightLine.h"
 #include "kernel/VerifyReporter.h"
+#include "resources/ResourceIds.h"
 
 #include <algorithm>
 
@@ -13,16 +14,14 @@ KESTO_IMPLEMENT_DYNAMIC(FillToolLinear, FillToolGradient)
 
 namespace {
 
-constexpr unsigned kShift = 4;
-constexpr unsigned kCtrl = 8;
-
 // Hint-line string ids: fill, transparency.
-constexpr int kHintCreate[] = {147, 160};
-constexpr int kHintNoNode[] = {148, 161};
-constexpr int kHintEndDragging[] = {149, 162};
-constexpr int kHintEndOver[] = {168, 164};
-constexpr int kHintInnerDragging[] = {167, 163};
-constexpr int kHintInnerOver[] = {169, 165};
+constexpr int kHintCreate[] = {IDS_HINT_LINEAR_CREATE_FILL, IDS_HINT_LINEAR_CREATE_TRANSPARENCY};
+constexpr int kHintNoNode[] = {IDS_HINT_LINEAR_NO_NODE_FILL, IDS_HINT_LINEAR_NO_NODE_TRANSPARENCY};
+constexpr int kHintEndDragging[] = {IDS_HINT_LINEAR_END_DRAGGING_FILL, IDS_HINT_LINEAR_END_DRAGGING_TRANSPARENCY};
+constexpr int kHintEndOver[] = {IDS_HINT_LINEAR_END_OVER_FILL, IDS_HINT_LINEAR_END_OVER_TRANSPARENCY};
+constexpr int kHintInnerDragging[] = {IDS_HINT_LINEAR_INNER_DRAGGING_FILL,
+                                      IDS_HINT_LINEAR_INNER_DRAGGING_TRANSPARENCY};
+constexpr int kHintInnerOver[] = {IDS_HINT_LINEAR_INNER_OVER_FILL, IDS_HINT_LINEAR_INNER_OVER_TRANSPARENCY};
 
 } // namespace
 
@@ -54,10 +53,10 @@ void FillToolLinear::OnDragStart(CPoint& point, unsigned int flags)
 
 void FillToolLinear::OnDragChange(CPoint& point, unsigned int flags)
 {
-    const bool shift = (flags & kShift) != 0;
+    const bool shift = (flags & DragFlagShift) != 0;
     const bool creating = IsCreate();
     CPoint press = GetDragStart();
-    if (creating && (flags & kCtrl))
+    if (creating && (flags & DragFlagCtrl))
         press = GetCreateCentre(press);
     if (shift) {
         CPoint anchor = m_startAtPress;

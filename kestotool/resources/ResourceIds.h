@@ -23,4 +23,22 @@ constexpr int IDC_PREVIEW_EXPAND = 14904;
 
 constexpr int IDS_TINT_ORIGINAL = 117;
 
+// Undo-step names.
+constexpr int IDS_UNDO_ROTATE_FILL = 123;
+constexpr int IDS_UNDO_ROTATE_TRANSPARENCY = 131;
+
+// Hint lines of the linear tool, for a fill and for a transparency.
+constexpr int IDS_HINT_LINEAR_CREATE_FILL = 147;
+constexpr int IDS_HINT_LINEAR_NO_NODE_FILL = 148;
+constexpr int IDS_HINT_LINEAR_END_DRAGGING_FILL = 149;
+constexpr int IDS_HINT_LINEAR_CREATE_TRANSPARENCY = 160;
+constexpr int IDS_HINT_LINEAR_NO_NODE_TRANSPARENCY = 161;
+constexpr int IDS_HINT_LINEAR_END_DRAGGING_TRANSPARENCY = 162;
+constexpr int IDS_HINT_LINEAR_INNER_DRAGGING_TRANSPARENCY = 163;
+constexpr int IDS_HINT_LINEAR_END_OVER_TRANSPARENCY = 164;
+constexpr int IDS_HINT_LINEAR_INNER_OVER_TRANSPARENCY = 165;
+constexpr int IDS_HINT_LINEAR_INNER_DRAGGING_FILL = 167;
+constexpr int IDS_HINT_LINEAR_END_OVER_FILL = 168;
+constexpr int IDS_HINT_LINEAR_INNER_OVER_FILL = 169;
+
 } // namespace KestoTool

@@ -31,9 +31,19 @@ RefPtr<CLtBitmap> WadManager::LoadImage(const wchar_t* name) const
 {
     if (!name)
         return {};
+    return OpenArchive().Load(EntryName(m_dpi, name).c_str());
+}
+
+KestoGDI::WadArchive WadManager::OpenArchive() const
+{
+    return KestoGDI::WadArchive::Open(ArchivePath().c_str());
+}
+
+std::wstring WadManager::EntryName(int folder, const wchar_t* name)
+{
     CString entry;
-    entry.Format(L"Icons\\%d\\%s", m_dpi, name);
-    return LoadBitmapW(ArchivePath().c_str(), entry.GetString());
+    entry.Format(L"Icons\\%d\\%s", folder, name);
+    return entry.Str();
 }
 
 std::wstring WadManager::ArchivePath() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "gdi/WadArchive.h"
 #include "gdi/WadManager.h"
 #include "tool/KestoToolImports.h"
 
@@ -21,7 +22,12 @@ public:
     int GetDpi() const { return m_dpi; }
     // The largest folder not above dpi; 96 for anything below.
     void SetDpi(int dpi);
+    // An image of the current folder; opens the archive for this one image.
     RefPtr<CLtBitmap> LoadImage(const wchar_t* name) const;
+    // The archive beside the library, opened once for many images.
+    KestoGDI::WadArchive OpenArchive() const;
+    // "Icons\<folder>\<name>".
+    static std::wstring EntryName(int folder, const wchar_t* name);
 
     // The archive beside the library: its directory and file title, less one trailing "D" or
     // "N", with the archive extension.

@@ -17,6 +17,14 @@ K2DLtGeneral::K2DLtGeneral(const K2DLtRotate& r)
     m_m22 = c;
 }
 
+K2DLtGeneral K2DLtGeneral::About(const K2DDblPoint& centre, const K2DLtGeneral& step)
+{
+    K2DLtGeneral t(K2DLtTranslate(-centre.x, -centre.y));
+    t += step;
+    t += K2DLtTranslate(centre.x, centre.y);
+    return t;
+}
+
 K2DLtGeneral& K2DLtGeneral::operator+=(const K2DLtGeneral& n)
 {
     const K2DLtGeneral t = *this;

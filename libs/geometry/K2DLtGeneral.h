@@ -14,8 +14,8 @@ namespace Kesto2D {
 //     y' = m12 x + m22 y + dy
 //
 // Composition order: t += step appends the step, so the steps apply in the order they were
-// added. "Move c to the origin, rotate, move back" is written exactly in that order:
-//     t += K2DLtTranslate(-c.x, -c.y); t += K2DLtRotate(a); t += K2DLtTranslate(c.x, c.y);
+// added. "Move c to the origin, rotate, move back" is written exactly in that order, and is what
+// About(c, K2DLtRotate(a)) answers.
 class K2DLtGeneral {
 public:
     K2DLtGeneral() = default;
@@ -24,6 +24,9 @@ public:
     K2DLtGeneral(const K2DLtTranslate& t) : m_dx(t.dx), m_dy(t.dy) {}
     K2DLtGeneral(const K2DLtScale& s) : m_m11(s.sx), m_m22(s.sy) {}
     K2DLtGeneral(const K2DLtRotate& r);
+
+    // step applied about centre: move centre to the origin, apply step, move back.
+    [[nodiscard]] static K2DLtGeneral About(const K2DDblPoint& centre, const K2DLtGeneral& step);
 
     // Appends next: the result applies this first, then next.
     K2DLtGeneral& operator+=(const K2DLtGeneral& next);

@@ -24,6 +24,11 @@ int RoundHalfUp(double x)
     return ClampToInt(std::floor(x + 0.5));
 }
 
+int AddHalfAndTruncate(double x)
+{
+    return ClampToInt(x + 0.5);
+}
+
 int RoundHalfAwayFromZero(double x)
 {
     return ClampToInt(x < 0 ? -std::floor(-x + 0.5) : std::floor(x + 0.5));

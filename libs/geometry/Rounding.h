@@ -10,6 +10,11 @@ int ClampToInt(double x);
 // floor(x + 0.5): halves go up, also for negative x (-2.5 gives -2).
 int RoundHalfUp(double x);
 
+// x + 0.5 truncated toward zero, saturating: the classic int(x + 0.5). Halves go up for x >= 0;
+// for negative x it is not a rounding (-0.7 gives 0). Only where that exact rule is the
+// observable one; new code uses RoundHalfUp.
+int AddHalfAndTruncate(double x);
+
 // Halves go away from zero (-2.5 gives -3). The rule for turning double points into integer points.
 int RoundHalfAwayFromZero(double x);
 

@@ -1,24 +1,24 @@
 #include "filltool/FillTool.h"
 
 #include "filltool/FillCommands.h"
+#include "filltool/FillToolImages.h"
 #include "gdi/CFillLinear.h"
 #include "gdi/CFillRadial.h"
 #include "gdi/CFillVector.h"
+#include "gdi/CMonoColour.h"
 #include "gdi/CRGBColour.h"
 #include "gdi/CTransparencyFlat.h"
-#include "gdi/CMonoColour.h"
 #include "kernel/VerifyReporter.h"
 #include "platform/CCmdUI.h"
-#include "platform/CXTPControlComboBox.h"
-#include "platform/CXTPControlPopupColor.h"
 #include "platform/CDialog.h"
 #include "platform/CSliderCtrl.h"
+#include "platform/CXTPControlComboBox.h"
+#include "platform/CXTPControlPopupColor.h"
 #include "platform/HeadlessBackend.h"
-#include "resources/ResourceIds.h"
 #include "platform/ScreenMetrics.h"
+#include "resources/ResourceIds.h"
 #include "support/TestDocument.h"
 #include "support/TestToolSite.h"
-#include "tool/CommandImages.h"
 #include "tool/ToolIdMap.h"
 #include "ui/FillPreview.h"
 
@@ -41,7 +41,7 @@ protected:
     void SetUp() override
     {
         KestoTool::Init(30000, 30100);
-        base = ToolIdMap::GetInstance().AllocateRange(FillToolKey, FillToolCommandCount);
+        base = ToolIdMap::GetInstance().AllocateRange(FillToolKey, FillCommands::Count());
         ASSERT_EQ(base, 30000);
         site.document = &document;
         site.bars = &bars;

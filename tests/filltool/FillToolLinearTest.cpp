@@ -1,18 +1,18 @@
 #include "filltool/FillToolLinear.h"
 
 #include "filltool/FillCommands.h"
+#include "filltool/FillToolImages.h"
 #include "gdi/CFillBitmap.h"
 #include "gdi/CFillLinear.h"
-#include "gdi/CRecordingRenderTarget.h"
 #include "gdi/CMonoColour.h"
 #include "gdi/CRGBColour.h"
+#include "gdi/CRecordingRenderTarget.h"
 #include "gdi/CTransparencyLinear.h"
 #include "kernel/VerifyReporter.h"
 #include "platform/CCmdUI.h"
 #include "platform/WindowTypes.h"
 #include "support/TestDocument.h"
 #include "support/TestToolSite.h"
-#include "tool/CommandImages.h"
 #include "tool/Module.h"
 #include "tool/ToolIdMap.h"
 
@@ -23,9 +23,6 @@ using KestoGDI::CFillLinear;
 using KestoGDI::CRGBColour;
 
 namespace {
-
-constexpr unsigned kShift = 4;
-constexpr unsigned kCtrl = 8;
 
 CFillLinear Line(CPoint s, CPoint e, std::initializer_list<int> inner = {})
 {
@@ -113,10 +110,10 @@ TEST_F(LinearTest, CreatingDrawsANewLineFromThePressOrTheCentre)
     const CreateRow rows[] = {
         {"plain", 0, 0, {300, 140}, {{100, 100}, {300, 140}}},
         {"snapped to the grid", 0, 30, {310, 140}, {{90, 90}, {300, 150}}},
-        {"Ctrl starts at the object's centre", kCtrl, 0, {300, 140}, {{200, 100}, {300, 140}}},
+        {"Ctrl starts at the object's centre", DragFlagCtrl, 0, {300, 140}, {{200, 100}, {300, 140}}},
         // Shift turns (300, 110) onto 0 degrees from the press; the grid point (300, 120) is no
         // nearer, so the angle point stays, off the grid, while the press is snapped.
-        {"Shift constrains the angle", kShift, 30, {300, 110}, {{90, 90}, {300, 100}}},
+        {"Shift constrains the angle", DragFlagShift, 30, {300, 110}, {{90, 90}, {300, 100}}},
         {"a click gives a 50, 50 line", 0, 0, {100, 100}, {{100, 100}, {150, 150}}},
     };
     for (const auto& row : rows) {
@@ -143,9 +140,9 @@ TEST_F(LinearTest, EndHandlesSnapOnlyWithoutShift)
     site.angleSnapTolerance = 50;
     const EndRow rows[] = {
         {"end, snapped", {1000, 0}, {1203, 7}, 0, {{0, 0}, {1200, 10}}},
-        {"end, Shift: angle kept, not snapped", {1000, 0}, {1203, 2}, kShift, {{0, 0}, {1203, 0}}},
+        {"end, Shift: angle kept, not snapped", {1000, 0}, {1203, 2}, DragFlagShift, {{0, 0}, {1203, 0}}},
         {"start, snapped", {0, 0}, {-97, 3}, 0, {{-100, 0}, {1000, 0}}},
-        {"start, Shift: angle kept, not snapped", {0, 0}, {-97, 3}, kShift, {{-97, 0}, {1000, 0}}},
+        {"start, Shift: angle kept, not snapped", {0, 0}, {-97, 3}, DragFlagShift, {{-97, 0}, {1000, 0}}},
     };
     for (const auto& row : rows) {
         auto tool = Tool(Line({0, 0}, {1000, 0}));
@@ -187,7 +184,7 @@ TEST_F(LinearTest, TransparencyDropsAndLevelBoxesUseLevels)
     EXPECT_TRUE(site.commits.back().transparency);
 
     KestoTool::Init(40000, 40100);
-    const int base = ToolIdMap::GetInstance().AllocateRange(FillToolKey, FillToolCommandCount);
+    const int base = ToolIdMap::GetInstance().AllocateRange(FillToolKey, FillCommands::Count());
     Platform::CXTPControlEdit box(base + FillCmdOpacityStartHandle);
     box.SetValue(100);
     Platform::NMXTPCONTROL notify;
@@ -230,14 +227,14 @@ TEST_F(LinearTest, DeleteRemovesOnlyInnerStops)
 {
     auto tool = Tool(Line({0, 0}, {1000, 0}, {5000}));
     tool->SetCurrentNode(0);
-    tool->OnKeyDown(Platform::VK_DELETE, 1, 0);
+    tool->OnKeyDown(KeyDelete, 1, 0);
     tool->SetCurrentNode(2);
-    tool->OnKeyDown(Platform::VK_DELETE, 1, 0);
+    tool->OnKeyDown(KeyDelete, 1, 0);
     EXPECT_TRUE(site.commits.empty());
     tool->SetCurrentNode(1);
     tool->OnKeyDown('A', 1, 0);
     EXPECT_TRUE(site.commits.empty());
-    tool->OnKeyDown(Platform::VK_DELETE, 1, 0);
+    tool->OnKeyDown(KeyDelete, 1, 0);
     EXPECT_EQ(Positions(tool->GetFill()), (std::vector<int>{0, 10000}));
     EXPECT_FALSE(tool->CanDeleteCurrentNode());  // two stops left: neither can go
 }
@@ -262,7 +259,7 @@ TEST_F(LinearTest, LockedRatioScalesTheFillToTheObjectsOtherSide)
 {
     auto tool = Tool(Line({0, 100}, {400, 100}));  // spans the 400-wide box
     KestoTool::Init(40000, 40100);
-    const int base = ToolIdMap::GetInstance().AllocateRange(FillToolKey, FillToolCommandCount);
+    const int base = ToolIdMap::GetInstance().AllocateRange(FillToolKey, FillCommands::Count());
     tool->OnCmdMsg(base + FillCmdLockRatio, Platform::CN_COMMAND, nullptr, nullptr);
     EXPECT_TRUE(tool->IsLockRatio());
     tool->RotateFill(9000);
@@ -280,7 +277,7 @@ TEST_F(LinearTest, FitToShapeAndResetPlaceTheLineAcrossTheObject)
 TEST_F(LinearTest, ContextBarOrder)
 {
     KestoTool::Init(40000, 40100);
-    const int base = ToolIdMap::GetInstance().AllocateRange(FillToolKey, FillToolCommandCount);
+    const int base = ToolIdMap::GetInstance().AllocateRange(FillToolKey, FillCommands::Count());
     auto tool = Tool(Line({0, 0}, {100, 0}));
     Platform::CXTPCommandBars bars;
     tool->InitContextButtons(&bars);

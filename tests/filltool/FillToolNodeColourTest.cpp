@@ -1,5 +1,7 @@
 #include "filltool/FillTool.h"
 
+#include "filltool/FillCommands.h"
+#include "filltool/FillToolImages.h"
 #include "gdi/CFillBitmap.h"
 #include "gdi/CFillLinear.h"
 #include "gdi/CFillNone.h"
@@ -7,7 +9,6 @@
 #include "gdi/CRGBColour.h"
 #include "support/TestDocument.h"
 #include "support/TestToolSite.h"
-#include "tool/CommandImages.h"
 #include "tool/ToolIdMap.h"
 
 #include <gtest/gtest.h>
@@ -108,7 +109,7 @@ TEST_F(NodeColourTest, SolidNoneAndBitmapFills)
 TEST_F(NodeColourTest, HostCommandNumbersAreTranslatedToNodes)
 {
     KestoTool::Init(20000, 20100);
-    const int start = ToolIdMap::GetInstance().AllocateRange(FillToolKey, FillToolCommandCount);
+    const int start = ToolIdMap::GetInstance().AllocateRange(FillToolKey, FillCommands::Count());
     ASSERT_NE(start, -1);
     auto tool = Tool(KestoGDI::CFillLinear());
     const int hostEnd = ToolIdMap::GetInstance().MapIDToApp(FillToolKey, 4);

@@ -1,6 +1,7 @@
 #include "filltool/FillTool.h"
 
 #include "filltool/FillCommands.h"
+#include "filltool/FillToolImages.h"
 #include "gdi/CFillBitmap.h"
 #include "gdi/CFillLinear.h"
 #include "gdi/CFillSolid.h"
@@ -9,7 +10,6 @@
 #include "gdi/CRGBColour.h"
 #include "gdi/CTransparencyLinear.h"
 #include "support/TestToolSite.h"
-#include "tool/CommandImages.h"
 #include "tool/ToolIdMap.h"
 
 #include <gtest/gtest.h>
@@ -224,7 +224,7 @@ TEST(FillTool, KindTestsForTwoColourAndBitmapFills)
 TEST(FillTool, ContextButtonsPutTheEditCommandTheContextItemAndTheTypeCombo)
 {
     KestoTool::Init(9000, 9100);
-    const int start = ToolIdMap::GetInstance().AllocateRange(FillToolKey, FillToolCommandCount);
+    const int start = ToolIdMap::GetInstance().AllocateRange(FillToolKey, FillCommands::Count());
     ASSERT_NE(start, -1);
     const int base = start - ToolIdMap::GetInstance().MapIDToLibrary(FillToolKey, start);
 

@@ -11,17 +11,19 @@ struct RoundRow {
     double x;
     int halfUp;
     int awayFromZero;
+    int addHalfAndTruncate;
 };
 
-TEST(Rounding, HalfUpAndHalfAwayFromZeroDifferOnlyOnNegativeHalves)
+TEST(Rounding, TheThreeRulesDifferOnlyOnNegativeValues)
 {
     const RoundRow rows[] = {
-        {0.0, 0, 0},   {0.4, 0, 0},   {0.5, 1, 1},    {1.5, 2, 2},    {2.5, 3, 3},
-        {-0.4, 0, 0},  {-0.5, 0, -1}, {-1.5, -1, -2}, {-2.5, -2, -3}, {-2.6, -3, -3},
+        {0.0, 0, 0, 0},     {0.4, 0, 0, 0},     {0.5, 1, 1, 1},       {1.5, 2, 2, 2},       {2.5, 3, 3, 3},
+        {-0.4, 0, 0, 0},    {-0.5, 0, -1, 0},   {-1.5, -1, -2, -1},   {-2.5, -2, -3, -2},   {-2.6, -3, -3, -2},
     };
     for (const auto& row : rows) {
         EXPECT_EQ(RoundHalfUp(row.x), row.halfUp) << row.x;
         EXPECT_EQ(RoundHalfAwayFromZero(row.x), row.awayFromZero) << row.x;
+        EXPECT_EQ(AddHalfAndTruncate(row.x), row.addHalfAndTruncate) << row.x;
     }
 }
 

@@ -1,4 +1,5 @@
-#include "tool/CommandImages.h"
+#include "filltool/FillCommands.h"
+#include "filltool/FillToolImages.h"
 
 #include "tool/ToolIdMap.h"
 
@@ -8,7 +9,7 @@ using Platform::CSize;
 using Platform::CXTPImageManager;
 using Platform::XTPImageState;
 
-TEST(CommandImages, EveryImagedCommandGetsAnImageAtEachFoldersSize)
+TEST(FillToolImages, EveryImagedCommandGetsAnImageAtEachFoldersSize)
 {
     CXTPImageManager images;
     KestoTool::RegisterFillToolImages(images, 3000);
@@ -26,7 +27,7 @@ TEST(CommandImages, EveryImagedCommandGetsAnImageAtEachFoldersSize)
     EXPECT_EQ(images.GetImageCount(), 14 * 4);
 }
 
-TEST(CommandImages, SharedImagesArePairedAsTheTableSays)
+TEST(FillToolImages, SharedImagesArePairedAsTheTableSays)
 {
     CXTPImageManager images;
     KestoTool::RegisterFillToolImages(images, 0);
@@ -41,14 +42,14 @@ TEST(CommandImages, SharedImagesArePairedAsTheTableSays)
     EXPECT_FALSE(same(20, 21));
 }
 
-TEST(CommandImages, TheRangeIsAllocatedEvenWithoutBars)
+TEST(FillToolImages, TheRangeIsAllocatedEvenWithoutBars)
 {
     KestoTool::Init(41000, 41100);
     KestoTool::RegisterFillToolImagesOnce(nullptr);
     EXPECT_TRUE(KestoTool::ToolIdMap::GetInstance().RangeAllocated(KestoTool::FillToolKey));
 }
 
-TEST(CommandImages, RegistrationRunsOncePerProcessUnderTheFillToolKey)
+TEST(FillToolImages, RegistrationRunsOncePerProcessUnderTheFillToolKey)
 {
     KestoTool::Init(40000, 40100);
     Platform::CXTPCommandBars bars;

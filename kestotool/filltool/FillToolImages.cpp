@@ -1,12 +1,10 @@
-#include "tool/CommandImages.h"
+#include "filltool/FillToolImages.h"
 
-#include "tool/FillCommandTable.h"
+#include "filltool/FillCommands.h"
 #include "tool/ToolIdMap.h"
 #include "tool/WadManager.h"
 
 namespace KestoTool {
-
-const wchar_t* const FillToolKey = L"KestoTool::FillTool";
 
 namespace {
 
@@ -20,21 +18,18 @@ Platform::XTPImage ToImage(const CLtBitmap& bitmap)
 
 void RegisterFillToolImages(Platform::CXTPImageManager& images, int start)
 {
-    WadManager& wad = WadManager::GetInstance();
-    const int screenDpi = wad.GetDpi();
-    for (const FillCommandRow& row : FillCommandTable()) {
+    const KestoGDI::WadArchive archive = WadManager::GetInstance().OpenArchive();
+    for (const FillCommandRow& row : FillCommands::All()) {
         if (!row.icon)
             continue;
+        const int id = start + row.number;
         for (const int folder : WadManager::Folders) {
-            wad.SetDpi(folder);
-            const Platform::CSize size = Platform::CXTPImageManager::GetPreferredIconSizeforDPI(folder);
-            if (const RefPtr<CLtBitmap> bitmap = wad.LoadImage(row.icon)) {
-                const int id = start + row.number;
+            if (const RefPtr<CLtBitmap> bitmap = archive.Load(WadManager::EntryName(folder, row.icon).c_str())) {
+                const Platform::CSize size = Platform::CXTPImageManager::GetPreferredIconSizeforDPI(folder);
                 images.SetIcons(ToImage(*bitmap), &id, 1, size, Platform::XTPImageState::Normal);
             }
         }
     }
-    wad.SetDpi(screenDpi);
 }
 
 void RegisterFillToolImagesOnce(Platform::CXTPCommandBars* bars)
@@ -43,7 +38,7 @@ void RegisterFillToolImagesOnce(Platform::CXTPCommandBars* bars)
     if (registered)
         return;
     registered = true;
-    const int start = ToolIdMap::GetInstance().AllocateRange(FillToolKey, FillToolCommandCount);
+    const int start = ToolIdMap::GetInstance().AllocateRange(FillToolKey, FillCommands::Count());
     if (start != -1 && bars)
         RegisterFillToolImages(*bars->GetImageManager(), start);
 }

@@ -1,0 +1,55 @@
+#include "filltool/FillToolFactory.h"
+
+#include "filltool/FillToolLinear.h"
+#include "gdi/CFillLinear.h"
+
+namespace KestoTool {
+
+namespace {
+
+using namespace KestoGDI;
+
+// The tool of each fill kind. Kinds whose tool is not built yet answer none, as kinds without a
+// tool do.
+class ToolChoice final : public ConstFillVisitor {
+public:
+    explicit ToolChoice(IToolSite* site) : m_site(site) {}
+
+    std::unique_ptr<FillTool> tool;
+
+    void Visit(const CFillNone&) override {}
+    void Visit(const CFillSolid&) override {}
+    void Visit(const CFillLinear& fill) override { Make<FillToolLinear>(fill); }
+    void Visit(const CFillRadial&) override {}
+    void Visit(const CFillEllipse&) override {}
+    void Visit(const CFillConical&) override {}
+    void Visit(const CFillSquare&) override {}
+    void Visit(const CFillThreeColour&) override {}
+    void Visit(const CFillFourColour&) override {}
+    void Visit(const CFillFractal&) override {}
+    void Visit(const CFillBitmap&) override {}
+    void Visit(const CFillDiscreteMesh&) override {}
+    void Visit(const CFillVector&) override {}
+
+private:
+    template <class Tool>
+    void Make(const CFill& fill)
+    {
+        tool = std::make_unique<Tool>(&fill, m_site);
+    }
+
+    IToolSite* m_site;
+};
+
+} // namespace
+
+std::unique_ptr<FillTool> FillToolFactory::Create(const CFill* fill, IToolSite* site)
+{
+    if (!fill)
+        return nullptr;
+    ToolChoice choice(site);
+    fill->Accept(choice);
+    return std::move(choice.tool);
+}
+
+} // namespace KestoTool

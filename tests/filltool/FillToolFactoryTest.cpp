@@ -1,0 +1,40 @@
+#include "filltool/FillToolFactory.h"
+
+#include "filltool/FillToolLinear.h"
+#include "gdi/FillKinds.h"
+#include "support/TestToolSite.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <typeinfo>
+
+using namespace KestoTool;
+
+TEST(FillToolFactory, EachKindGetsItsToolOrNone)
+{
+    // The kinds whose tools exist; every other kind, fill or transparency, gets no tool.
+    const std::map<int, const std::type_info*> tools = {
+        {KestoGDI::FillType::Linear, &typeid(FillToolLinear)},
+    };
+    KestoTest::TestToolSite site;
+    for (const KestoGDI::FillKind& kind : KestoGDI::FillKinds::All()) {
+        for (const Platform::CRuntimeClass* c : {kind.fillClass, kind.transparencyClass}) {
+            if (!c)
+                continue;
+            SCOPED_TRACE(c->m_lpszClassName);
+            const RefPtr<CFill> fill = CFill::CreateFromClass(c);
+            const std::unique_ptr<FillTool> tool = FillToolFactory::Create(fill.get(), &site);
+            const auto expected = tools.find(kind.type);
+            if (expected == tools.end()) {
+                EXPECT_EQ(tool, nullptr);
+                continue;
+            }
+            ASSERT_NE(tool, nullptr);
+            EXPECT_EQ(typeid(*tool), *expected->second);
+            EXPECT_NE(tool->GetFill(), fill.get()) << "the tool keeps its own copy";
+            EXPECT_TRUE(tool->GetFill()->IsEqual(*fill));
+        }
+    }
+    EXPECT_EQ(FillToolFactory::Create(nullptr, &site), nullptr);
+}
