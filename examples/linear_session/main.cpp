@@ -5,7 +5,6 @@
 #include "SvgRenderTarget.h"
 
 #include "filltool/FillCommands.h"
-#include "filltool/FillToolImages.h"
 #include "filltool/FillToolFactory.h"
 #include "gdi/CFillLinear.h"
 #include "gdi/CRGBColour.h"
