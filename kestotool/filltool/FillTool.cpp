@@ -31,15 +31,36 @@ FillTool::FillTool(const CFill* fill, IToolSite* site) : m_pSite(site)
 
 FillTool::~FillTool()
 {
-    if (CFill* fill = m_pFill.exchange(nullptr))
+    if (const CFill* fill = m_pFill.exchange(nullptr))
         fill->Release();
 }
 
 void FillTool::SetFill(const CFill* fill)
 {
-    CFill* copy = fill ? fill->Clone().Detach() : nullptr;
-    if (CFill* previous = m_pFill.exchange(copy))
+    // A fill its owner holds by reference is shared: fills are never changed while shared, and
+    // the tool copies it before a drag reshapes it (GetWorkingFill). One nobody holds is copied.
+    const CFill* kept = nullptr;
+    if (fill && fill->GetRefCount() > 0) {
+        fill->AddRef();
+        kept = fill;
+    } else if (fill) {
+        kept = fill->Clone().Detach();
+    }
+    if (const CFill* previous = m_pFill.exchange(kept))
         previous->Release();
+}
+
+CFill* FillTool::GetWorkingFill()
+{
+    const CFill* fill = m_pFill.load();
+    if (fill && fill->GetRefCount() > 1) {
+        const CFill* copy = fill->Clone().Detach();
+        m_pFill.exchange(copy);
+        fill->Release();
+        fill = copy;
+    }
+    // Sole owner of a fill that was made on the heap as a changeable object.
+    return const_cast<CFill*>(fill);
 }
 
 const CFill* FillTool::GetFill() const

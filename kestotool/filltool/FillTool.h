@@ -55,7 +55,7 @@ public:
     static const int s_nHandleSize = 8;  // screen pixels: handle side and hit box
     static const int s_nMinSize = 50;    // paper units: a shorter fill gets no handles
 
-    // Keeps a private clone of fill; site must outlive the tool.
+    // Takes fill as SetFill does; site must outlive the tool.
     FillTool(const CFill* fill, IToolSite* site);
     ~FillTool() override;
     FillTool(const FillTool&) = delete;
@@ -113,7 +113,9 @@ public:
     // The four corners of GetFillRect(fill), closed.
     virtual K2DArrayPoint GetEffectiveBBox(const CFill* fill);
 
-    // Gives the tool a new fill: a clone of it replaces the tool's copy.
+    // Gives the tool a new fill. A fill that its owner holds by reference (a committed fill the
+    // host keeps) is shared, not copied: the host must not change it afterwards, as no one
+    // changes a shared fill. A fill with no reference (on the stack, say) is copied.
     void SetFill(const CFill* fill);
     bool CanEditFill() const { return true; }
     bool IsTransparency() const;
@@ -223,9 +225,9 @@ protected:
     void AddContextItem(int libraryCommand);
     void SetHotNode(int node) { m_nHotNode = node; }
     IToolSite* GetSite() const { return m_pSite; }
-    // The tool's own copy, which drags reshape in place; the host reads it back through GetFill
-    // when the gesture ends.
-    CFill* GetWorkingFill() const { return m_pFill.load(); }
+    // The tool's own copy, which drags reshape in place (copied first while it is shared); the
+    // host reads it back through GetFill when the gesture ends.
+    CFill* GetWorkingFill();
     const K2DLtGeneral& GetViewTransform() const { return m_viewTransform; }
 
 private:
@@ -239,7 +241,7 @@ private:
 
     IToolSite* const m_pSite;
     int m_nCurrentNode = 0;
-    std::atomic<CFill*> m_pFill{nullptr};
+    std::atomic<const CFill*> m_pFill{nullptr};
     CPoint m_ptDragStart;
     int m_nHotNode = -1;
     bool m_bGhostNode = false;

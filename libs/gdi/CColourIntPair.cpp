@@ -1,35 +1,39 @@
 #include "gdi/CColourIntPair.h"
 
-#include "gdi/CRGBColour.h"
 #include "geometry/Rounding.h"
+
+#include <utility>
 
 namespace KestoGDI {
 
-CColourIntPair::CColourIntPair() : m_colour(std::make_unique<CRGBColour>(0))
+CColourIntPair::CColourIntPair() = default;
+
+CColourIntPair::CColourIntPair(const CColour& colour, int value, CSpline spline) : m_value(value), m_spline(spline)
 {
+    SetColour(colour);
 }
 
-CColourIntPair::CColourIntPair(const CColour& colour, int value, CSpline spline)
-    : m_colour(colour.Clone()), m_value(value), m_spline(spline)
+const CColour& CColourIntPair::GetColour() const
 {
+    if (const auto* mono = std::get_if<CMonoColour>(&m_colour))
+        return *mono;
+    return std::get<CRGBColour>(m_colour);
 }
 
-CColourIntPair::CColourIntPair(const CColourIntPair& other)
-    : m_colour(other.m_colour->Clone()), m_value(other.m_value), m_spline(other.m_spline)
+CColour& CColourIntPair::GetColour()
 {
+    return const_cast<CColour&>(std::as_const(*this).GetColour());
 }
 
-CColourIntPair& CColourIntPair::operator=(const CColourIntPair& other)
+void CColourIntPair::SetColour(const CColour& colour)
 {
-    if (this != &other) {
-        m_colour = other.m_colour->Clone();
-        m_value = other.m_value;
-        m_spline = other.m_spline;
-    }
-    return *this;
+    if (const auto* mono = dynamic_cast<const CMonoColour*>(&colour))
+        m_colour = *mono;
+    else if (const auto* rgb = dynamic_cast<const CRGBColour*>(&colour))
+        m_colour = *rgb;
+    else
+        m_colour = CRGBColour(colour.GetRGB(), nullptr, 0, static_cast<short>(colour.GetAlpha()));
 }
-
-CColourIntPair::~CColourIntPair() = default;
 
 CPoint CColourIntPair::GetValue(const CPoint& start, const CPoint& end) const
 {
@@ -39,7 +43,7 @@ CPoint CColourIntPair::GetValue(const CPoint& start, const CPoint& end) const
 
 bool operator==(const CColourIntPair& a, const CColourIntPair& b)
 {
-    return a.m_value == b.m_value && a.m_spline == b.m_spline && a.m_colour->IsEqual(*b.m_colour);
+    return a.m_value == b.m_value && a.m_spline == b.m_spline && a.GetColour().IsEqual(b.GetColour());
 }
 
 } // namespace KestoGDI

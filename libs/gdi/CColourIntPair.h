@@ -1,28 +1,26 @@
 #pragma once
 
-#include "gdi/CColour.h"
+#include "gdi/CMonoColour.h"
+#include "gdi/CRGBColour.h"
 #include "gdi/CSpline.h"
 
-#include <memory>
+#include <variant>
 
 namespace KestoGDI {
 
-// One stop of a gradient: a colour (owned; copying the stop copies it) at an integer position
-// 0..10000 along the gradient, and the spline that shapes the blend to the next stop.
+// One stop of a gradient: a colour at an integer position 0..10000 along the gradient, and the
+// spline that shapes the blend to the next stop. The colour is held by value (an RGB colour or
+// a grey level), so a stop is a plain value: copying stop lists allocates nothing per stop. A
+// colour of another kind is held as the RGB colour it shows, with its alpha.
 class CColourIntPair {
 public:
     // Opaque black at position 0.
     CColourIntPair();
     CColourIntPair(const CColour& colour, int value, CSpline spline = {});
-    CColourIntPair(const CColourIntPair& other);
-    CColourIntPair& operator=(const CColourIntPair& other);
-    CColourIntPair(CColourIntPair&&) noexcept = default;
-    CColourIntPair& operator=(CColourIntPair&&) noexcept = default;
-    ~CColourIntPair();
 
-    const CColour& GetColour() const { return *m_colour; }
-    CColour& GetColour() { return *m_colour; }
-    void SetColour(const CColour& colour) { m_colour = colour.Clone(); }
+    const CColour& GetColour() const;
+    CColour& GetColour();
+    void SetColour(const CColour& colour);
 
     int GetValue() const { return m_value; }
     void SetValue(int value) { m_value = value; }
@@ -37,7 +35,7 @@ public:
     friend bool operator==(const CColourIntPair& a, const CColourIntPair& b);
 
 private:
-    std::unique_ptr<CColour> m_colour;
+    std::variant<CRGBColour, CMonoColour> m_colour;
     int m_value = 0;
     CSpline m_spline;
 };

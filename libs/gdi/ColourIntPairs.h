@@ -9,14 +9,16 @@
 namespace KestoGDI {
 
 // The stop list of a gradient (and the node colours of three- and four-colour, plasma and
-// bitmap fills). A value: copying the list copies every colour. Positions are hundredths of a
-// percent, 0 at the start handle and 10000 at the end; editors keep the list sorted.
+// bitmap fills). A value with copy-on-write storage: copies share the stops until one of them
+// changes, so that handing a list from fill to fill (clones, commits) copies nothing. Positions
+// are hundredths of a percent, 0 at the start handle and 10000 at the end; editors keep the
+// list sorted.
 class ColourIntPairs {
 public:
     ColourIntPairs() = default;
 
-    int GetSize() const { return static_cast<int>(m_pairs.size()); }
-    bool IsEmpty() const { return m_pairs.empty(); }
+    int GetSize() const { return static_cast<int>(Read().size()); }
+    bool IsEmpty() const { return Read().empty(); }
     // The stop at index, or null when the index is out of range.
     const CColourIntPair* GetAt(int index) const;
     CColourIntPair* GetAt(int index);
@@ -26,14 +28,15 @@ public:
     int Add(CColourIntPair pair);
     // Removes the stop at index; false (and no change) when out of range.
     bool Delete(int index);
-    void RemoveAll() { m_pairs.clear(); }
+    void RemoveAll() { m_pairs.reset(); }
     // Index of the first stop at value whose colour equals colour (IsEqual), or of the first
     // stop at value when colour is null; -1 when there is none.
     int Find(int value, const CColour* colour) const;
     // Gives stop index the position value, re-sorts and answers the stop's new index;
     // -1 (and no change) for an index out of range.
     int Move(int index, int value);
-    // Orders the stops by position; stops at the same position keep their order.
+    // Orders the stops by position; stops at the same position keep their order. A list that is
+    // sorted already is left alone (and stays shared).
     void Sort();
 
     // The gradient's colour at a position: before the first stop the first colour, after the
@@ -43,12 +46,18 @@ public:
 
     std::size_t Measure() const;
 
-    auto begin() const { return m_pairs.begin(); }
-    auto end() const { return m_pairs.end(); }
-    friend bool operator==(const ColourIntPairs&, const ColourIntPairs&) = default;
+    auto begin() const { return Read().begin(); }
+    auto end() const { return Read().end(); }
+    friend bool operator==(const ColourIntPairs& a, const ColourIntPairs& b);
 
 private:
-    std::vector<CColourIntPair> m_pairs;
+    using Stops = std::vector<CColourIntPair>;
+
+    const Stops& Read() const;
+    // The stops, made this list's own first when another list shares them.
+    Stops& Write();
+
+    std::shared_ptr<Stops> m_pairs;  // null while empty
 };
 
 } // namespace KestoGDI

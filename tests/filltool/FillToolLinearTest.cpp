@@ -83,6 +83,21 @@ TEST_F(LinearTest, DraggingAStopCommitsItsNewPositionOnce)
     EXPECT_EQ(Ends(site.commits[1].fill.get()), Ends_t({0, 0}, {1000, 0}));  // the line stays
 }
 
+TEST_F(LinearTest, AHeldFillIsSharedUntilADragReshapesACopyOfIt)
+{
+    const RefPtr<const CFill> held = Kernel::MakeRef<CFillLinear>(Line({0, 0}, {1000, 0}));
+    auto tool = Tool(*held);
+    EXPECT_EQ(tool->GetFill(), held.get());
+    EXPECT_EQ(held->GetRefCount(), 2);
+
+    CPoint press(1000, 0), move(1200, 0);
+    tool->OnDragStart(press, 0);
+    tool->OnDragChange(move, 0);
+    EXPECT_EQ(Ends(held.get()), Ends_t({0, 0}, {1000, 0})) << "the host's fill is never reshaped";
+    EXPECT_EQ(Ends(tool->GetFill()), Ends_t({0, 0}, {1200, 0}));
+    EXPECT_EQ(held->GetRefCount(), 1);
+}
+
 TEST_F(LinearTest, AStopOvertakingItsNeighbourKeepsTheCurrentNodeNumber)
 {
     auto tool = Tool(Line({0, 0}, {1000, 0}, {3000, 6000}));
