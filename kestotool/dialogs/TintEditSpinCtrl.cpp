@@ -85,11 +85,10 @@ void CTintEditSpinCtrl::UpdateDataFromControl()
     m_tint = Clamped(ParseTint(GetWindowText()));
 }
 
-void CTintEditSpinCtrl::OnChar(unsigned ch, unsigned repeat, unsigned flags)
+void CTintEditSpinCtrl::OnUserEdit()
 {
     if (m_updateWhileTyping)
         SetTimer(TypingTimer, TypingDelayMs);
-    CEdit::OnChar(ch, repeat, flags);
 }
 
 void CTintEditSpinCtrl::OnTimer(int id)

@@ -36,7 +36,6 @@ public:
     void SendNotification(int code) { NotifyParent(code); }
     KestoUI::KUISpinButtonBuddy* GetSpinCtrl() const { return m_spin.get(); }
 
-    void OnChar(unsigned ch, unsigned repeat, unsigned flags) override;
     void OnKeyUp(unsigned key, unsigned repeat, unsigned flags) override;
     void OnKillFocus(Platform::CWnd* next) override;
     void OnTimer(int id) override;
@@ -47,6 +46,10 @@ public:
 
     // The tint a text stands for, before clamping: see the class comment for the notation.
     static int ParseTint(const Platform::CString& text);
+
+protected:
+    // Each edit by the user, a keystroke or a whole new text, restarts the typing timer.
+    void OnUserEdit() override;
 
 private:
     int Clamped(int tint) const;

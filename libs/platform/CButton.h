@@ -7,6 +7,8 @@ namespace Platform {
 // A push button: a click tells the parent BN_CLICKED under the button's id.
 class CButton : public CWnd {
     KESTO_DECLARE_DYNAMIC(CButton)
+protected:
+    WindowKind GetWindowKind() const override { return WindowKind::Button; }
 };
 
 } // namespace Platform

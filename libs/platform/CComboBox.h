@@ -8,6 +8,8 @@ namespace Platform {
 // A drop-down list window.
 class CComboBox : public CWnd, public CListItems {
     KESTO_DECLARE_DYNAMIC(CComboBox)
+protected:
+    WindowKind GetWindowKind() const override { return WindowKind::ComboBox; }
 };
 
 } // namespace Platform

@@ -62,6 +62,7 @@ void CDialog::EndDialog(int result)
 {
     m_ended = true;
     m_result = result;
+    Backend().EndModal(*this, result);
 }
 
 bool CDialog::UpdateData(bool saveAndValidate)

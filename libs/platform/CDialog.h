@@ -34,6 +34,7 @@ protected:
     virtual void OnCancel();
 
     CWnd* GetParentWindow() const { return m_parentWindow; }
+    WindowKind GetWindowKind() const override { return WindowKind::Dialog; }
 
 private:
     void CreateControls();

@@ -45,6 +45,23 @@ void CEdit::OnChar(unsigned ch, unsigned, unsigned)
     } else if (ch >= 32) {
         ReplaceSel(CString(std::wstring(1, static_cast<wchar_t>(ch))));
     }
+    UserEdited(before);
+}
+
+void CEdit::SetTextFromUser(const CString& text)
+{
+    const CString before = GetWindowText();
+    std::wstring taken = text.Str();
+    if (m_limit > 0 && taken.size() > static_cast<std::size_t>(m_limit))
+        taken.resize(static_cast<std::size_t>(m_limit));
+    TakeUserText(CString(taken));
+    m_selStart = m_selEnd = static_cast<int>(taken.size());
+    UserEdited(before);
+}
+
+void CEdit::UserEdited(const CString& before)
+{
+    OnUserEdit();
     if (!(GetWindowText() == before))
         NotifyParent(EN_CHANGE);
 }

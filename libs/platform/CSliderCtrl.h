@@ -15,6 +15,9 @@ public:
     void SetPos(int pos);
     int GetPos() const { return m_pos; }
 
+protected:
+    WindowKind GetWindowKind() const override { return WindowKind::Slider; }
+
 private:
     int m_min = 0;
     int m_max = 100;

@@ -25,6 +25,9 @@ public:
     // The user clicks the up (true) or down arrow.
     void Click(bool up);
 
+protected:
+    WindowKind GetWindowKind() const override { return WindowKind::Spin; }
+
 private:
     int m_lower = 0;
     int m_upper = 100;

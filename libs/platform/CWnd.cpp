@@ -23,6 +23,7 @@ void CWnd::Create(CWnd* parent, int id, const CRect& rect, const CString& text)
     m_parent = parent;
     if (parent)
         parent->m_children.push_back(this);
+    m_peer = Backend().CreatePeer(*this, GetWindowKind());
     StateChanged();
 }
 
@@ -36,6 +37,7 @@ void CWnd::DestroyWindow()
     m_owned.clear();
     Backend().WindowDestroyed(this);
     Detach();
+    m_peer.reset();
     m_created = false;
 }
 
@@ -86,6 +88,9 @@ bool CWnd::SubclassDlgItem(int id, CWnd* parent)
     m_rect = item->m_rect;
     m_parent = parent;
     m_created = true;
+    m_peer = std::move(item->m_peer);
+    if (m_peer)
+        m_peer->Retarget(*this);
     *std::find(parent->m_children.begin(), parent->m_children.end(), item) = this;
     item->m_parent = nullptr;
     Backend().WindowDestroyed(item);
@@ -184,8 +189,8 @@ void CWnd::NotifyParent(int code)
 
 void CWnd::StateChanged()
 {
-    if (m_created)
-        Backend().WindowChanged(this);
+    if (m_created && m_peer)
+        m_peer->Update();
 }
 
 // A plain window ignores input; controls and dialogs override what they handle.

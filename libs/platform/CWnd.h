@@ -3,6 +3,7 @@
 #include "platform/CCmdTarget.h"
 #include "platform/CRect.h"
 #include "platform/CString.h"
+#include "platform/WindowPeer.h"
 #include "platform/WindowTypes.h"
 
 #include <memory>
@@ -12,8 +13,8 @@ namespace Platform {
 
 // A window of the portable window tree: an id, a parent and ordered children, text, enabled
 // and visible state, a rectangle in its parent's client coordinates, timers and the keyboard
-// focus. The state lives here; a back end shows it (the headless one only records it) and
-// feeds user input back through the On... handlers.
+// focus. The state lives here; the window's peer, made by the back end, shows it (the headless
+// one only counts changes) and feeds user input back through the On... handlers.
 class CWnd : public CCmdTarget {
     KESTO_DECLARE_DYNAMIC(CWnd)
 public:
@@ -27,6 +28,8 @@ public:
     // Ends the window: its children are destroyed with it and it leaves its parent.
     void DestroyWindow();
     bool IsWindow() const { return m_created; }
+    // The back end's half of this window; null while the window is not live.
+    WindowPeer* GetPeer() const { return m_peer.get(); }
 
     int GetDlgCtrlID() const { return m_id; }
     CWnd* GetParent() const { return m_parent; }
@@ -79,13 +82,18 @@ public:
     virtual void OnWindowPosChanging(WINDOWPOS* pos);
 
 protected:
-    // Lets the back end mirror a change of this window's state.
+    // Lets the peer show a change of this window's state.
     void StateChanged();
+    // Takes text the user entered into the widget: stored, not shown back to the peer.
+    void TakeUserText(const CString& text) { m_text = text; }
+    // Which widget a back end makes for this window.
+    virtual WindowKind GetWindowKind() const { return WindowKind::Window; }
 
 private:
     void Detach();
 
     bool m_created = false;
+    std::unique_ptr<WindowPeer> m_peer;
     int m_id = 0;
     CWnd* m_parent = nullptr;
     std::vector<CWnd*> m_children;

@@ -2,6 +2,7 @@
 
 #include "platform/CButton.h"
 #include "platform/CDialog.h"
+#include "platform/CEdit.h"
 #include "platform/CSliderCtrl.h"
 #include "platform/CSpinButtonCtrl.h"
 
@@ -16,7 +17,19 @@ HeadlessBackend& Headless()
 }
 
 namespace {
+
 WindowBackend* g_backend = nullptr;
+
+// Headless windows have nothing to show; the peer only counts what would be shown.
+class HeadlessPeer final : public WindowPeer {
+public:
+    HeadlessPeer(CWnd& window, long long& changes) : WindowPeer(window), m_changes(changes) {}
+    void Update() override { ++m_changes; }
+
+private:
+    long long& m_changes;
+};
+
 } // namespace
 
 WindowBackend& Backend()
@@ -29,6 +42,11 @@ WindowBackend* SetBackend(WindowBackend* backend)
     WindowBackend* previous = &Backend();
     g_backend = backend;
     return previous;
+}
+
+std::unique_ptr<WindowPeer> HeadlessBackend::CreatePeer(CWnd& window, WindowKind)
+{
+    return std::make_unique<HeadlessPeer>(window, m_changes);
 }
 
 void HeadlessBackend::SetTimer(CWnd* window, int id, int milliseconds)
@@ -81,6 +99,12 @@ void HeadlessBackend::Type(const CString& text)
         if (m_focus)
             m_focus->OnChar(static_cast<unsigned>(text[i]), 1, 0);
     }
+}
+
+void HeadlessBackend::EnterText(const CString& text)
+{
+    if (auto* edit = dynamic_cast<CEdit*>(m_focus))
+        edit->SetTextFromUser(text);
 }
 
 void HeadlessBackend::PressKey(unsigned key)

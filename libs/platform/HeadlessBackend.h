@@ -18,6 +18,7 @@ class HeadlessBackend : public WindowBackend {
 public:
     using ModalScript = std::function<void(CDialog&)>;
 
+    std::unique_ptr<WindowPeer> CreatePeer(CWnd& window, WindowKind kind) override;
     void SetTimer(CWnd* window, int id, int milliseconds) override;
     void KillTimer(CWnd* window, int id) override;
     CWnd* GetFocus() const override { return m_focus; }
@@ -25,7 +26,8 @@ public:
     // Plays the modal script (if any) on the dialog; a dialog the script did not end is
     // cancelled.
     int RunModal(CDialog& dialog) override;
-    void WindowChanged(CWnd*) override { ++m_changes; }
+    // The script's run ends when the script returns; nothing to leave.
+    void EndModal(CDialog&, int) override {}
     void WindowDestroyed(CWnd* window) override;
 
     // The script the next modal runs play; it stays until replaced.
@@ -39,8 +41,10 @@ public:
     // How many state changes windows have reported.
     long long ChangeCount() const { return m_changes; }
 
-    // User input to the focused window (nothing without a focus).
+    // User input to the focused window (nothing without a focus): keystrokes one by one, or a
+    // whole new text put into an edit box at once, as an input method or a paste delivers it.
     void Type(const CString& text);
+    void EnterText(const CString& text);
     void PressKey(unsigned key);
     void MoveFocus(CWnd* window);
     // The user drags a slider to pos and lets go.

@@ -1,16 +1,22 @@
 #pragma once
 
+#include "platform/WindowPeer.h"
+
+#include <memory>
+
 namespace Platform {
 
 class CDialog;
-class CWnd;
 
-// What a window system supplies to the window tree: a clock and timers, the keyboard focus,
-// modal runs, and a way to show changes of a window's state. The headless back end is
-// installed until another one is.
+// What a window system supplies to the window tree: a peer per window that shows it, a clock
+// and timers, the keyboard focus and modal runs. The headless back end is installed until
+// another one is.
 class WindowBackend {
 public:
     virtual ~WindowBackend() = default;
+
+    // The peer of a window being created.
+    virtual std::unique_ptr<WindowPeer> CreatePeer(CWnd& window, WindowKind kind) = 0;
 
     virtual void SetTimer(CWnd* window, int id, int milliseconds) = 0;
     virtual void KillTimer(CWnd* window, int id) = 0;
@@ -19,8 +25,8 @@ public:
     virtual void SetFocus(CWnd* window) = 0;
     // Runs the dialog modally and answers how it ended (IDOK, IDCANCEL, ...).
     virtual int RunModal(CDialog& dialog) = 0;
-    // A window's text, state or rectangle changed.
-    virtual void WindowChanged(CWnd* window) = 0;
+    // The dialog ended itself (EndDialog): leave its modal run.
+    virtual void EndModal(CDialog& dialog, int result) = 0;
     // A window is going away: forget its timers and its focus.
     virtual void WindowDestroyed(CWnd* window) = 0;
 };

@@ -16,6 +16,9 @@ public:
     const KestoGDI::CFill* GetFill() const { return m_fill.get(); }
     int GetRefreshCount() const { return m_refreshes; }
 
+protected:
+    Platform::WindowKind GetWindowKind() const override { return Platform::WindowKind::FillPreview; }
+
 private:
     Platform::CRect m_bounds;
     Kernel::RefPtr<KestoGDI::CFill> m_fill;

@@ -120,6 +120,32 @@ TEST(TintEditSpinCtrl, TypingWithUpdateWhileTypingNotifiesAfterHalfASecondOfQuie
     });
 }
 
+TEST(TintEditSpinCtrl, AWholeTextFromTheBackEndActsAsTypingItKeyByKey)
+{
+    // A back end whose widget edits the text itself hands over the whole new text at once.
+    const auto play = [](bool wholeText) {
+        TintDialog dialog(true);
+        Commands seen;
+        int tint = 0;
+        RunModal(dialog, [&](TintDialog& d) {
+            d.tint.SetFocus();
+            d.tint.SetSel(0, -1);
+            if (wholeText)
+                Headless().EnterText(L"80");
+            else
+                Headless().Type(L"80");
+            Headless().AdvanceClock(499);
+            EXPECT_TRUE(d.commands.empty());
+            Headless().AdvanceClock(1);
+            seen = d.commands;
+            tint = d.tint.GetTint();
+        });
+        return std::make_pair(seen, tint);
+    };
+    EXPECT_EQ(play(true), play(false));
+    EXPECT_EQ(play(true), std::make_pair(Commands{"changed"}, 20));
+}
+
 TEST(TintEditSpinCtrl, TypingWithoutUpdateWaitsForEnterOrFocusLoss)
 {
     TintDialog dialog(false);

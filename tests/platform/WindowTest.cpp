@@ -55,7 +55,52 @@ protected:
     }
 };
 
+// The headless back end that also logs what a real back end would be asked to do.
+class PeerLog : public HeadlessBackend {
+public:
+    std::vector<WindowKind> kinds;
+    std::vector<std::string> updates;
+    std::vector<int> endings;
+
+    std::unique_ptr<WindowPeer> CreatePeer(CWnd& window, WindowKind kind) override
+    {
+        kinds.push_back(kind);
+        return std::make_unique<Peer>(window, updates);
+    }
+    void EndModal(CDialog&, int result) override { endings.push_back(result); }
+
+private:
+    struct Peer : WindowPeer {
+        Peer(CWnd& w, std::vector<std::string>& into) : WindowPeer(w), log(into) {}
+        void Update() override { log.push_back(GetWindow().GetWindowText().ToUtf8()); }
+        std::vector<std::string>& log;
+    };
+};
+
 } // namespace
+
+TEST(Window, ABackEndGetsAPeerPerWindowUpdatesButNoEchoOfUserTextAndTheModalEnd)
+{
+    PeerLog backend;
+    WindowBackend* previous = SetBackend(&backend);
+    NumberDialog dialog(&kTemplate, nullptr);
+    backend.SetModalScript([&](CDialog& d) {
+        auto& dlg = static_cast<NumberDialog&>(d);
+        dlg.edit.SetFocus();
+        backend.updates.clear();
+        backend.EnterText(L"12");  // the widget shows it already
+        EXPECT_TRUE(backend.updates.empty());
+        dlg.edit.SetWindowText(L"15");  // the program's change is shown
+        EXPECT_EQ(backend.updates, std::vector<std::string>{"15"});
+        backend.ClickButton(dlg, IDOK);
+    });
+    EXPECT_EQ(dialog.DoModal(), IDOK);
+    SetBackend(previous);
+    EXPECT_EQ(dialog.value, 15);
+    EXPECT_EQ(backend.kinds, (std::vector<WindowKind>{WindowKind::Dialog, WindowKind::Edit, WindowKind::Spin,
+                                                      WindowKind::Window, WindowKind::Button}));
+    EXPECT_EQ(backend.endings, std::vector<int>{IDOK});
+}
 
 TEST(Window, TimersFireInTimeOrderOnTheFakeClockUntilKilled)
 {
