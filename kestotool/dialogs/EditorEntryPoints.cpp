@@ -62,32 +62,49 @@ struct EditorArguments {
     bool helperSetting;
 };
 
-// The fill editor of each kind (EditFill). None and solid fills go to the colour chooser;
-// bitmap and discrete-mesh fills have no editor.
-class FillEditorChoice final : public ConstFillVisitor {
+// The editor family of each fill kind, shared by fills and transparencies: the line gradients
+// go to a gradient editor, three- and four-colour fills to their editor, plasma to the plasma
+// fill dialog (there is no plasma transparency dialog: it serves both), bitmap and
+// discrete-mesh fills to none. What differs for fills and transparencies is left to the two
+// choices below.
+class EditorChoice : public ConstFillVisitor {
 public:
-    FillEditorChoice(const EditorArguments& args, const Kesto2D::K2DLtGeneral& objectTransform)
-        : m_args(args), m_objectTransform(objectTransform)
-    {
-    }
-
     RefPtr<CFill> result;
 
-    void Visit(const CFillNone&) override { result = PickSolid(m_args.document, nullptr, m_args.parent); }
-    void Visit(const CFillSolid& fill) override { result = PickSolid(m_args.document, &fill, m_args.parent); }
-    void Visit(const CFillLinear& fill) override { Gradient(fill); }
-    void Visit(const CFillRadial& fill) override { Gradient(fill); }
-    void Visit(const CFillEllipse& fill) override { Gradient(fill); }
-    void Visit(const CFillConical& fill) override { Gradient(fill); }
-    void Visit(const CFillSquare& fill) override { Gradient(fill); }
-    void Visit(const CFillThreeColour& fill) override { ThreeOrFourColour(fill); }
-    void Visit(const CFillFourColour& fill) override { ThreeOrFourColour(fill); }
-    void Visit(const CFillFractal& fill) override
+    using ConstFillVisitor::Visit;
+    void Visit(const CFillLinear& fill) final { Gradient(fill); }
+    void Visit(const CFillRadial& fill) final { Gradient(fill); }
+    void Visit(const CFillEllipse& fill) final { Gradient(fill); }
+    void Visit(const CFillConical& fill) final { Gradient(fill); }
+    void Visit(const CFillSquare& fill) final { Gradient(fill); }
+    void Visit(const CFillThreeColour& fill) final { ThreeOrFourColour(fill); }
+    void Visit(const CFillFourColour& fill) final { ThreeOrFourColour(fill); }
+    void Visit(const CFillFractal& fill) final
     {
         result = Run(CPlasmaFillDlg(m_args.document, &fill, m_args.objectRect, m_args.parent), m_args.helperSetting);
     }
-    void Visit(const CFillBitmap&) override {}
-    void Visit(const CFillDiscreteMesh&) override {}
+    void Visit(const CFillBitmap&) final {}
+    void Visit(const CFillDiscreteMesh&) final {}
+
+protected:
+    explicit EditorChoice(const EditorArguments& args) : m_args(args) {}
+    virtual void Gradient(const CFillGradient& fill) = 0;
+    virtual void ThreeOrFourColour(const CFillGradient& fill) = 0;
+
+    const EditorArguments m_args;
+};
+
+// EditFill: none and solid fills go to the colour chooser, vector fills to their editor.
+class FillEditorChoice final : public EditorChoice {
+public:
+    FillEditorChoice(const EditorArguments& args, const Kesto2D::K2DLtGeneral& objectTransform)
+        : EditorChoice(args), m_objectTransform(objectTransform)
+    {
+    }
+
+    using EditorChoice::Visit;
+    void Visit(const CFillNone&) override { result = PickSolid(m_args.document, nullptr, m_args.parent); }
+    void Visit(const CFillSolid& fill) override { result = PickSolid(m_args.document, &fill, m_args.parent); }
     void Visit(const CFillVector& fill) override
     {
         result = Run(CVectorFillDlgBase(m_args.document, &fill, m_args.objectRect, m_args.parent, IDD_VECTOR_FILL,
@@ -96,28 +113,26 @@ public:
     }
 
 private:
-    void Gradient(const CFillGradient& fill)
+    void Gradient(const CFillGradient& fill) override
     {
         result = Run(CGradientFillDlg(m_args.document, &fill, m_args.objectRect, m_args.parent), m_args.helperSetting);
     }
-    void ThreeOrFourColour(const CFillGradient& fill)
+    void ThreeOrFourColour(const CFillGradient& fill) override
     {
         result = Run(CThreeAndFourColourFillDlg(m_args.document, &fill, m_args.objectRect, m_args.parent),
                      m_args.helperSetting);
     }
 
-    const EditorArguments m_args;
     const Kesto2D::K2DLtGeneral& m_objectTransform;
 };
 
-// The transparency editor of each kind (EditTransparency). There is no plasma transparency
-// dialog: the plasma fill dialog serves both. Bitmap transparencies have no editor.
-class TransparencyEditorChoice final : public ConstFillVisitor {
+// EditTransparency: no and flat transparencies go to the solid transparency dialog; there is no
+// vector transparency.
+class TransparencyEditorChoice final : public EditorChoice {
 public:
-    explicit TransparencyEditorChoice(const EditorArguments& args) : m_args(args) {}
+    explicit TransparencyEditorChoice(const EditorArguments& args) : EditorChoice(args) {}
 
-    RefPtr<CFill> result;
-
+    using EditorChoice::Visit;
     void Visit(const CFillNone&) override { Flat(nullptr); }
     void Visit(const CFillSolid& fill) override
     {
@@ -125,19 +140,6 @@ public:
         if (const auto* flat = dynamic_cast<const CTransparencyFlat*>(&fill))
             Flat(flat);
     }
-    void Visit(const CFillLinear& fill) override { Gradient(fill); }
-    void Visit(const CFillRadial& fill) override { Gradient(fill); }
-    void Visit(const CFillEllipse& fill) override { Gradient(fill); }
-    void Visit(const CFillConical& fill) override { Gradient(fill); }
-    void Visit(const CFillSquare& fill) override { Gradient(fill); }
-    void Visit(const CFillThreeColour& fill) override { ThreeOrFourColour(fill); }
-    void Visit(const CFillFourColour& fill) override { ThreeOrFourColour(fill); }
-    void Visit(const CFillFractal& fill) override
-    {
-        result = Run(CPlasmaFillDlg(m_args.document, &fill, m_args.objectRect, m_args.parent), m_args.helperSetting);
-    }
-    void Visit(const CFillBitmap&) override {}
-    void Visit(const CFillDiscreteMesh&) override {}
     void Visit(const CFillVector&) override {}
 
 private:
@@ -147,17 +149,15 @@ private:
         CSolidTransparencyDlg dialog(flat, nullptr);
         result = dialog.DoModal() == Platform::IDOK ? dialog.GetTrans() : nullptr;
     }
-    void Gradient(const CFillGradient& fill)
+    void Gradient(const CFillGradient& fill) override
     {
         result = Run(CGradientTranspDlg(m_args.document, &fill, m_args.objectRect, m_args.parent), m_args.helperSetting);
     }
-    void ThreeOrFourColour(const CFillGradient& fill)
+    void ThreeOrFourColour(const CFillGradient& fill) override
     {
         result = Run(CThreeAndFourColourTranspDlg(m_args.document, &fill, m_args.objectRect, m_args.parent),
                      m_args.helperSetting);
     }
-
-    const EditorArguments m_args;
 };
 
 using Available = bool (IToolHelper::*)(CFill*);
@@ -218,7 +218,7 @@ RefPtr<CFill> EditTransparency(IDocumentEx* document, const CFill* transparency,
     const bool setting = document ? document->GetToolHelper()->GetDialogSetting() : false;
     if (!transparency)
         return nullptr;
-    TransparencyEditorChoice choice({document, objectRect, parent, setting});
+    TransparencyEditorChoice choice(EditorArguments{document, objectRect, parent, setting});
     transparency->Accept(choice);
     return std::move(choice.result);
 }
