@@ -6,6 +6,7 @@
 #include "gdi/CFillGradient.h"
 #include "gdi/CFillSolid.h"
 #include "gdi/CRGBColour.h"
+#include "geometry/CoordinateRange.h"
 #include "geometry/K2DGeometry.h"
 #include "geometry/Rounding.h"
 #include "tool/IDocumentEx.h"
@@ -172,10 +173,13 @@ int FillTool::HitPoint(const K2DArrayPoint& points, const CPoint& pt) const
 {
     Platform::SIZE box{s_nHandleSize, s_nHandleSize};
     ClientToPaper(&box);
+    // The box [p - size/2, p + size/2) compared wide: handles may lie at the range's edge.
+    const auto inside = [](long long centre, int size, long long v) {
+        return v >= centre - size / 2 && v < centre + size / 2;
+    };
     for (int i = 0; i < points.GetSize(); ++i) {
         const CPoint p = points.GetAt(i);
-        const CRect r(p.x - box.cx / 2, p.y - box.cy / 2, p.x + box.cx / 2, p.y + box.cy / 2);
-        if (r.PtInRect(pt))
+        if (inside(p.x, box.cx, pt.x) && inside(p.y, box.cy, pt.y))
             return i;
     }
     return -1;
@@ -247,7 +251,7 @@ CPoint FillTool::CalculatePerpendicular(CPoint p0, CPoint p1, CPoint p2, CPoint&
         r = len1 > 0 ? len2 / len1 : 1.0;
     }
 
-    const CPoint h(centre.x + 1000, centre.y);
+    const CPoint h = Kesto2D::OffsetPoint(centre, 1000, 0);
     const KCAngle alpha = CalcAngle(point, centre, h);
     const KCAngle beta = CalcAngle(h, centre, point);
     KCAngle theta = KCAngle::RightAngle;

@@ -1,6 +1,7 @@
 #include "filltool/FillToolLinear.h"
 
 #include "gdi/CFillLinear.h"
+#include "geometry/CoordinateRange.h"
 #include "geometry/K2DGeometry.h"
 #include "geometry/K2DStraightLine.h"
 #include "kernel/VerifyReporter.h"
@@ -73,7 +74,7 @@ void FillToolLinear::OnDragChange(CPoint& point, unsigned int flags)
     if (creating) {
         // A click without a move still makes a line the user can see and grab.
         if (point == press)
-            point += CSize(50, 50);
+            point = Kesto2D::OffsetPoint(point, 50, 50);
         Snap(press, press);
         if (!shift)
             Snap(point, point);
@@ -81,14 +82,15 @@ void FillToolLinear::OnDragChange(CPoint& point, unsigned int flags)
         SetLine(press, point);
         return;
     }
-    const CSize d = point - press;
+    const long long dx = static_cast<long long>(point.x) - press.x;
+    const long long dy = static_cast<long long>(point.y) - press.y;
     if (IsFirstNode()) {
-        CPoint start = m_startAtPress + d;
+        CPoint start = Kesto2D::OffsetPoint(m_startAtPress, dx, dy);
         if (!shift)
             Snap(start, start);
         SetLine(start, m_endAtPress);
     } else if (IsLastNode()) {
-        CPoint end = m_endAtPress + d;
+        CPoint end = Kesto2D::OffsetPoint(m_endAtPress, dx, dy);
         if (!shift)
             Snap(end, end);
         SetLine(m_startAtPress, end);

@@ -1,5 +1,6 @@
 #include "gdi/CColourIntPair.h"
 
+#include "geometry/CoordinateRange.h"
 #include "geometry/Rounding.h"
 
 #include <utility>
@@ -37,8 +38,10 @@ void CColourIntPair::SetColour(const CColour& colour)
 
 CPoint CColourIntPair::GetValue(const CPoint& start, const CPoint& end) const
 {
-    return {start.x + Kesto2D::MulDiv(end.x - start.x, m_value, 10000),
-            start.y + Kesto2D::MulDiv(end.y - start.y, m_value, 10000)};
+    const auto along = [this](int from, int to) {
+        return from + Kesto2D::MulDivWide(static_cast<std::int64_t>(to) - from, m_value, 10000);
+    };
+    return Kesto2D::SaturatePoint(along(start.x, end.x), along(start.y, end.y));
 }
 
 bool operator==(const CColourIntPair& a, const CColourIntPair& b)

@@ -25,7 +25,8 @@ public:
     int GetValue() const { return m_value; }
     void SetValue(int value) { m_value = value; }
     // Where this stop lies between start (position 0) and end (position 10000), each coordinate
-    // start + MulDiv(end - start, position, 10000).
+    // start + MulDiv(end - start, position, 10000), computed wide and saturated to the
+    // coordinate range.
     CPoint GetValue(const CPoint& start, const CPoint& end) const;
 
     const CSpline& GetSpline() const { return m_spline; }

@@ -3,6 +3,7 @@
 #include "gdi/CFillNone.h"
 #include "gdi/CFillSolid.h"
 #include "gdi/FillKinds.h"
+#include "geometry/CoordinateRange.h"
 #include "kernel/VerifyReporter.h"
 
 #include <algorithm>
@@ -74,7 +75,8 @@ bool CFill::SetControls(const K2DArrayPoint& points)
     const auto mine = ControlPoints();
     if (points.GetSize() != static_cast<int>(mine.size()))
         return false;
-    std::transform(points.begin(), points.end(), mine.begin(), [](const CPoint& p) { return K2DDblPoint(p); });
+    std::transform(points.begin(), points.end(), mine.begin(),
+                   [](const CPoint& p) { return Kesto2D::SaturateToRange(K2DDblPoint(p)); });
     return true;
 }
 
@@ -98,7 +100,7 @@ void CFill::SetDefaultControls(const CRect&)
 void CFill::Transform(const K2DLtGeneral& t)
 {
     for (K2DDblPoint& p : ControlPoints())
-        p = t.ApplyTo(p);
+        p = Kesto2D::SaturateToRange(t.ApplyTo(p));
 }
 
 bool CFill::IsEqual(const CFill& other) const

@@ -18,7 +18,8 @@ namespace KestoGDI {
 //
 // Geometry: each kind places its paint with a fixed list of control points in double precision,
 // in object space; the order is documented at each class. GetControls, SetControls and
-// Transform work on that list for every kind alike.
+// Transform work on that list for every kind alike, and keep every point inside the coordinate
+// range (Kesto2D::CoordinateLimit), saturating what falls outside.
 //
 // Rendering arrives with the renderer as Draw(CLtBitmap&, const K2DLtGeneral& placement): the
 // fill paints itself into a bitmap for any affine placement and the host clips the result to

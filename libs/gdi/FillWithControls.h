@@ -1,6 +1,7 @@
 #pragma once
 
 #include "gdi/CFill.h"
+#include "geometry/CoordinateRange.h"
 
 #include <array>
 
@@ -15,7 +16,12 @@ protected:
 
     std::span<K2DDblPoint> ControlPoints() override { return m_points; }
     const K2DDblPoint& Point(std::size_t i) const { return m_points[i]; }
-    void SetPoints(const std::array<K2DDblPoint, N>& points) { m_points = points; }
+    // Stored inside the coordinate range.
+    void SetPoints(const std::array<K2DDblPoint, N>& points)
+    {
+        for (std::size_t i = 0; i < N; ++i)
+            m_points[i] = Kesto2D::SaturateToRange(points[i]);
+    }
 
 private:
     std::array<K2DDblPoint, N> m_points{};

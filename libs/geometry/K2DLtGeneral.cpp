@@ -1,5 +1,6 @@
 #include "geometry/K2DLtGeneral.h"
 
+#include "geometry/CoordinateRange.h"
 #include "kernel/VerifyReporter.h"
 
 #include <cmath>
@@ -44,7 +45,7 @@ K2DDblPoint K2DLtGeneral::ApplyTo(const K2DDblPoint& p) const
 
 CPoint K2DLtGeneral::ApplyTo(const CPoint& p) const
 {
-    return ApplyTo(K2DDblPoint(p)).Round();
+    return SaturateToRange(ApplyTo(K2DDblPoint(p))).Round();
 }
 
 K2DVector K2DLtGeneral::ApplyTo(const K2DVector& v) const

@@ -32,7 +32,7 @@ public:
     K2DLtGeneral& operator+=(const K2DLtGeneral& next);
     [[nodiscard]] K2DLtGeneral Then(const K2DLtGeneral& next) const { K2DLtGeneral t = *this; return t += next; }
 
-    // Integer points come back rounded half away from zero, saturating at the int range.
+    // Integer points come back rounded half away from zero, saturated to the coordinate range.
     CPoint ApplyTo(const CPoint& p) const;
     K2DDblPoint ApplyTo(const K2DDblPoint& p) const;
     // A displacement sees the linear part only.

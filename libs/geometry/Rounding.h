@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 // The one set of rounding rules that every part of the system uses. Code never writes an ad-hoc
 // int(x + 0.5): it names the rule it means.
 namespace Kesto2D {
@@ -22,5 +24,8 @@ int RoundHalfAwayFromZero(double x);
 // from zero. As on the classic platform it answers -1 when the denominator is zero or the
 // result does not fit in an int.
 int MulDiv(int number, int numerator, int denominator);
+// The same rule on a wide number (within ±2^32, so that the product fits in 64 bits), for
+// positions between two points of the coordinate range; 0 for a zero denominator.
+std::int64_t MulDivWide(std::int64_t number, int numerator, int denominator);
 
 } // namespace Kesto2D

@@ -2,6 +2,8 @@
 
 #include "platform/CPoint.h"
 
+#include <limits>
+
 namespace Platform {
 
 // An integer rectangle with the classic semantics: it contains its left and top edges but not
@@ -21,8 +23,9 @@ public:
     constexpr CRect(const CPoint& topLeft, const CSize& size)
         : left(topLeft.x), top(topLeft.y), right(topLeft.x + size.cx), bottom(topLeft.y + size.cy) {}
 
-    constexpr int Width() const { return right - left; }
-    constexpr int Height() const { return bottom - top; }
+    // Computed wide and saturated to the int range, so that huge coordinates do not overflow.
+    constexpr int Width() const { return Span(left, right); }
+    constexpr int Height() const { return Span(top, bottom); }
     constexpr CSize Size() const { return {Width(), Height()}; }
     constexpr CPoint TopLeft() const { return {left, top}; }
     constexpr CPoint BottomRight() const { return {right, bottom}; }
@@ -59,6 +62,14 @@ public:
 
     friend constexpr bool operator==(const CRect& a, const CRect& b) {
         return a.left == b.left && a.top == b.top && a.right == b.right && a.bottom == b.bottom;
+    }
+
+private:
+    static constexpr int Span(int from, int to) {
+        const long long d = static_cast<long long>(to) - from;
+        return d > std::numeric_limits<int>::max() ? std::numeric_limits<int>::max()
+               : d < std::numeric_limits<int>::min() ? std::numeric_limits<int>::min()
+                                                      : static_cast<int>(d);
     }
 };
 

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "geometry/K2DDblPoint.h"
+#include "platform/CPoint.h"
+
+namespace Kesto2D {
+
+// The coordinate range of documents: integer coordinates within ±2^30 units (a large poster in
+// fine units). Arithmetic on points that can leave the range (differences of two points,
+// offsets, rotations, MulDiv positions, handle boxes) is done in 64 bits or doubles and brought
+// back with these helpers where it is stored, so that no expression overflows and every stored
+// point stays editable.
+inline constexpr int CoordinateLimit = 1 << 30;
+
+// v clamped into [-CoordinateLimit, CoordinateLimit].
+constexpr int SaturateCoordinate(long long v)
+{
+    return v < -CoordinateLimit ? -CoordinateLimit : v > CoordinateLimit ? CoordinateLimit : static_cast<int>(v);
+}
+constexpr Platform::CPoint SaturatePoint(long long x, long long y)
+{
+    return {SaturateCoordinate(x), SaturateCoordinate(y)};
+}
+// p moved by (dx, dy), saturated.
+constexpr Platform::CPoint OffsetPoint(const Platform::CPoint& p, long long dx, long long dy)
+{
+    return SaturatePoint(p.x + dx, p.y + dy);
+}
+// A double point clamped into the range: infinities go to the limits, NaN to 0.
+K2DDblPoint SaturateToRange(const K2DDblPoint& p);
+
+} // namespace Kesto2D
