@@ -38,7 +38,7 @@ void CTintEditSpinCtrl::DDX(Platform::CDataExchange* pDX, int id)
     if (IsWindow())
         return;
     if (!SubclassDlgItem(id, pDX->m_pDlgWnd)) {
-        Kernel::VerifyFailed("KestoUiGdi", "TintEditSpinCtrl", 73);
+        Kernel::VerifyFailed("KestoUiGdi", "TintEditSpinCtrl", 73, "the dialog has no item with that id to bind");
         return;
     }
     AttachSpinButton();

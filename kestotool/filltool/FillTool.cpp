@@ -9,6 +9,7 @@
 #include "geometry/CoordinateRange.h"
 #include "geometry/K2DGeometry.h"
 #include "geometry/Rounding.h"
+#include "kernel/VerifyReporter.h"
 #include "tool/IDocumentEx.h"
 #include "tool/IToolHelper.h"
 #include "tool/ToolIdMap.h"
@@ -16,6 +17,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <utility>
 
 namespace KestoTool {
 
@@ -25,7 +27,74 @@ using Kesto2D::K2DGeometry::CalcAngle;
 
 KESTO_IMPLEMENT_DYNAMIC(FillTool, Platform::CCmdTarget)
 
-FillTool::FillTool(const CFill* fill, IToolSite* site) : m_pSite(site)
+namespace {
+
+// Lines of the tool base's own reports; host logs may key on them.
+constexpr int kLineNoSite = 1070;
+constexpr int kLineDragNotStarted = 1071;
+constexpr int kLineWrongKind = 1072;
+
+void Report(int line, const char* hint)
+{
+    Kernel::VerifyFailed("KestoTool", "FillTool", line, hint);
+}
+
+// What a tool talks to when its host gave it no site, or no document: it answers the empty
+// result of every question and keeps every commit to itself, so the tool does nothing.
+class NullToolHelper final : public IToolHelper {
+public:
+    int CreateColourControl(Platform::XTP_COMMANDBARS_CREATECONTROL*) override { return 0; }
+    bool ColourPicker(const CColour*, CColour*& result, Platform::CWnd*) override
+    {
+        result = nullptr;
+        return false;
+    }
+    CColour* ColourPicker(const CColour*, Platform::CWnd*) override { return nullptr; }
+    CColour* AskUserForNewColour(const CColour*, CPoint, Platform::CWnd*) override { return nullptr; }
+    bool IsFillTypeAvailable(CFill*) override { return false; }
+    bool IsTransparencyTypeAvailable(CFill*) override { return false; }
+    bool GetDialogSetting() override { return false; }
+    bool IsLockRatioAvailable() override { return false; }
+};
+
+NullToolHelper g_nullHelper;
+
+class NullToolSite final : public IToolSite {
+public:
+    unsigned long GetToolColour() override { return 0; }
+    K2DLtGeneral GetObjectToSpreadTransform() override { return {}; }
+    K2DLtGeneral GetAppObjectToSpreadTransform() override { return {}; }
+    void ClientToPaper(Platform::SIZE*) override {}
+    CRect GetObjectBBox() override { return {}; }
+    CRect GetTransformedObjectBBox() override { return {}; }
+    bool IsCreate() override { return false; }
+    bool IsInDrag() override { return false; }
+    void ConstrainAngle(CPoint, CPoint&, bool) override {}
+    void ConstrainAnglePolar(CPoint, CPoint&) override {}
+    void Snap(const CPoint& in, CPoint& out) override { out = in; }
+    CString GetCurrentSelectionDescription() override { return {}; }
+    void AddContextItem(int) override {}
+    IDocumentEx* GetDocument() override { return nullptr; }
+    void UpdateFill(const CFill*, const wchar_t*) override {}
+    void UpdateTransparency(const CFill*, const wchar_t*, bool) override {}
+    void SetFillType(const CRuntimeClass*) override {}
+    void SetTransparencyType(const CRuntimeClass*) override {}
+    void NotifyHandlesReset() override {}
+    double GetAngleSnapTolerance() override { return 0; }
+};
+
+NullToolSite g_nullSite;
+
+IToolSite* SiteOrNull(IToolSite* site)
+{
+    if (!site)
+        Report(kLineNoSite, "a tool needs its host's IToolSite: pass the site to the constructor");
+    return site ? site : &g_nullSite;
+}
+
+} // namespace
+
+FillTool::FillTool(const CFill* fill, IToolSite* site) : m_pSite(SiteOrNull(site))
 {
     SetFill(fill);
 }
@@ -49,6 +118,7 @@ void FillTool::SetFill(const CFill* fill)
     }
     if (const CFill* previous = m_pFill.exchange(kept))
         previous->Release();
+    m_bWrongKindReported = false;
 }
 
 CFill* FillTool::GetWorkingFill()
@@ -88,9 +158,35 @@ bool FillTool::IsBitmapFill(const CFill* fill)
 
 // Base behaviour of the virtual operations: a tool without handles that changes nothing.
 int FillTool::IndexFromPoint(const CPoint&) const { return -1; }
-void FillTool::OnDragStart(CPoint& point, unsigned int) { m_ptDragStart = point; }
-void FillTool::OnDragChange(CPoint&, unsigned int) {}
-void FillTool::OnDragEnd(CPoint&, unsigned int) {}
+void FillTool::OnDragStart(CPoint& point, unsigned int)
+{
+    m_ptDragStart = point;
+    m_bDragStarted = true;
+}
+
+void FillTool::OnDragChange(CPoint&, unsigned int)
+{
+    CheckDragStarted();
+}
+
+void FillTool::OnDragEnd(CPoint&, unsigned int)
+{
+    if (CheckDragStarted())
+        m_bDragStarted = false;
+}
+
+bool FillTool::CheckDragStarted() const
+{
+    if (!m_bDragStarted)
+        Report(kLineDragNotStarted, "call OnDragStart before OnDragChange and OnDragEnd; the move is ignored");
+    return m_bDragStarted;
+}
+
+void FillTool::ReportWrongKind() const
+{
+    if (!std::exchange(m_bWrongKindReported, true))
+        Report(kLineWrongKind, "the tool was given a fill of another kind: make tools with FillToolFactory");
+}
 bool FillTool::OnFillCellDrop(CPoint&, const CColour*) { return false; }
 bool FillTool::OnFillCellChanged(const CColour*) { return false; }
 bool FillTool::OnAlphaCellChanged(unsigned char) { return false; }
@@ -159,7 +255,9 @@ bool FillTool::RecognisedID(unsigned int hostCommand) const
 
 IToolHelper* FillTool::GetToolHelper() const
 {
-    return GetDocument()->GetToolHelper();
+    IDocumentEx* document = GetDocument();
+    IToolHelper* helper = document ? document->GetToolHelper() : nullptr;
+    return helper ? helper : &g_nullHelper;
 }
 
 void FillTool::SnapNoTransform(const K2DDblPoint& in, K2DDblPoint& out)

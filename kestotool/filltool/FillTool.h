@@ -55,7 +55,8 @@ public:
     static const int s_nHandleSize = 8;  // screen pixels: handle side and hit box
     static const int s_nMinSize = 50;    // paper units: a shorter fill gets no handles
 
-    // Takes fill as SetFill does; site must outlive the tool.
+    // Takes fill as SetFill does; site must outlive the tool. Without a site the tool reports
+    // and does nothing.
     FillTool(const CFill* fill, IToolSite* site);
     ~FillTool() override;
     FillTool(const FillTool&) = delete;
@@ -63,6 +64,9 @@ public:
 
     virtual int IndexFromPoint(const CPoint& point) const;
     virtual const CFill* GetFill() const;
+    // The drag protocol. The base records the start; a change or an end without a start is
+    // reported and ignored. Tools that override OnDragStart and OnDragEnd call the base's first,
+    // and their OnDragChange starts with CheckDragStarted.
     virtual void OnDragStart(CPoint& point, unsigned int flags);
     virtual void OnDragChange(CPoint& point, unsigned int flags);
     virtual void OnDragEnd(CPoint& point, unsigned int flags);
@@ -139,7 +143,8 @@ public:
     void AdjustNodeColour(unsigned int node);
     bool IsNodeColourEnabled(unsigned int node) const;
 
-    // Colour pickers of the tool helper; results belong to the caller.
+    // Colour pickers of the tool helper; results belong to the caller. Without a document (or
+    // helper) the pickers answer nothing.
     std::unique_ptr<CColour> ColourPicker(const CColour* current);
     bool ColourPicker(const CColour* current, std::unique_ptr<CColour>& result);
     std::unique_ptr<CColour> AskUserForNewColour(const CColour* current, CPoint where, Platform::CWnd* owner);
@@ -221,6 +226,11 @@ protected:
     void DrawControlLine(CRenderContext* context, K2DCurve&& curve, bool highlight) const;
     void DrawControlLine(CRenderContext* context, const K2DArrayPoint& points, bool highlight) const;
 
+    // Whether a drag is under way (OnDragStart came, OnDragEnd not yet); reports when not.
+    bool CheckDragStarted() const;
+    // Reports, once per fill, that the tool's fill is not of the tool's kind.
+    void ReportWrongKind() const;
+
     // Puts a fill tool command (its own number) on the context bar through the site.
     void AddContextItem(int libraryCommand);
     void SetHotNode(int node) { m_nHotNode = node; }
@@ -247,6 +257,8 @@ private:
     bool m_bGhostNode = false;
     int m_nControlBoxMode = 0;
     mutable K2DLtGeneral m_viewTransform;
+    bool m_bDragStarted = false;
+    mutable bool m_bWrongKindReported = false;
 };
 
 } // namespace KestoTool

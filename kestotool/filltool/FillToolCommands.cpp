@@ -152,7 +152,7 @@ void FillTool::OnAfterCreateControl(Platform::XTP_COMMANDBARS_CREATECONTROL* cc)
 
 void FillTool::OnFillEdit()
 {
-    if (!GetFill())
+    if (!GetFill() || !GetDocument())
         return;
     const K2DLtGeneral toSpread = GetAppObjectToSpreadTransform();
     const CRect box = GetObjectBBox();
@@ -220,7 +220,7 @@ void FillTool::OnFillTypeChange(Platform::NMXTPCONTROL* notify, long*)
 {
     auto* combo = dynamic_cast<Platform::CXTPControlComboBox*>(notify ? notify->pControl : nullptr);
     if (!combo) {
-        Kernel::VerifyFailed("KestoTool", "FillTool", 1060);
+        Kernel::VerifyFailed("KestoTool", "FillTool", 1060, "send the type change from the type combo box");
         return;
     }
     const auto type = static_cast<int>(combo->GetItemData(combo->GetCurSel()));

@@ -29,8 +29,11 @@ constexpr int kHintInnerOver[] = {IDS_HINT_LINEAR_INNER_OVER_FILL, IDS_HINT_LINE
 bool FillToolLinear::GetLine(const CFill* fill, CPoint& start, CPoint& end) const
 {
     const auto* linear = dynamic_cast<const KestoGDI::CFillLinear*>(fill ? fill : GetFill());
-    if (!linear)
+    if (!linear) {
+        if (!fill && GetFill())
+            ReportWrongKind();
         return false;
+    }
     start = linear->GetStart().Round();
     end = linear->GetEnd().Round();
     return true;
@@ -54,6 +57,8 @@ void FillToolLinear::OnDragStart(CPoint& point, unsigned int flags)
 
 void FillToolLinear::OnDragChange(CPoint& point, unsigned int flags)
 {
+    if (!CheckDragStarted())
+        return;
     const bool shift = (flags & DragFlagShift) != 0;
     const bool creating = IsCreate();
     CPoint press = GetDragStart();
@@ -127,7 +132,7 @@ CRect FillToolLinear::GetFillRect(const CFill* fill)
 {
     CPoint s, e;
     if (!fill && !GetFill()) {
-        Kernel::VerifyFailed("KestoTool", "FillToolLinear", 153);
+        Kernel::VerifyFailed("KestoTool", "FillToolLinear", 153, "the tool has no fill: pass one");
         return {};
     }
     if (!GetLine(fill, s, e))
@@ -139,7 +144,7 @@ K2DArrayPoint FillToolLinear::GetEffectiveBBox(const CFill* fill)
 {
     CPoint s, e;
     if (!fill && !GetFill()) {
-        Kernel::VerifyFailed("KestoTool", "FillToolLinear", 126);
+        Kernel::VerifyFailed("KestoTool", "FillToolLinear", 126, "the tool has no fill: pass one");
         return {};
     }
     K2DArrayPoint outline;

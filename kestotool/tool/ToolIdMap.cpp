@@ -3,6 +3,7 @@
 #include "kernel/VerifyReporter.h"
 
 #include <cstdint>
+#include <limits>
 
 namespace KestoTool {
 namespace {
@@ -15,7 +16,10 @@ constexpr int kLineUnknownKeyToApp = 97;
 
 void Report(int line)
 {
-    Kernel::VerifyFailed("KestoUiGdi", "ToolIdMap.cpp", line);
+    const char* hint = line == kLineNotInitialised ? "call KestoTool::Init with the command IDs granted to the library first"
+                       : line == kLineRangeFull    ? "the count is negative or no longer fits: grant KestoTool::Init a larger band"
+                                                   : "map IDs only under a key that has allocated its range";
+    Kernel::VerifyFailed("KestoUiGdi", "ToolIdMap.cpp", line, hint);
 }
 
 } // namespace
@@ -46,13 +50,14 @@ int ToolIdMap::AllocateRange(const wchar_t* key, int count)
     }
     if (const Range* existing = Find(key))
         return existing->start;
-    // Wide arithmetic: a grant near the ends of the int range must not wrap.
+    // Wide arithmetic: a grant near the ends of the int range must not wrap, and a negative
+    // count must not move later ranges below the base.
     const std::int64_t room = static_cast<std::int64_t>(m_limit) - m_next - m_base;
-    if (room < count) {
+    if (count < 0 || room < count) {
         Report(kLineRangeFull);
         return -1;
     }
-    const int start = m_base + m_next;
+    const int start = static_cast<int>(static_cast<std::int64_t>(m_base) + m_next);
     m_ranges.emplace(key, Range{start, count});
     m_next += count;
     return start;
@@ -69,7 +74,9 @@ int ToolIdMap::MapIDToApp(const wchar_t* key, int id) const
     }
     if (id >= range->count)
         return -1;
-    return m_base + id;
+    // Computed wide: a negative id far below the base has no int answer.
+    const std::int64_t app = static_cast<std::int64_t>(m_base) + id;
+    return app >= std::numeric_limits<int>::min() ? static_cast<int>(app) : -1;
 }
 
 int ToolIdMap::MapIDToLibrary(const wchar_t* key, int appId) const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 #include <map>
 
 namespace KestoTool {
@@ -42,7 +44,7 @@ private:
     const Range* Find(const wchar_t* key) const;
 
     std::map<const wchar_t*, Range, std::less<>> m_ranges;
-    int m_next = 0;
+    std::int64_t m_next = 0;  // wide: ranges may fill a grant as large as the int range
     int m_base = -1;
     int m_limit = -1;
 };

@@ -1,9 +1,11 @@
 #include "tool/WadManager.h"
 
+#include "kernel/VerifyReporter.h"
 #include "platform/ScreenMetrics.h"
 #include "tool/Module.h"
 
 #include <filesystem>
+#include <utility>
 
 namespace KestoTool {
 
@@ -36,7 +38,18 @@ RefPtr<CLtBitmap> WadManager::LoadImage(const wchar_t* name) const
 
 KestoGDI::WadArchive WadManager::OpenArchive() const
 {
-    return KestoGDI::WadArchive::Open(ArchivePath().c_str());
+    return OpenArchiveAt(ArchivePath());
+}
+
+KestoGDI::WadArchive WadManager::OpenArchiveAt(const std::wstring& path) const
+{
+    KestoGDI::WadArchive archive = KestoGDI::WadArchive::Open(path.c_str());
+    if (!archive.IsOpen() && !std::exchange(m_missingReported, true)) {
+        Kernel::VerifyFailed("KestoTool", "WadManager", 1,
+                             "the image archive " + CString(path).ToUtf8() +
+                                 " is missing or unreadable: install it beside the library; toolbar icons stay empty");
+    }
+    return archive;
 }
 
 std::wstring WadManager::EntryName(int folder, const wchar_t* name)

@@ -24,8 +24,10 @@ public:
     void SetDpi(int dpi);
     // An image of the current folder; opens the archive for this one image.
     RefPtr<CLtBitmap> LoadImage(const wchar_t* name) const;
-    // The archive beside the library, opened once for many images.
+    // The archive beside the library, opened once for many images. A missing or unreadable
+    // archive is reported once, with its path.
     KestoGDI::WadArchive OpenArchive() const;
+    KestoGDI::WadArchive OpenArchiveAt(const std::wstring& path) const;
     // "Icons\<folder>\<name>".
     static std::wstring EntryName(int folder, const wchar_t* name);
 
@@ -38,6 +40,7 @@ private:
     WadManager();
 
     int m_dpi = 96;
+    mutable bool m_missingReported = false;
 };
 
 } // namespace KestoTool

@@ -54,7 +54,7 @@ K2DDblPoint CFill::GetControlPoint(int index) const
 {
     const auto points = ControlPoints();
     if (index < 0 || index >= static_cast<int>(points.size())) {
-        Kernel::VerifyFailed("KestoGDI", "CFill", __LINE__);
+        Kernel::VerifyFailed("KestoGDI", "CFill", __LINE__, "control point index out of range: see GetControlCount");
         return {};
     }
     return points[static_cast<std::size_t>(index)];
@@ -63,7 +63,7 @@ K2DDblPoint CFill::GetControlPoint(int index) const
 void CFill::GetControls(K2DArrayPoint* out) const
 {
     if (!out) {
-        Kernel::VerifyFailed("KestoGDI", "CFill", __LINE__);
+        Kernel::VerifyFailed("KestoGDI", "CFill", __LINE__, "pass an array for the control points");
         return;
     }
     for (const K2DDblPoint& p : ControlPoints())

@@ -16,7 +16,7 @@ K2DArrayPoint::K2DArrayPoint(int initialSize) : m_points(static_cast<std::size_t
 CPoint K2DArrayPoint::GetAt(int index) const
 {
     if (index < 0 || index >= GetSize()) {
-        Kernel::VerifyFailed("Kesto2D", "K2DArrayPoint", __LINE__);
+        Kernel::VerifyFailed("Kesto2D", "K2DArrayPoint", __LINE__, "point index out of range: see GetSize");
         return {};
     }
     return m_points[static_cast<std::size_t>(index)];
@@ -25,7 +25,7 @@ CPoint K2DArrayPoint::GetAt(int index) const
 void K2DArrayPoint::SetAt(int index, const CPoint& p)
 {
     if (index < 0 || index >= GetSize()) {
-        Kernel::VerifyFailed("Kesto2D", "K2DArrayPoint", __LINE__);
+        Kernel::VerifyFailed("Kesto2D", "K2DArrayPoint", __LINE__, "point index out of range: see GetSize");
         return;
     }
     m_points[static_cast<std::size_t>(index)] = p;

@@ -62,7 +62,7 @@ bool K2DLtGeneral::HasInverse() const
 K2DLtGeneral K2DLtGeneral::GetInverse() const
 {
     if (!HasInverse()) {
-        Kernel::VerifyFailed("Kesto2D", "K2DLtGeneral", __LINE__);
+        Kernel::VerifyFailed("Kesto2D", "K2DLtGeneral", __LINE__, "the transform is singular: test HasInverse first");
         return {};
     }
     const double det = Determinant();

@@ -7,7 +7,7 @@ namespace Kernel {
 int CRefCount::Release() const
 {
     if (m_refs <= 0) {
-        VerifyFailed("KestoKernel", "CRefCount", __LINE__);
+        VerifyFailed("KestoKernel", "CRefCount", __LINE__, "release only an object you hold a reference to");
         return 0;
     }
     const int left = --m_refs;

@@ -7,8 +7,8 @@ namespace {
 
 void WriteToStderr(const VerifyReport& report)
 {
-    std::fprintf(stderr, "%s (%s:%d) %s\n", report.module.c_str(), report.file.c_str(), report.line,
-                 report.message.c_str());
+    std::fprintf(stderr, "%s (%s:%d) %s%s%s\n", report.module.c_str(), report.file.c_str(), report.line,
+                 report.message.c_str(), report.hint.empty() ? "" : ": ", report.hint.c_str());
 }
 
 VerifyHandler& Installed()
@@ -19,9 +19,9 @@ VerifyHandler& Installed()
 
 } // namespace
 
-void VerifyFailed(const char* module, const char* file, int line)
+void VerifyFailed(const char* module, const char* file, int line, const std::string& hint)
 {
-    Installed()(VerifyReport{"Verify failed", module ? module : "", file ? file : "", line});
+    Installed()(VerifyReport{"Verify failed", module ? module : "", file ? file : "", line, hint});
 }
 
 VerifyHandler SetVerifyHandler(VerifyHandler handler)

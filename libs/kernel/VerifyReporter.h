@@ -11,15 +11,17 @@ struct VerifyReport {
     std::string module;   // the module label, e.g. "KestoTool"
     std::string file;     // the source file name as the behaviour names it
     int line = 0;
+    std::string hint;     // what to fix, in plain words; empty where the report speaks for itself
 };
 
 using VerifyHandler = std::function<void(const VerifyReport&)>;
 
-// Reports "Verify failed" for the given module, source file and line to the installed handler.
-void VerifyFailed(const char* module, const char* file, int line);
+// Reports "Verify failed" for the given module, source file and line to the installed handler,
+// with a hint for whoever reads the log.
+void VerifyFailed(const char* module, const char* file, int line, const std::string& hint = {});
 
 // Installs a handler (an empty one restores the default) and answers the one it replaces.
-// The default writes one line to stderr.
+// The default writes one line to stderr: "module (file:line) Verify failed: hint".
 VerifyHandler SetVerifyHandler(VerifyHandler handler);
 
 // The report as a host's assertion box shows it: "module (file:line)\nVerify failed".

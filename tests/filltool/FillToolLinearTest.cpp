@@ -98,6 +98,47 @@ TEST_F(LinearTest, AHeldFillIsSharedUntilADragReshapesACopyOfIt)
     EXPECT_EQ(held->GetRefCount(), 1);
 }
 
+TEST_F(LinearTest, MisuseIsReportedAndChangesNothing)
+{
+    std::vector<int> lines;
+    Kernel::ScopedVerifyHandler recorder([&](const Kernel::VerifyReport& r) {
+        EXPECT_FALSE(r.hint.empty()) << r.line;
+        lines.push_back(r.line);
+    });
+    const CFillLinear line = Line({0, 0}, {1000, 0}, {5000});
+    KestoTool::Init(40000, 40100);
+
+    // No site: reported once, and the tool commits nothing anywhere.
+    FillToolLinear orphan(&line, nullptr);
+    CPoint p(500, 0), q(800, 0);
+    orphan.OnDragStart(p, 0);
+    orphan.OnDragChange(q, 0);
+    orphan.OnDragEnd(q, 0);
+    Platform::CXTPCommandBars bars;
+    orphan.InitContextButtons(&bars);
+    orphan.AdjustNodeColour(FillCmdStart);
+    EXPECT_EQ(lines, std::vector<int>{1070});
+
+    // A move and an end without a start are ignored.
+    lines.clear();
+    auto tool = Tool(line);
+    tool->OnDragChange(q, 0);
+    tool->OnDragEnd(q, 0);
+    EXPECT_EQ(lines, (std::vector<int>{1071, 1071}));
+    EXPECT_TRUE(site.commits.empty());
+    EXPECT_TRUE(tool->GetFill()->IsEqual(line));
+
+    // A fill of another kind: reported once, however often the tool looks at it.
+    lines.clear();
+    KestoGDI::CFillBitmap other;
+    tool->SetFill(&other);
+    K2DArrayPoint handles;
+    tool->GetHandles(&handles);
+    tool->GetHandles(&handles);
+    EXPECT_EQ(handles.GetSize(), 0);
+    EXPECT_EQ(lines, std::vector<int>{1072});
+}
+
 TEST_F(LinearTest, AStopOvertakingItsNeighbourKeepsTheCurrentNodeNumber)
 {
     auto tool = Tool(Line({0, 0}, {1000, 0}, {3000, 6000}));

@@ -23,5 +23,7 @@ TEST(VerifyReporter, DefaultHandlerWritesOneLineToStderr)
 {
     testing::internal::CaptureStderr();
     Kernel::VerifyFailed("KestoGDI", "CFill", 12);
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "KestoGDI (CFill:12) Verify failed\n");
+    Kernel::VerifyFailed("KestoTool", "FillTool", 3, "pass the host's site");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "KestoGDI (CFill:12) Verify failed\nKestoTool (FillTool:3) Verify failed: pass the host's site\n");
 }

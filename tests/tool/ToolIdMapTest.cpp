@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include <string>
 #include <vector>
 
@@ -131,6 +133,22 @@ TEST_F(ToolIdMapTest, HugeGrantDoesNotWrap)
     map.Init(2147483000, 2147483647);
     EXPECT_EQ(map.AllocateRange(kKey1, 600), 2147483000);
     EXPECT_EQ(map.AllocateRange(kKey2, 100), -1);
+}
+
+TEST_F(ToolIdMapTest, NegativeCountsAndWholeIntGrantsStayInsideTheGrant)
+{
+    map.Init(500, 600);
+    EXPECT_EQ(map.AllocateRange(kKey1, -50), -1);
+    EXPECT_EQ(map.AllocateRange(kKey2, 100), 500) << "a refused negative count moves nothing";
+    EXPECT_EQ(Lines(), std::vector<int>{43});
+
+    ToolIdMap whole;
+    whole.Init(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
+    constexpr int most = std::numeric_limits<int>::max();
+    EXPECT_EQ(whole.AllocateRange(kKey1, most - 5), std::numeric_limits<int>::min());
+    EXPECT_EQ(whole.AllocateRange(kKey2, most), -6);
+    EXPECT_EQ(whole.AllocateRange(kKey3, 7), -1) << "six IDs are left";
+    EXPECT_EQ(whole.MapIDToApp(kKey1, -5), -1) << "no int below the base";
 }
 
 TEST(ToolIdMapInit, HostInitSetsTheProcessWideMap)

@@ -1,5 +1,7 @@
 #include "tool/WadManager.h"
 
+#include "kernel/VerifyReporter.h"
+
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -96,4 +98,16 @@ TEST(WadManager, AbsurdPngDimensionsAreRefusedBeforeDecoding)
                                     0, 1, 0x86, 0xA0, 0, 1, 0x86, 0xA0, 8, 6, 0, 0, 0,
                                     0x00, 0x00, 0x00, 0x00};
     EXPECT_FALSE(WadManager::DecodePng(header, sizeof header));
+}
+
+TEST(WadManager, AMissingArchiveIsReportedOnceWithItsPath)
+{
+    std::vector<Kernel::VerifyReport> reports;
+    Kernel::ScopedVerifyHandler recorder([&](const Kernel::VerifyReport& r) { reports.push_back(r); });
+    const WadManager& wad = WadManager::GetInstance();
+    EXPECT_FALSE(wad.OpenArchiveAt(L"/nonexistent/libKestoTool.wad").IsOpen());
+    EXPECT_FALSE(wad.OpenArchiveAt(L"/nonexistent/libKestoTool.wad").Load(L"Icons\\96\\Edit Fill.png"));
+    ASSERT_EQ(reports.size(), 1u);
+    EXPECT_NE(reports[0].hint.find("/nonexistent/libKestoTool.wad"), std::string::npos);
+    EXPECT_TRUE(wad.OpenArchive().IsOpen());
 }
