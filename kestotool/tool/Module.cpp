@@ -1,11 +1,14 @@
 #include "tool/Module.h"
 
+#include "kernel/VerifyReporter.h"
 #include "resources/DialogTemplates.h"
 #include "resources/StringTable.h"
+#include "tool/ModuleFileCheck.h"
 
 #include <dlfcn.h>
 
 #include <filesystem>
+#include <utility>
 
 namespace KestoTool {
 
@@ -29,14 +32,28 @@ Module::~Module()
 
 std::wstring Module::GetLibraryPath()
 {
-    Dl_info info{};
-    if (!dladdr(reinterpret_cast<void*>(&Module::GetLibraryPath), &info) || !info.dli_fname)
-        return {};
-    return std::filesystem::absolute(info.dli_fname).wstring();
+    // Resolved once, when the library loads: a host that later changes its directory must not
+    // move where the library finds its archive and its localised module.
+    static const std::wstring path = [] {
+        Dl_info info{};
+        if (!dladdr(reinterpret_cast<void*>(&Module::GetLibraryPath), &info) || !info.dli_fname)
+            return std::wstring();
+        std::error_code error;
+        const std::filesystem::path resolved = std::filesystem::weakly_canonical(info.dli_fname, error);
+        return (error ? std::filesystem::absolute(info.dli_fname) : resolved).wstring();
+    }();
+    return path;
 }
 
 bool Module::UseLocalisedModule(const std::string& path)
 {
+    if (!std::filesystem::exists(path))
+        return false;
+    if (const std::string problem = ModuleFileCheck::Problem(path); !problem.empty()) {
+        Kernel::VerifyFailed("KestoTool", "Module", 1,
+                             "the localised module " + path + " is not loaded, " + problem + "; built-in texts are used");
+        return false;
+    }
     void* handle = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
     if (!handle)
         return false;
@@ -45,8 +62,17 @@ bool Module::UseLocalisedModule(const std::string& path)
         dlclose(handle);
         return false;
     }
+    UseBuiltInResources();
+    m_handle = handle;
     m_lookup = lookup;
     return true;
+}
+
+void Module::UseBuiltInResources()
+{
+    m_lookup = nullptr;
+    if (m_handle)
+        dlclose(std::exchange(m_handle, nullptr));
 }
 
 bool Module::LoadString(int id, CString& out) const

@@ -11,7 +11,9 @@ namespace KestoTool {
 // resource modules and looks beside its own file for the localised module, a shared object
 // named LocalisedModuleName. If that loads, it becomes the resource handle: its texts replace
 // the built-in ones (an id it lacks falls back to the built-in text). Otherwise the built-in
-// resources are used, silently. The localised module is never unloaded.
+// resources are used: silently when there is no such file, with one report when the file is
+// truncated, foreign or writable by others (it is checked before it is loaded). A module that
+// is replaced is unloaded.
 //
 // A localised module exports one C function, LocalisedStringEntry:
 //     extern "C" const wchar_t* KestoToolLocString(int id);   // null for an id it lacks
@@ -29,12 +31,12 @@ public:
     // The library's dialog templates (a localised module does not replace layouts).
     const Platform::DialogTemplate* LoadDialogTemplate(int id) const override;
 
-    // The full path of the library's own file.
+    // The full path of the library's own file, resolved once when the library loads.
     static std::wstring GetLibraryPath();
     // Makes the module at path the resource handle. False, with the current handle kept,
-    // when it does not load or lacks the entry point.
+    // when it is missing, fails the file check (reported), does not load or lacks the entry point.
     bool UseLocalisedModule(const std::string& path);
-    void UseBuiltInResources() { m_lookup = nullptr; }
+    void UseBuiltInResources();
     bool IsLocalised() const { return m_lookup != nullptr; }
 
     Module(const Module&) = delete;
@@ -46,6 +48,7 @@ private:
 
     using Lookup = const wchar_t* (*)(int);
     Lookup m_lookup = nullptr;
+    void* m_handle = nullptr;
 };
 
 } // namespace KestoTool

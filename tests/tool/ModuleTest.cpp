@@ -2,7 +2,15 @@
 
 #include "platform/CResourceModule.h"
 
+#include "kernel/VerifyReporter.h"
+
 #include <gtest/gtest.h>
+
+#include <unistd.h>
+
+#include <filesystem>
+#include <string>
+#include <vector>
 
 using KestoTool::Module;
 
@@ -10,8 +18,27 @@ namespace {
 
 class ModuleTest : public testing::Test {
 protected:
+    void SetUp() override
+    {
+        // Whatever the build's umask, the fixture module is writable by its owner only.
+        std::filesystem::permissions(KESTO_TEST_LOC_MODULE,
+                                     std::filesystem::perms::group_write | std::filesystem::perms::others_write,
+                                     std::filesystem::perm_options::remove);
+    }
     void TearDown() override { Module::Get().UseBuiltInResources(); }
 };
+
+// A copy of the fixture module in a fresh folder, cut to size bytes (all of it for -1).
+std::string CopyOfModule(const char* name, std::intmax_t size = -1)
+{
+    const auto folder = std::filesystem::temp_directory_path() / ("kesto-module-" + std::to_string(getpid()));
+    std::filesystem::create_directories(folder);
+    const auto copy = folder / name;
+    std::filesystem::copy_file(KESTO_TEST_LOC_MODULE, copy, std::filesystem::copy_options::overwrite_existing);
+    if (size >= 0)
+        std::filesystem::resize_file(copy, static_cast<std::uintmax_t>(size));
+    return copy.string();
+}
 
 } // namespace
 
@@ -63,4 +90,32 @@ TEST_F(ModuleTest, TheLibraryJoinsTheResourceChainWhenLoaded)
     ASSERT_TRUE(Platform::CResourceModule::FindString(123, text));
     EXPECT_EQ(text, Platform::CString(L"Rotate Fill"));
     EXPECT_NE(Module::GetLibraryPath().find(L"libKestoTool.so"), std::wstring::npos);
+}
+
+TEST_F(ModuleTest, ABrokenOrOpenModuleIsCheckedBeforeLoadingAndReportedOnce)
+{
+    Module& m = Module::Get();
+    const auto whole = std::filesystem::file_size(KESTO_TEST_LOC_MODULE);
+    const struct {
+        const char* name;
+        std::intmax_t size;
+        bool groupWritable;
+    } rows[] = {
+        {"header only", 64, false},
+        {"half copied", static_cast<std::intmax_t>(whole / 2), false},
+        {"writable by the group", -1, true},
+    };
+    for (const auto& row : rows) {
+        std::vector<Kernel::VerifyReport> reports;
+        Kernel::ScopedVerifyHandler recorder([&](const Kernel::VerifyReport& r) { reports.push_back(r); });
+        const std::string path = CopyOfModule("libKestoToolLoc.so", row.size);
+        if (row.groupWritable)
+            std::filesystem::permissions(path, std::filesystem::perms::group_write, std::filesystem::perm_options::add);
+        EXPECT_FALSE(m.UseLocalisedModule(path)) << row.name;
+        EXPECT_FALSE(m.IsLocalised()) << row.name;
+        EXPECT_EQ(m.LoadString(117), Platform::CString(L"original")) << row.name;
+        ASSERT_EQ(reports.size(), 1u) << row.name;
+        EXPECT_NE(reports[0].hint.find(path), std::string::npos) << row.name;
+    }
+    EXPECT_TRUE(m.UseLocalisedModule(CopyOfModule("whole.so"))) << "an intact copy loads";
 }
