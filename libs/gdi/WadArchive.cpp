@@ -57,8 +57,11 @@ Kernel::RefPtr<CLtBitmap> WadArchive::Load(const wchar_t* entryName) const
     const std::string key = WadManager::EntryKey(entryName);
     zip_stat_t stat;
     zip_stat_init(&stat);
+    // The entry's declared size is checked against its compressed size the same way before its
+    // bytes are allocated.
     if (zip_stat(m_zip.get(), key.c_str(), 0, &stat) != 0 || !(stat.valid & ZIP_STAT_SIZE) ||
-        stat.size > WadManager::MaxEntryBytes)
+        !(stat.valid & ZIP_STAT_COMP_SIZE) || stat.size > WadManager::MaxEntryBytes ||
+        stat.size > stat.comp_size * 1032 + 64)
         return {};
     std::unique_ptr<zip_file_t, EntryCloser> file(zip_fopen(m_zip.get(), key.c_str(), 0));
     if (!file)

@@ -6,6 +6,7 @@
 #include <png.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -36,9 +37,14 @@ Kernel::RefPtr<CLtBitmap> WadManager::DecodePng(const void* data, std::size_t si
     image.version = PNG_IMAGE_VERSION;
     if (!png_image_begin_read_from_memory(&image, data, size))
         return {};
+    // Deflate shrinks data at most 1032 times, and a PNG row holds at least a filter byte and
+    // one bit per pixel: a header that declares more pixels than its bytes can hold is a lie,
+    // refused before the pixels are allocated.
+    const std::uint64_t leastDataBytes = static_cast<std::uint64_t>(image.height) * (1 + (image.width + 7u) / 8);
     const bool sane = image.width >= 1 && image.height >= 1 && image.width <= MaxImageSide &&
                       image.height <= MaxImageSide &&
-                      static_cast<std::size_t>(image.width) * image.height <= MaxImagePixels;
+                      static_cast<std::size_t>(image.width) * image.height <= MaxImagePixels &&
+                      leastDataBytes <= static_cast<std::uint64_t>(size) * 1032;
     if (!sane) {
         png_image_free(&image);
         return {};
