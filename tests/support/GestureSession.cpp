@@ -1,0 +1,319 @@
+#include "support/GestureSession.h"
+
+#include "filltool/FillCommands.h"
+#include "filltool/FillToolFactory.h"
+#include "gdi/CFillWithStops.h"
+#include "gdi/CMonoColour.h"
+#include "gdi/CRGBColour.h"
+#include "gdi/FillKinds.h"
+#include "geometry/CoordinateRange.h"
+#include "kernel/VerifyReporter.h"
+#include "platform/CCmdUI.h"
+#include "platform/CXTPControlComboBox.h"
+#include "tool/ToolIdMap.h"
+
+#include <cmath>
+#include <limits>
+#include <sstream>
+
+namespace KestoTest {
+
+using KestoGDI::CFill;
+using namespace KestoTool;
+
+int ByteChoices::Int(int lo, int hi)
+{
+    // Four bytes per choice (zeros once the input is used up), folded into the span.
+    std::uint32_t v = 0;
+    for (int i = 0; i < 4; ++i)
+        v = (v << 8) | (m_used < m_size ? m_data[m_used++] : 0u);
+    const auto span = static_cast<std::uint64_t>(static_cast<std::int64_t>(hi) - lo) + 1;
+    return static_cast<int>(lo + static_cast<std::int64_t>(v % span));
+}
+
+std::string InvalidFill(const CFill& fill, const Platform::CRuntimeClass* kind)
+{
+    if (fill.GetRuntimeClass() != kind)
+        return std::string("kind changed to ") + fill.GetRuntimeClass()->m_lpszClassName;
+    for (int i = 0; i < fill.GetControlCount(); ++i) {
+        const Kesto2D::K2DDblPoint p = fill.GetControlPoint(i);
+        if (!std::isfinite(p.x) || !std::isfinite(p.y) || std::abs(p.x) > Kesto2D::CoordinateLimit ||
+            std::abs(p.y) > Kesto2D::CoordinateLimit)
+            return "control point " + std::to_string(i) + " outside the range";
+    }
+    if (const auto* withStops = dynamic_cast<const KestoGDI::CFillWithStops*>(&fill)) {
+        const KestoGDI::ColourIntPairs& stops = withStops->GetColourIntPairs();
+        if (stops.GetSize() < withStops->GetMinStops())
+            return "only " + std::to_string(stops.GetSize()) + " stops";
+        int previous = 0;
+        for (const auto& stop : stops) {
+            if (stop.GetValue() < previous || stop.GetValue() > 10000)
+                return "stop position " + std::to_string(stop.GetValue()) + " out of order or range";
+            previous = stop.GetValue();
+        }
+    }
+    return {};
+}
+
+void SessionSite::UpdateFill(const CFill* fill, const wchar_t* undoName)
+{
+    Check(fill);
+    TestToolSite::UpdateFill(fill, undoName);
+    Keep(fill);
+}
+
+void SessionSite::UpdateTransparency(const CFill* fill, const wchar_t* undoName, bool flag)
+{
+    Check(fill);
+    TestToolSite::UpdateTransparency(fill, undoName, flag);
+    Keep(fill);
+}
+
+void SessionSite::Check(const CFill* fill)
+{
+    if (failure.empty() && fill)
+        failure = InvalidFill(*fill, kind);
+}
+
+void SessionSite::Keep(const CFill* fill)
+{
+    commits.clear();  // the session checks commits as they come; their copies need not pile up
+    if (!inDrag && fill)
+        history.Record(fill);
+}
+
+const Platform::CRuntimeClass* GestureSession::PickKind()
+{
+    std::vector<const Platform::CRuntimeClass*> withTools;
+    TestToolSite probe;
+    for (const KestoGDI::FillKind& kind : KestoGDI::FillKinds::All()) {
+        for (const Platform::CRuntimeClass* c : {kind.fillClass, kind.transparencyClass}) {
+            const Kernel::RefPtr<CFill> sample = CFill::CreateFromClass(c);
+            if (sample && FillToolFactory::Create(sample.get(), &probe))
+                withTools.push_back(c);
+        }
+    }
+    return withTools[static_cast<std::size_t>(Int(0, static_cast<int>(withTools.size()) - 1))];
+}
+
+Kernel::RefPtr<CFill> GestureSession::StartingFill(const Platform::CRuntimeClass* kind)
+{
+    Kernel::RefPtr<CFill> fill = CFill::CreateFromClass(kind);
+    fill->SetDefaultControls(CRect(Coordinate(), Coordinate(), Coordinate(), Coordinate()));
+    auto* withStops = dynamic_cast<KestoGDI::CFillWithStops*>(fill.get());
+    if (!withStops || withStops->GetMaxStops() >= 0)
+        return fill;
+    const int n = Chance(80) ? Int(2, 8) : Int(2, 1000);
+    KestoGDI::ColourIntPairs stops;
+    for (int i = 0; i < n; ++i) {
+        const int value = i == 0 ? 0 : i == n - 1 ? 10000 : Int(1, 9999);
+        if (fill->IsTransparency())
+            stops.Add(KestoGDI::CMonoColour(Int(0, 255)), value);
+        else
+            stops.Add(*AnyColour(), value);
+    }
+    stops.Sort();
+    withStops->SetColourIntPairs(stops);
+    return fill;
+}
+
+void GestureSession::NewEnvironment()
+{
+    static constexpr int scales[] = {1000, 1000000, Kesto2D::CoordinateLimit};
+    m_scale = scales[Int(0, 2)];
+    m_site.pixelToPaper = std::pow(10.0, m_choices.Fraction() * 6 - 3);
+    m_site.grid = Chance(30) ? Int(1, 100) : 0;
+    m_site.angleStep = Chance(50) ? 1500 * Int(1, 6) : 0;
+    m_site.angleSnapTolerance = Int(0, 50);
+    CRect box(Coordinate(), Coordinate(), Coordinate(), Coordinate());
+    switch (Int(0, 3)) {
+    case 0: box.NormalizeRect(); break;                                          // ordinary
+    case 1: box = CRect(box.left, box.top, box.left, box.top); break;            // empty
+    case 2: break;                                                                // inverted or any
+    default: box = CRect(box.left, box.top, box.left + 1, box.top + Int(1, 10)); // a sliver
+    }
+    m_site.objectBox = box;
+}
+
+std::unique_ptr<KestoGDI::CColour> GestureSession::AnyColour()
+{
+    if (Chance(30))
+        return std::make_unique<KestoGDI::CMonoColour>(Int(0, 255));
+    auto colour = std::make_unique<KestoGDI::CRGBColour>(Platform::RGB(Int(0, 255), Int(0, 255), Int(0, 255)));
+    colour->SetAlpha(Int(0, 255));
+    return colour;
+}
+
+CPoint GestureSession::NearHandleOrAnywhere()
+{
+    K2DArrayPoint handles;
+    m_tool->GetHandles(&handles);
+    if (handles.GetSize() == 0 || Chance(30))
+        return AnyPoint();
+    const CPoint h = handles.GetAt(Int(0, handles.GetSize() - 1));
+    if (Chance(50))
+        return h;
+    // Somewhere on the way to another handle: on the line, often.
+    const CPoint other = handles.GetAt(Int(0, handles.GetSize() - 1));
+    const double t = m_choices.Fraction();
+    return Kesto2D::SaturatePoint(std::llround(h.x + (static_cast<double>(other.x) - h.x) * t),
+                                  std::llround(h.y + (static_cast<double>(other.y) - h.y) * t));
+}
+
+void GestureSession::Drag()
+{
+    CPoint p = NearHandleOrAnywhere();
+    const unsigned flags = (Chance(30) ? DragFlagShift : 0) | (Chance(30) ? DragFlagCtrl : 0);
+    m_site.create = m_tool->IndexFromPoint(p) == -1 && Chance(70);
+    m_site.inDrag = true;
+    m_tool->OnDragStart(p, flags);
+    for (int moves = Int(1, 4); moves > 0; --moves) {
+        p = Chance(50) ? NearHandleOrAnywhere() : AnyPoint();
+        m_tool->OnDragChange(p, flags);
+    }
+    m_tool->OnDragEnd(p, flags);
+    m_site.inDrag = false;
+    m_site.create = false;
+    // The gesture's one step: the geometry the tool holds now.
+    m_site.Check(m_tool->GetFill());
+    m_site.history.Record(m_tool->GetFill());
+}
+
+void GestureSession::Drop()
+{
+    CPoint p = NearHandleOrAnywhere();
+    const auto colour = AnyColour();
+    m_tool->SetGhostNode(p, colour.get());
+    m_tool->ClearGhostNode();
+    m_tool->OnFillCellDrop(p, Chance(5) ? nullptr : colour.get());
+}
+
+void GestureSession::DeleteAStop()
+{
+    K2DArrayPoint handles;
+    m_tool->GetHandles(&handles);
+    m_tool->SetCurrentNode(Int(-1, handles.GetSize()));
+    m_tool->OnKeyDown(KeyDelete, 1, 0);
+}
+
+void GestureSession::Command()
+{
+    const int first = ToolIdMap::GetInstance().MapIDToApp(FillToolKey, 0);
+    const int id = Chance(90) ? first + Int(0, FillCommands::Count() - 1)
+                              : Int(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
+    Platform::CXTPControlEdit box(id);
+    box.SetValue(m_choices.Fraction() * 200 - 50);
+    Platform::CXTPControlComboBox combo(id);
+    if (Chance(80)) {
+        combo.SetCurSel(combo.AddString(L"kind"));
+        combo.SetItemData(0, Int(-1, 15));
+    }
+    Platform::CXTPControl* control = Chance(50) ? static_cast<Platform::CXTPControl*>(&box) : &combo;
+    if (Chance(30))
+        m_document.helper.Answer(*AnyColour());
+    switch (Int(0, 2)) {
+    case 0: m_tool->OnCmdMsg(id, Platform::CN_COMMAND, nullptr, nullptr); break;
+    case 1: {
+        Platform::CCmdUI ui(id, Chance(50) ? control : nullptr);
+        m_tool->OnCmdMsg(id, Platform::CN_UPDATE_COMMAND_UI, &ui, nullptr);
+        break;
+    }
+    default: {
+        Platform::NMXTPCONTROL notify;
+        notify.pControl = Chance(90) ? control : nullptr;
+        notify.hdr.code = Chance(50) ? 65536u : 0u;
+        long result = 0;
+        Platform::AFX_NOTIFY extra{&result, &notify};
+        const int code = Chance(80) ? (Chance(50) ? 100 : 0) : Int(0, 0xFFFF);
+        m_tool->OnCmdMsg(id, Platform::CN_NOTIFY(code), &extra, nullptr);
+    }
+    }
+    m_document.helper.pickerAnswers.clear();
+}
+
+void GestureSession::CellEdit()
+{
+    switch (Int(0, 3)) {
+    case 0: m_tool->OnAlphaCellChanged(static_cast<unsigned char>(Int(0, 255))); break;
+    case 1: m_tool->OnTintChanged(Int(-150, 150)); break;
+    case 2: m_tool->OnFillCellChanged(AnyColour().get()); break;
+    default: m_tool->SetCurrentNode(Int(-2, 12)); break;
+    }
+}
+
+const char* GestureSession::Step(int op)
+{
+    // Percent shares of the operations: drags 35, drops 15, deletes 10, commands 20, cell
+    // edits 12, a new environment 8.
+    if (op < 35) {
+        Drag();
+        return "drag";
+    }
+    if (op < 50) {
+        Drop();
+        return "drop";
+    }
+    if (op < 60) {
+        DeleteAStop();
+        return "delete";
+    }
+    if (op < 80) {
+        Command();
+        return "command";
+    }
+    if (op < 92) {
+        CellEdit();
+        return "cell edit";
+    }
+    NewEnvironment();
+    return "environment";
+}
+
+std::string GestureSession::UndoAndRedo()
+{
+    // Each step gives the tool exactly the fill that was recorded for it.
+    UndoHistory& history = m_site.history;
+    m_site.tool = nullptr;  // the session hands the fills back itself now
+    for (const bool back : {true, false}) {
+        while (const CFill* fill = back ? history.Undo() : history.Redo()) {
+            m_tool->SetFill(fill);
+            if (!m_tool->GetFill()->IsEqual(history.Snapshot(history.Current())))
+                return std::string(back ? "undo" : "redo") + " to step " + std::to_string(history.Current()) +
+                       " gives another fill";
+        }
+    }
+    return {};
+}
+
+std::string GestureSession::Play(int steps, bool commandsOnly)
+{
+    // Reports are allowed (a careless host earns them); a crash or a broken fill is not.
+    Kernel::ScopedVerifyHandler quiet([](const Kernel::VerifyReport&) {});
+    m_site.document = &m_document;
+    NewEnvironment();
+    m_site.kind = PickKind();
+    const Kernel::RefPtr<CFill> start = StartingFill(m_site.kind);
+    m_site.history.Record(start.get());
+    m_tool = FillToolFactory::Create(start.get(), &m_site);
+    m_site.tool = m_tool.get();
+    m_site.bars = &m_bars;
+    m_tool->InitContextButtons(&m_bars);
+
+    std::ostringstream where;
+    where << m_label << ": ";
+    for (int step = 0; step < steps && !m_choices.Exhausted(); ++step) {
+        const char* name = commandsOnly ? (Command(), "command") : Step(Int(0, 99));
+        if (!m_site.failure.empty() || m_site.history.FirstChangedStep() != -1) {
+            where << "step " << step << " (" << name << "): "
+                  << (m_site.failure.empty() ? "a recorded fill changed after it was handed over" : m_site.failure);
+            return where.str();
+        }
+    }
+    if (std::string failure = UndoAndRedo(); !failure.empty()) {
+        where << failure;
+        return where.str();
+    }
+    return {};
+}
+
+} // namespace KestoTest
