@@ -1,0 +1,131 @@
+#include "raster/PreparedPaint.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace KestoRaster {
+
+using namespace Shading;
+
+Affine Affine::Inverse() const
+{
+    const double det = Determinant();
+    if (!std::isfinite(det) || det == 0)
+        return {0, 0, 0, 0, 0, 0};
+    Affine r;
+    r.a = d / det;
+    r.b = -b / det;
+    r.c = -c / det;
+    r.d = a / det;
+    r.e = -(r.a * e + r.c * f);
+    r.f = -(r.b * e + r.d * f);
+    return r;
+}
+
+namespace {
+
+bool IsRampKind(Paint::Kind kind)
+{
+    switch (kind) {
+    case Paint::Kind::Linear:
+    case Paint::Kind::Radial:
+    case Paint::Kind::Elliptical:
+    case Paint::Kind::Conical:
+    case Paint::Kind::Square: return true;
+    default: return false;
+    }
+}
+
+std::uint32_t Shade(const Paint& paint, Output output, Rgba c)
+{
+    return output == Output::Argb32 ? ToArgb(paint, c) : ToMask(paint, c);
+}
+
+// The clip cut to the target.
+Clip Within(const Target& target, const Clip& clip)
+{
+    return {std::max(clip.x0, 0), std::max(clip.y0, 0), std::min(clip.x1, target.width),
+            std::min(clip.y1, target.height)};
+}
+
+// Visits every pixel of the clip with its paint-space centre.
+template <class Write>
+void ForEachPixel(const Target& target, const Clip& clip, const Affine& toPaint, Write write)
+{
+    const Clip c = Within(target, clip);
+    for (int y = c.y0; y < c.y1; ++y) {
+        auto* row = static_cast<unsigned char*>(target.pixels) + y * target.stride;
+        for (int x = c.x0; x < c.x1; ++x) {
+            const Point p = toPaint.Apply({x + 0.5, y + 0.5});
+            const std::uint32_t v = write(p);
+            if (target.format == Output::Argb32)
+                reinterpret_cast<std::uint32_t*>(row)[x] = v;
+            else
+                row[x] = static_cast<unsigned char>(v);
+        }
+    }
+}
+
+} // namespace
+
+PreparedPaint::PreparedPaint(const Paint& paint, const Affine& paintToDevice, Output output,
+                             const PreparedPaint* previous)
+    : m_paint(std::make_shared<Paint>(paint)), m_output(output), m_deviceToPaint(paintToDevice.Inverse()),
+      m_geometry(Solve(paint))
+{
+    if (previous && previous->m_output == output && previous->m_paint->stops == paint.stops &&
+        previous->m_paint->transparency == paint.transparency && previous->IsRamp() == IsRamp()) {
+        m_table = previous->m_table;
+        return;
+    }
+    auto table = std::make_shared<std::vector<std::uint32_t>>();
+    if (IsRamp()) {
+        table->resize(TableSize);
+        for (int i = 0; i < TableSize; ++i)
+            (*table)[i] = Shade(paint, output, RampColour(paint, i * 10000.0 / (TableSize - 1)));
+    }
+    m_table = std::move(table);
+}
+
+bool PreparedPaint::IsRamp() const
+{
+    return IsRampKind(m_paint->kind);
+}
+
+void Render(const PreparedPaint& prepared, const Target& target, const Clip& clip)
+{
+    const Paint& paint = prepared.GetPaint();
+    const Geometry& g = prepared.GetGeometry();
+    const Output out = target.format;
+    if (prepared.IsRamp() && out == prepared.GetOutput()) {
+        const auto& table = prepared.Table();
+        ForEachPixel(target, clip, prepared.DeviceToPaint(), [&](Point p) {
+            return table[static_cast<std::size_t>(RampParameter(g, p) * (PreparedPaint::TableSize - 1) + 0.5)];
+        });
+        return;
+    }
+    ForEachPixel(target, clip, prepared.DeviceToPaint(), [&](Point p) {
+        if (paint.kind == Paint::Kind::Solid)
+            return Shade(paint, out, paint.colours.empty() ? Rgba{} : paint.colours.front());
+        if (IsRampKind(paint.kind))
+            return Shade(paint, out, RampColour(paint, RampParameter(g, p) * 10000));
+        return Shade(paint, out, CornerColour(paint, CornerCoordinates(g, p)));
+    });
+}
+
+void RenderReference(const Paint& paint, const Affine& paintToDevice, const Target& target, const Clip& clip)
+{
+    const Geometry g = Solve(paint);
+    ForEachPixel(target, clip, paintToDevice.Inverse(), [&](Point p) {
+        Rgba c;
+        if (paint.kind == Paint::Kind::Solid)
+            c = paint.colours.empty() ? Rgba{} : paint.colours.front();
+        else if (IsRampKind(paint.kind))
+            c = RampColour(paint, RampParameter(g, p) * 10000);
+        else
+            c = CornerColour(paint, CornerCoordinates(g, p));
+        return Shade(paint, target.format, c);
+    });
+}
+
+} // namespace KestoRaster

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "raster/Paint.h"
+#include "raster/Shading_p.h"
+
+#include <memory>
+#include <vector>
+
+namespace KestoRaster {
+
+// A paint made ready for one placement and one output: the device -> paint map, the solved
+// geometry and, for the ramp kinds, a colour table. Immutable and cheap to copy; the colour
+// table is shared, so preparing the same paint at a new placement (a drag moving geometry)
+// reuses it through Prepare's previous argument.
+class PreparedPaint {
+public:
+    // Ramp kinds keep this many samples of their ramp, 0 .. 10000 evenly.
+    static constexpr int TableSize = 1024;
+
+    // paint placed by paintToDevice, for output; previous, when given and its paint has the same
+    // colours, lends its table.
+    PreparedPaint(const Paint& paint, const Affine& paintToDevice, Output output,
+                  const PreparedPaint* previous = nullptr);
+
+    const Paint& GetPaint() const { return *m_paint; }
+    Output GetOutput() const { return m_output; }
+    const Affine& DeviceToPaint() const { return m_deviceToPaint; }
+    const Shading::Geometry& GetGeometry() const { return m_geometry; }
+    bool IsRamp() const;
+    // The table's words (ARGB output) or bytes (mask output); empty for non-ramp kinds.
+    const std::vector<std::uint32_t>& Table() const { return *m_table; }
+    bool SharesTableWith(const PreparedPaint& other) const { return m_table == other.m_table; }
+
+private:
+    std::shared_ptr<const Paint> m_paint;
+    Output m_output;
+    Affine m_deviceToPaint;
+    Shading::Geometry m_geometry;
+    std::shared_ptr<const std::vector<std::uint32_t>> m_table;
+};
+
+// Paints every pixel of the clip (inside the target) with the prepared paint, sampling pixel
+// centres, replacing what was there. Ramp kinds read their table; the others are computed
+// per pixel.
+void Render(const PreparedPaint& paint, const Target& target, const Clip& clip);
+
+// The same by the definition, in double precision and without tables: the reference that
+// Render is tested against.
+void RenderReference(const Paint& paint, const Affine& paintToDevice, const Target& target, const Clip& clip);
+
+} // namespace KestoRaster

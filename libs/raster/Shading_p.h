@@ -1,0 +1,44 @@
+#pragma once
+
+// What the reference renderer and the kernels share: where a paint-space point lies on a
+// kind's ramp, the ramp's colour there, the corner kinds' colours, and the output rules.
+#include "raster/Paint.h"
+
+#include <array>
+
+namespace KestoRaster::Shading {
+
+// A paint's geometry, solved once: the point -> ramp parameter map of each kind.
+struct Geometry {
+    Paint::Kind kind = Paint::Kind::Solid;
+    bool degenerate = false;
+    Point origin;                  // S, C or P0
+    // The inverse of the basis (first axis, second axis) that the kind measures in; for the
+    // linear kind the axis divided by its squared length.
+    double iux = 0, iuy = 0, ivx = 0, ivy = 0;
+    // Conical: the direction of C->R as an angle in radians (y down, anticlockwise on screen).
+    double zeroAngle = 0;
+    // FourColour: P1 - P0, P2 - P0 and P3 - P1 - P2 + P0.
+    Point e1, e2, e3;
+};
+
+Geometry Solve(const Paint& paint);
+
+// The ramp parameter 0..1 of a paint-space point (ramp kinds).
+double RampParameter(const Geometry& g, Point p);
+// The corner kinds' coordinates (u, v) in 0..1 of a paint-space point.
+Point CornerCoordinates(const Geometry& g, Point p);
+
+// The ramp's colour at a position 0..10000 by the fill model's rule: before the first stop the
+// first colour, after the last the last; between two stops each channel (alpha too) blends
+// straight from the earlier to the later by the earlier stop's spline, rounded half up.
+Rgba RampColour(const Paint& paint, double position);
+// Three corners: c0 + u (c1 - c0) + v (c2 - c0); four: bilinear. Rounded half up, clamped.
+Rgba CornerColour(const Paint& paint, Point uv);
+
+// The output rules: premultiplied 0xAARRGGBB; a transparency shows its level as an opaque
+// grey. A mask byte is 255 - level for a transparency and the alpha for a colour.
+std::uint32_t ToArgb(const Paint& paint, Rgba c);
+std::uint8_t ToMask(const Paint& paint, Rgba c);
+
+} // namespace KestoRaster::Shading

@@ -1,0 +1,166 @@
+#include "raster/PreparedPaint.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+using namespace KestoRaster;
+
+namespace {
+
+constexpr int W = 64;
+constexpr int H = 48;
+
+Rgba C(std::uint8_t r, std::uint8_t g, std::uint8_t b, std::uint8_t a = 255)
+{
+    return {r, g, b, a};
+}
+
+struct Named {
+    const char* name;
+    Paint paint;
+};
+
+std::vector<Named> Paints()
+{
+    const std::vector<RampStop> ramp = {{0, C(255, 0, 0)}, {4000, C(0, 200, 50, 128)}, {10000, C(20, 40, 250)}};
+    const std::vector<RampStop> levels = {{0, C(0, 0, 0)}, {10000, C(255, 255, 255)}};
+    std::vector<Named> all = {
+        {"solid", {Paint::Kind::Solid, {}, {}, {C(10, 200, 30, 200)}}},
+        {"linear", {Paint::Kind::Linear, {{8, 8}, {50, 30}}, ramp, {}}},
+        {"radial", {Paint::Kind::Radial, {{30, 20}, {50, 20}}, ramp, {}}},
+        {"elliptical", {Paint::Kind::Elliptical, {{30, 20}, {55, 25}, {28, 5}}, ramp, {}}},
+        {"conical", {Paint::Kind::Conical, {{32, 24}, {50, 24}}, ramp, {}}},
+        {"square", {Paint::Kind::Square, {{30, 24}, {45, 30}, {25, 10}}, ramp, {}}},
+        {"three colour", {Paint::Kind::ThreeColour, {{5, 5}, {55, 8}, {10, 40}}, {}, {C(255, 0, 0), C(0, 255, 0), C(0, 0, 255, 100)}}},
+        {"four colour",
+         {Paint::Kind::FourColour, {{4, 4}, {60, 10}, {8, 44}, {50, 40}}, {}, {C(255, 0, 0), C(0, 255, 0), C(0, 0, 255), C(255, 255, 0, 60)}}},
+        {"linear transparency", {Paint::Kind::Linear, {{0, 0}, {64, 0}}, levels, {}, true}},
+    };
+    return all;
+}
+
+struct Image {
+    Output format;
+    std::vector<std::uint32_t> words;
+    std::vector<std::uint8_t> bytes;
+    explicit Image(Output f, std::uint32_t fill = 0) : format(f), words(W * H, fill), bytes(W * H, static_cast<std::uint8_t>(fill)) {}
+    Target Of()
+    {
+        return format == Output::Argb32 ? Target{words.data(), W, H, W * 4, format} : Target{bytes.data(), W, H, W, format};
+    }
+    std::uint32_t At(int x, int y) const { return format == Output::Argb32 ? words[y * W + x] : bytes[y * W + x]; }
+};
+
+int ChannelDistance(std::uint32_t a, std::uint32_t b)
+{
+    int d = 0;
+    for (int shift = 0; shift < 32; shift += 8)
+        d = std::max(d, std::abs(static_cast<int>((a >> shift) & 0xFF) - static_cast<int>((b >> shift) & 0xFF)));
+    return d;
+}
+
+// The largest channel step between neighbouring table entries: what a table kernel may be off by.
+int TableStep(const PreparedPaint& p)
+{
+    int step = 0;
+    const auto& t = p.Table();
+    for (std::size_t i = 1; i < t.size(); ++i)
+        step = std::max(step, ChannelDistance(t[i - 1], t[i]));
+    return step;
+}
+
+const Clip kAll{0, 0, W, H};
+
+} // namespace
+
+TEST(Render, EveryKindMatchesTheReferenceWithinItsTableStepInBothOutputs)
+{
+    Affine rotated{0.9, 0.3, -0.25, 1.1, 3, -2};
+    for (const auto& [name, paint] : Paints()) {
+        for (const Output out : {Output::Argb32, Output::Mask8}) {
+            for (const Affine& placement : {Affine{}, rotated}) {
+                SCOPED_TRACE(std::string(name) + (out == Output::Argb32 ? " argb" : " mask"));
+                const PreparedPaint prepared(paint, placement, out);
+                Image fast(out), reference(out);
+                Render(prepared, fast.Of(), kAll);
+                RenderReference(paint, placement, reference.Of(), kAll);
+                const int tolerance = prepared.IsRamp() ? TableStep(prepared) + 1 : 0;
+                int worst = 0;
+                for (int y = 0; y < H; ++y)
+                    for (int x = 0; x < W; ++x)
+                        worst = std::max(worst, ChannelDistance(fast.At(x, y), reference.At(x, y)));
+                EXPECT_LE(worst, tolerance);
+            }
+        }
+    }
+}
+
+TEST(Render, AClipPaintsOnlyItsPixelsAndASubRectangleEqualsTheFullRender)
+{
+    const Clip inner{10, 7, 41, 30};
+    for (const auto& [name, paint] : Paints()) {
+        SCOPED_TRACE(name);
+        const PreparedPaint prepared(paint, {}, Output::Argb32);
+        Image full(Output::Argb32), part(Output::Argb32, 0xDEADBEEF);
+        Render(prepared, full.Of(), kAll);
+        Render(prepared, part.Of(), inner);
+        Render(prepared, part.Of(), {-5, -5, 0, H + 9});  // outside the target: nothing
+        for (int y = 0; y < H; ++y) {
+            for (int x = 0; x < W; ++x) {
+                const bool in = x >= inner.x0 && x < inner.x1 && y >= inner.y0 && y < inner.y1;
+                ASSERT_EQ(part.At(x, y), in ? full.At(x, y) : 0xDEADBEEFu) << x << "," << y;
+                const std::uint32_t v = full.At(x, y);
+                const std::uint32_t a = v >> 24;
+                ASSERT_TRUE(((v >> 16) & 0xFF) <= a && ((v >> 8) & 0xFF) <= a && (v & 0xFF) <= a) << "premultiplied";
+            }
+        }
+    }
+}
+
+TEST(Render, GeometryLandsWhereTheKindsSay)
+{
+    const auto pixel = [](const Paint& p, double x, double y) {
+        Image img(Output::Argb32);
+        // A one-pixel clip centred on (x, y): the paint placed so that (x, y) is that centre.
+        RenderReference(p, {1, 0, 0, 1, 10.5 - x, 10.5 - y}, img.Of(), {10, 10, 11, 11});
+        return img.At(10, 10);
+    };
+    const auto paints = Paints();
+    const Paint& three = paints[6].paint;
+    EXPECT_EQ(pixel(three, 5, 5), 0xFFFF0000u);
+    EXPECT_EQ(pixel(three, 55, 8), 0xFF00FF00u);
+    EXPECT_EQ(pixel(three, 10, 40), 0x64000064u);  // blue at alpha 100, premultiplied
+    const Paint& four = paints[7].paint;
+    EXPECT_EQ(pixel(four, 4, 4), 0xFFFF0000u);
+    EXPECT_EQ(pixel(four, 60, 10), 0xFF00FF00u);
+    EXPECT_EQ(pixel(four, 8, 44), 0xFF0000FFu);
+    EXPECT_EQ(pixel(four, 50, 40), 0x3C3C3C00u);  // yellow at alpha 60
+    const Paint& linear = paints[1].paint;
+    EXPECT_EQ(pixel(linear, -100, -50), pixel(linear, 8, 8)) << "padded before the start";
+    EXPECT_EQ(pixel(linear, 500, 300), 0xFF1428FAu) << "padded past the end";
+    // Conical: symmetric about C->R, position 5000 at a right angle either way round.
+    const Paint& conical = paints[4].paint;
+    EXPECT_EQ(pixel(conical, 40, 16), pixel(conical, 40, 32));
+    EXPECT_EQ(pixel(conical, 32, 10), pixel(conical, 32, 38));
+    Paint half = conical;
+    half.stops = {{0, C(0, 0, 0)}, {5000, C(200, 100, 0)}, {5000, C(0, 0, 0)}, {10000, C(0, 0, 0)}};
+    EXPECT_EQ(pixel(half, 32, 0), 0xFF000000u);
+    EXPECT_EQ(pixel(half, 32.01, 10), 0xFFC86400u) << "just short of the right angle";
+}
+
+TEST(Render, APaintPreparedAgainWithTheSameColoursSharesItsTable)
+{
+    const Paint linear = Paints()[1].paint;
+    const PreparedPaint first(linear, {}, Output::Argb32);
+    Paint moved = linear;
+    moved.points[1] = {60, 40};
+    const PreparedPaint again(moved, {2, 0, 0, 2, 0, 0}, Output::Argb32, &first);
+    EXPECT_TRUE(again.SharesTableWith(first));
+    Paint recoloured = linear;
+    recoloured.stops[1].colour.r = 7;
+    EXPECT_FALSE(PreparedPaint(recoloured, {}, Output::Argb32, &first).SharesTableWith(first));
+}
