@@ -1,0 +1,180 @@
+// Paints every fill kind twice, as a fill over a checkerboard and as a transparency that fades a
+// dark blue fill over the checkerboard, and writes the gallery as a PNG. It shows a host engineer
+// the whole rendering path: a fill becomes a paint (FillPaint), the paint is prepared for its
+// placement and rendered (KestoRaster), fill and mask are composited over the destination.
+#include "gdi/CFillWithStops.h"
+#include "gdi/CMonoColour.h"
+#include "gdi/CRGBColour.h"
+#include "gdi/FillKinds.h"
+#include "gdi/FillPaint.h"
+#include "gdi/PngFile.h"
+#include "platform/CString.h"
+#include "raster/Composite.h"
+#include "raster/PreparedPaint.h"
+
+#include <cctype>
+#include <cstdint>
+#include <iostream>
+#include <string>
+#include <vector>
+
+using namespace KestoRaster;
+
+namespace {
+
+constexpr int kCell = 120;
+constexpr int kCellHeight = 90;
+constexpr int kGap = 10;
+constexpr int kLabel = 20;
+constexpr int kBlockWidth = 2 * kCell + kGap + 2 * kGap;
+constexpr int kBlockHeight = kLabel + kCellHeight + 2 * kGap;
+constexpr int kColumns = 4;
+
+// A 5 x 7 pixel font for the labels: capitals and a few signs.
+const std::uint8_t* Glyph(char c)
+{
+    static const std::uint8_t space[7] = {};
+    static const struct {
+        char c;
+        std::uint8_t rows[7];
+    } font[] = {
+        {'A', {14, 17, 17, 31, 17, 17, 17}}, {'B', {30, 17, 17, 30, 17, 17, 30}}, {'C', {14, 17, 16, 16, 16, 17, 14}},
+        {'D', {30, 17, 17, 17, 17, 17, 30}}, {'E', {31, 16, 16, 30, 16, 16, 31}}, {'F', {31, 16, 16, 30, 16, 16, 16}},
+        {'G', {14, 17, 16, 23, 17, 17, 15}}, {'H', {17, 17, 17, 31, 17, 17, 17}}, {'I', {14, 4, 4, 4, 4, 4, 14}},
+        {'K', {17, 18, 20, 24, 20, 18, 17}}, {'L', {16, 16, 16, 16, 16, 16, 31}}, {'M', {17, 27, 21, 21, 17, 17, 17}},
+        {'N', {17, 25, 21, 19, 17, 17, 17}}, {'O', {14, 17, 17, 17, 17, 17, 14}}, {'P', {30, 17, 17, 30, 16, 16, 16}},
+        {'Q', {14, 17, 17, 17, 21, 18, 13}}, {'R', {30, 17, 17, 30, 20, 18, 17}}, {'S', {15, 16, 16, 14, 1, 1, 30}},
+        {'T', {31, 4, 4, 4, 4, 4, 4}},       {'U', {17, 17, 17, 17, 17, 17, 14}}, {'V', {17, 17, 17, 17, 17, 10, 4}},
+        {'W', {17, 17, 17, 21, 21, 21, 10}}, {'X', {17, 17, 10, 4, 10, 17, 17}},  {'Y', {17, 17, 10, 4, 4, 4, 4}},
+        {'(', {2, 4, 8, 8, 8, 4, 2}},        {')', {8, 4, 2, 2, 2, 4, 8}},        {'/', {1, 1, 2, 4, 8, 16, 16}},
+    };
+    for (const auto& g : font) {
+        if (g.c == std::toupper(static_cast<unsigned char>(c)))
+            return g.rows;
+    }
+    return space;
+}
+
+class Canvas {
+public:
+    Canvas(int width, int height) : m_width(width), m_height(height), m_pixels(static_cast<std::size_t>(width) * height, 0xFFFFFFFF) {}
+
+    Target Argb() { return {m_pixels.data(), m_width, m_height, m_width * 4, Output::Argb32}; }
+    int Width() const { return m_width; }
+    int Height() const { return m_height; }
+
+    void Checkerboard(const Clip& c)
+    {
+        for (int y = c.y0; y < c.y1; ++y)
+            for (int x = c.x0; x < c.x1; ++x)
+                At(x, y) = (((x - c.x0) / 8 + (y - c.y0) / 8) % 2) ? 0xFFCCCCCC : 0xFFFFFFFF;
+    }
+    void Text(int x, int y, const std::string& text)
+    {
+        for (const char ch : text) {
+            const std::uint8_t* rows = Glyph(ch);
+            for (int r = 0; r < 7; ++r)
+                for (int col = 0; col < 5; ++col)
+                    if (rows[r] & (16 >> col))
+                        Fill({x + col * 2, y + r * 2, x + col * 2 + 2, y + r * 2 + 2}, 0xFF202020);
+            x += 12;
+        }
+    }
+    void Fill(const Clip& c, std::uint32_t argb)
+    {
+        for (int y = c.y0; y < c.y1; ++y)
+            for (int x = c.x0; x < c.x1; ++x)
+                At(x, y) = argb;
+    }
+    const std::vector<std::uint32_t>& Pixels() const { return m_pixels; }
+
+private:
+    std::uint32_t& At(int x, int y) { return m_pixels[static_cast<std::size_t>(y) * m_width + x]; }
+
+    int m_width, m_height;
+    std::vector<std::uint32_t> m_pixels;
+};
+
+// A few stops to show the ramps: a fill from red through orange and teal to deep blue, a
+// transparency from opaque to clear with a step.
+void ShowcaseStops(KestoGDI::CFill& fill)
+{
+    auto* withStops = dynamic_cast<KestoGDI::CFillWithStops*>(&fill);
+    if (!withStops || withStops->GetMaxStops() >= 0)
+        return;
+    KestoGDI::ColourIntPairs stops;
+    if (fill.IsTransparency()) {
+        stops.Add(KestoGDI::CMonoColour(0), 0);
+        stops.Add(KestoGDI::CMonoColour(90), 5000);
+        stops.Add(KestoGDI::CMonoColour(255), 10000);
+    } else {
+        stops.Add(KestoGDI::CRGBColour(Platform::RGB(220, 30, 40)), 0);
+        stops.Add(KestoGDI::CRGBColour(Platform::RGB(255, 170, 0)), 3000);
+        stops.Add(KestoGDI::CRGBColour(Platform::RGB(0, 160, 150)), 6500);
+        stops.Add(KestoGDI::CRGBColour(Platform::RGB(30, 40, 150)), 10000);
+    }
+    withStops->SetColourIntPairs(stops);
+}
+
+// Paints one fill into its cell; false for a kind the renderer does not paint yet.
+bool PaintCell(Canvas& canvas, const Platform::CRuntimeClass* kind, const Clip& cell)
+{
+    canvas.Checkerboard(cell);
+    Kernel::RefPtr<KestoGDI::CFill> fill = KestoGDI::CFill::CreateFromClass(kind);
+    const Platform::CRect box(cell.x0 + 10, cell.y0 + 10, cell.x1 - 10, cell.y1 - 10);
+    fill->SetDefaultControls(box);
+    ShowcaseStops(*fill);
+    const std::optional<Paint> paint = KestoGDI::FillPaint::From(*fill);
+    if (!paint) {
+        canvas.Text(cell.x0 + 18, cell.y0 + 30, "NOT YET");
+        return false;
+    }
+    std::vector<std::uint32_t> layer(canvas.Pixels().size(), 0);
+    const Target fillTarget{layer.data(), canvas.Width(), canvas.Height(), canvas.Width() * 4, Output::Argb32};
+    if (!fill->IsTransparency()) {
+        Render(PreparedPaint(*paint, {}, Output::Argb32), fillTarget, cell);
+        CompositeOver(canvas.Argb(), fillTarget, nullptr, cell);
+        return true;
+    }
+    // A transparency shapes a dark blue fill.
+    std::vector<std::uint8_t> mask(canvas.Pixels().size(), 0);
+    const Target maskTarget{mask.data(), canvas.Width(), canvas.Height(), canvas.Width(), Output::Mask8};
+    Render(PreparedPaint(*paint, {}, Output::Mask8), maskTarget, cell);
+    Paint blue;
+    blue.colours = {{30, 60, 160, 255}};
+    Render(PreparedPaint(blue, {}, Output::Argb32), fillTarget, cell);
+    CompositeOver(canvas.Argb(), fillTarget, &maskTarget, cell);
+    return true;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const std::string output = argc > 1 ? argv[1] : "fills.png";
+    const auto kinds = KestoGDI::FillKinds::All();
+    const int rows = static_cast<int>((kinds.size() + kColumns - 1) / kColumns);
+    Canvas canvas(kColumns * kBlockWidth, rows * kBlockHeight + kLabel);
+    canvas.Text(kGap, 4, "FILL / TRANSPARENCY");
+    std::cout << "Fill gallery: each kind as a fill (left) and a transparency over dark blue (right)\n";
+    for (std::size_t i = 0; i < kinds.size(); ++i) {
+        const KestoGDI::FillKind& kind = kinds[i];
+        const int x = static_cast<int>(i % kColumns) * kBlockWidth + kGap;
+        const int y = static_cast<int>(i / kColumns) * kBlockHeight + kLabel + kGap;
+        const std::string name = Platform::CString(kind.fillName).ToUtf8();
+        canvas.Text(x, y, name);
+        const Clip fillCell{x, y + kLabel, x + kCell, y + kLabel + kCellHeight};
+        const Clip transparencyCell{x + kCell + kGap, y + kLabel, x + 2 * kCell + kGap, y + kLabel + kCellHeight};
+        const bool painted = PaintCell(canvas, kind.fillClass, fillCell);
+        if (kind.transparencyClass)
+            PaintCell(canvas, kind.transparencyClass, transparencyCell);
+        std::cout << "  " << (painted ? "painted  " : "not yet  ") << name << '\n';
+    }
+    if (!KestoGDI::PngFile::WritePremultiplied(output, canvas.Pixels().data(), canvas.Width(), canvas.Height(),
+                                               canvas.Width() * 4)) {
+        std::cerr << "cannot write " << output << '\n';
+        return 1;
+    }
+    std::cout << "gallery written to " << output << '\n';
+    return 0;
+}

@@ -1,0 +1,39 @@
+#include "gdi/PngFile.h"
+
+#include <png.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <vector>
+
+namespace KestoGDI {
+
+bool PngFile::WritePremultiplied(const std::string& path, const std::uint32_t* pixels, int width, int height,
+                                 std::ptrdiff_t strideBytes)
+{
+    if (!pixels || width <= 0 || height <= 0)
+        return false;
+    // Straight alpha, as PNG stores it: 0xAARRGGBB in little-endian memory is B, G, R, A.
+    std::vector<std::uint32_t> straight(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
+    for (int y = 0; y < height; ++y) {
+        const auto* row = reinterpret_cast<const std::uint32_t*>(reinterpret_cast<const unsigned char*>(pixels) + y * strideBytes);
+        for (int x = 0; x < width; ++x) {
+            const std::uint32_t p = row[x];
+            const std::uint32_t a = p >> 24;
+            const auto un = [a](std::uint32_t c) { return a == 0 ? 0u : std::min<std::uint32_t>(255, (c * 255 + a / 2) / a); };
+            straight[static_cast<std::size_t>(y) * width + x] =
+                (a << 24) | (un((p >> 16) & 0xFF) << 16) | (un((p >> 8) & 0xFF) << 8) | un(p & 0xFF);
+        }
+    }
+    png_image image{};
+    image.version = PNG_IMAGE_VERSION;
+    image.width = static_cast<png_uint_32>(width);
+    image.height = static_cast<png_uint_32>(height);
+    image.format = PNG_FORMAT_BGRA;
+    if (png_image_write_to_file(&image, path.c_str(), 0, straight.data(), 0, nullptr))
+        return true;
+    std::remove(path.c_str());
+    return false;
+}
+
+} // namespace KestoGDI

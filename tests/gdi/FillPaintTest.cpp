@@ -1,0 +1,53 @@
+#include "gdi/CFillFractal.h"
+#include "gdi/CFillLinear.h"
+#include "gdi/CFillThreeColour.h"
+#include "gdi/CMonoColour.h"
+#include "gdi/CRGBColour.h"
+#include "gdi/CTransparencyLinear.h"
+#include "gdi/FillPaint.h"
+
+#include <gtest/gtest.h>
+
+using namespace KestoGDI;
+using KestoRaster::Paint;
+using KestoRaster::Rgba;
+
+TEST(FillPaint, ControlPointsStopsAndColoursAsDisplayed)
+{
+    CFillLinear linear;
+    linear.SetControls(K2DDblPoint(10, 20), K2DDblPoint(300, 20));
+    ColourIntPairs stops;
+    CRGBColour tinted(Platform::RGB(100, 0, 200), nullptr, 50, 128);
+    stops.Add(tinted, 0);
+    stops.Add(CRGBColour(Platform::RGB(0, 255, 0)), 10000);
+    linear.SetColourIntPairs(stops);
+    const auto paint = FillPaint::From(linear);
+    ASSERT_TRUE(paint);
+    EXPECT_EQ(paint->kind, Paint::Kind::Linear);
+    EXPECT_FALSE(paint->transparency);
+    ASSERT_EQ(paint->points.size(), 2u);
+    EXPECT_EQ(paint->points[1].x, 300);
+    ASSERT_EQ(paint->stops.size(), 2u);
+    const COLORREF shown = tinted.GetRGB();
+    EXPECT_EQ(paint->stops[0].colour, (Rgba{static_cast<std::uint8_t>(Platform::GetRValue(shown)),
+                                            static_cast<std::uint8_t>(Platform::GetGValue(shown)),
+                                            static_cast<std::uint8_t>(Platform::GetBValue(shown)), 128}));
+    EXPECT_EQ(paint->stops[1].position, 10000);
+}
+
+TEST(FillPaint, TransparenciesPaintTheirLevelsAndCornerKindsTheirCorners)
+{
+    CTransparencyLinear transparency;
+    const auto levels = FillPaint::From(transparency);
+    ASSERT_TRUE(levels);
+    EXPECT_TRUE(levels->transparency);
+    EXPECT_EQ(levels->stops.back().colour.r, 255);  // the default ends clear
+
+    const auto corners = FillPaint::From(CFillThreeColour());
+    ASSERT_TRUE(corners);
+    EXPECT_EQ(corners->kind, Paint::Kind::ThreeColour);
+    EXPECT_EQ(corners->colours.size(), 3u);
+    EXPECT_TRUE(corners->stops.empty());
+
+    EXPECT_FALSE(FillPaint::From(CFillFractal())) << "not painted yet";
+}
