@@ -2,6 +2,7 @@
 // dark blue fill over the checkerboard, and writes the gallery as a PNG. It shows a host engineer
 // the whole rendering path: a fill becomes a paint (FillPaint), the paint is prepared for its
 // placement and rendered (KestoRaster), fill and mask are composited over the destination.
+#include "gdi/CFillBitmap.h"
 #include "gdi/CFillWithStops.h"
 #include "gdi/CMonoColour.h"
 #include "gdi/CRGBColour.h"
@@ -19,6 +20,7 @@
 #include <vector>
 
 using namespace KestoRaster;
+using Kesto2D::K2DDblPoint;
 
 namespace {
 
@@ -116,6 +118,20 @@ void ShowcaseStops(KestoGDI::CFill& fill)
     withStops->SetColourIntPairs(stops);
 }
 
+// A small tile for the bitmap kinds: a ring of colour on a soft background.
+Kernel::RefPtr<const KestoGDI::CLtBitmap> SampleTile()
+{
+    auto tile = Kernel::MakeRef<KestoGDI::CLtBitmap>(24, 24);
+    for (int y = 0; y < 24; ++y) {
+        for (int x = 0; x < 24; ++x) {
+            const int d2 = (x - 12) * (x - 12) + (y - 12) * (y - 12);
+            const bool ring = d2 > 36 && d2 < 100;
+            tile->SetPixel(x, y, ring ? 0xFFE07020u : 0xFF2080C0u + static_cast<std::uint32_t>(x * 4) * 0x10000u);
+        }
+    }
+    return tile;
+}
+
 // Paints one fill into its cell; false for a kind the renderer does not paint yet.
 bool PaintCell(Canvas& canvas, const Platform::CRuntimeClass* kind, const Clip& cell)
 {
@@ -124,6 +140,12 @@ bool PaintCell(Canvas& canvas, const Platform::CRuntimeClass* kind, const Clip& 
     const Platform::CRect box(cell.x0 + 10, cell.y0 + 10, cell.x1 - 10, cell.y1 - 10);
     fill->SetDefaultControls(box);
     ShowcaseStops(*fill);
+    if (auto* bitmap = dynamic_cast<KestoGDI::CFillBitmap*>(fill.get())) {
+        bitmap->SetBitmap(SampleTile());
+        // A few tiles across the cell rather than one stretched over it.
+        bitmap->SetControls(K2DDblPoint(box.left, box.top), K2DDblPoint(box.left + 30, box.top),
+                            K2DDblPoint(box.left, box.top + 30));
+    }
     const std::optional<Paint> paint = KestoGDI::FillPaint::From(*fill);
     if (!paint) {
         canvas.Text(cell.x0 + 18, cell.y0 + 30, "NOT YET");

@@ -40,8 +40,26 @@ public:
     void Visit(const CFillSquare& fill) override { Ramp(Paint::Kind::Square, fill); }
     void Visit(const CFillThreeColour& fill) override { Corners(Paint::Kind::ThreeColour, fill); }
     void Visit(const CFillFourColour& fill) override { Corners(Paint::Kind::FourColour, fill); }
-    void Visit(const CFillFractal&) override {}
-    void Visit(const CFillBitmap&) override {}
+    void Visit(const CFillFractal& fill) override
+    {
+        Ramp(Paint::Kind::Plasma, fill);
+        paint->plasma = {fill.GetSeed(), fill.GetGrain(), fill.GetResolution()};
+        paint->mirroredTiles = fill.GetTileInverted();
+    }
+    void Visit(const CFillBitmap& fill) override
+    {
+        Paint& p = Start(Paint::Kind::Bitmap, fill);
+        Stops(fill);
+        p.mirroredTiles = fill.WantInvertedTiling();
+        p.recolour = fill.GetGradientRecolour();
+        if (const CLtBitmap* bitmap = fill.GetBitmapForFill(); bitmap && !bitmap->IsEmpty()) {
+            auto image = std::make_shared<Paint::Image>();
+            image->width = bitmap->GetWidth();
+            image->height = bitmap->GetHeight();
+            image->argb.assign(bitmap->GetBits(), bitmap->GetBits() + static_cast<std::size_t>(image->width) * image->height);
+            p.image = std::move(image);
+        }
+    }
     void Visit(const CFillDiscreteMesh&) override {}
     void Visit(const CFillVector&) override {}
 
@@ -60,10 +78,14 @@ private:
     void Solid(const CFill& fill, KestoRaster::Rgba colour) { Start(Paint::Kind::Solid, fill).colours = {colour}; }
     void Ramp(Paint::Kind kind, const CFillGradient& fill)
     {
-        Paint& p = Start(kind, fill);
+        Start(kind, fill);
+        Stops(fill);
+    }
+    void Stops(const CFillWithStops& fill)
+    {
         for (const CColourIntPair& stop : fill.GetColourIntPairs())
-            p.stops.push_back({static_cast<double>(stop.GetValue()), ToRgba(stop.GetColour()), stop.GetSpline().GetC1(),
-                               stop.GetSpline().GetC2()});
+            paint->stops.push_back({static_cast<double>(stop.GetValue()), ToRgba(stop.GetColour()),
+                                    stop.GetSpline().GetC1(), stop.GetSpline().GetC2()});
     }
     void Corners(Paint::Kind kind, const CFillGradient& fill)
     {

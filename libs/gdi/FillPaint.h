@@ -15,8 +15,9 @@ class FillPaint {
 public:
     FillPaint() = delete;
 
-    // The paint of fill. None answers a clear solid paint. The kinds the renderer does not
-    // paint yet (plasma, bitmap, vector, discrete mesh) answer nothing.
+    // The paint of fill. None answers a clear solid paint, a bitmap fill without a bitmap a
+    // clear bitmap paint. The kinds the renderer does not paint yet (vector, discrete mesh)
+    // answer nothing.
     static std::optional<KestoRaster::Paint> From(const CFill& fill);
 };
 

@@ -45,15 +45,41 @@ struct RampStop {
 //                corner's colour exactly; outside the parallelogram the nearest edge's colours
 //   FourColour   points P0, P1, P2, P3 (P3 opposite P0), colours c0..c3: bilinear over the
 //                quadrilateral P0, P1, P3, P2 through its inverse map; each corner exact
+//   Plasma       points P0, P1, P2 place one tile (P0 its origin, P1 the end of its x side, P2
+//                of its y side); the tile is a seeded fractal intensity 0..1 (see PlasmaTile),
+//                sampled bilinearly, coloured through the stops (intensity 1 = position 10000),
+//                tiled mirrored when asked (seamless) and repeated otherwise
+//   Bitmap       points P0, P1, P2 place the image as one tile, repeated (mirrored when asked),
+//                sampled bilinearly on premultiplied values (nearest when asked); when recolour
+//                is set each texel's intensity is coloured through the stops and keeps its alpha
 //
 // A degenerate geometry (zero-length axis, collinear corners) paints the last colour.
 struct Paint {
-    enum class Kind { Solid, Linear, Radial, Elliptical, Conical, Square, ThreeColour, FourColour };
+    enum class Kind { Solid, Linear, Radial, Elliptical, Conical, Square, ThreeColour, FourColour, Plasma, Bitmap };
+
+    // The plasma's pattern: the same values always give the same tile.
+    struct Plasma {
+        std::uint32_t seed = 1;
+        int grain = 50;        // 0 smooth .. 100 grainy
+        int resolution = 256;  // samples along each side of the tile
+        friend bool operator==(const Plasma&, const Plasma&) = default;
+    };
+    // A bitmap's pixels: 0xAARRGGBB words with straight alpha, rows top to bottom.
+    struct Image {
+        int width = 0;
+        int height = 0;
+        std::vector<std::uint32_t> argb;
+    };
 
     Kind kind = Kind::Solid;
     std::vector<Point> points;
     std::vector<RampStop> stops;   // ramp kinds; sorted by position
     std::vector<Rgba> colours;     // solid and corner kinds
+    Plasma plasma;
+    std::shared_ptr<const Image> image;
+    bool mirroredTiles = false;  // plasma, bitmap
+    bool nearest = false;        // bitmap
+    bool recolour = false;       // bitmap
     // A transparency paints levels: its colours' red channel is the level 0 (opaque) .. 255
     // (clear), and as a mask it paints 255 - level.
     bool transparency = false;

@@ -24,6 +24,12 @@ Affine Affine::Inverse() const
 
 namespace {
 
+std::uint32_t Shade(const Paint& paint, Output output, Rgba c)
+{
+    return output == Output::Argb32 ? ToArgb(paint, c) : ToMask(paint, c);
+}
+
+// The kinds whose colour is the ramp at a parameter: they render through the table.
 bool IsRampKind(Paint::Kind kind)
 {
     switch (kind) {
@@ -31,14 +37,31 @@ bool IsRampKind(Paint::Kind kind)
     case Paint::Kind::Radial:
     case Paint::Kind::Elliptical:
     case Paint::Kind::Conical:
-    case Paint::Kind::Square: return true;
+    case Paint::Kind::Square:
+    case Paint::Kind::Plasma: return true;
     default: return false;
     }
 }
 
-std::uint32_t Shade(const Paint& paint, Output output, Rgba c)
+// The ramp parameter of a paint-space point for a ramp kind.
+double Parameter(const Paint& paint, const Geometry& g, const std::vector<float>& plasmaTile, Point p)
 {
-    return output == Output::Argb32 ? ToArgb(paint, c) : ToMask(paint, c);
+    if (paint.kind == Paint::Kind::Plasma)
+        return PlasmaValue(plasmaTile, paint.plasma.resolution, TileCoordinates(g, p, paint.mirroredTiles),
+                           paint.mirroredTiles);
+    return RampParameter(g, p);
+}
+
+// Any kind's output at a paint-space point, by the definition.
+std::uint32_t Direct(const Paint& paint, const Geometry& g, const std::vector<float>& plasmaTile, Output out, Point p)
+{
+    switch (paint.kind) {
+    case Paint::Kind::Solid: return Shade(paint, out, paint.colours.empty() ? Rgba{} : paint.colours.front());
+    case Paint::Kind::ThreeColour:
+    case Paint::Kind::FourColour: return Shade(paint, out, CornerColour(paint, CornerCoordinates(g, p)));
+    case Paint::Kind::Bitmap: return BitmapSample(paint, TileCoordinates(g, p, paint.mirroredTiles), out);
+    default: return Shade(paint, out, RampColour(paint, Parameter(paint, g, plasmaTile, p) * 10000));
+    }
 }
 
 // The clip cut to the target.
@@ -74,9 +97,17 @@ PreparedPaint::PreparedPaint(const Paint& paint, const Affine& paintToDevice, Ou
       m_geometry(Solve(paint))
 {
     if (previous && previous->m_output == output && previous->m_paint->stops == paint.stops &&
-        previous->m_paint->transparency == paint.transparency && previous->IsRamp() == IsRamp()) {
+        previous->m_paint->transparency == paint.transparency && previous->IsRamp() == IsRamp() &&
+        previous->m_paint->kind == paint.kind && previous->m_paint->plasma == paint.plasma) {
         m_table = previous->m_table;
+        m_plasmaTile = previous->m_plasmaTile;
         return;
+    }
+    if (paint.kind == Paint::Kind::Plasma) {
+        const bool same = previous && previous->m_paint->kind == Paint::Kind::Plasma &&
+                          previous->m_paint->plasma == paint.plasma;
+        m_plasmaTile = same ? previous->m_plasmaTile
+                            : std::make_shared<const std::vector<float>>(Shading::PlasmaTile(paint.plasma));
     }
     auto table = std::make_shared<std::vector<std::uint32_t>>();
     if (IsRamp()) {
@@ -85,6 +116,12 @@ PreparedPaint::PreparedPaint(const Paint& paint, const Affine& paintToDevice, Ou
             (*table)[i] = Shade(paint, output, RampColour(paint, i * 10000.0 / (TableSize - 1)));
     }
     m_table = std::move(table);
+}
+
+const std::vector<float>& PreparedPaint::PlasmaTile() const
+{
+    static const std::vector<float> none;
+    return m_plasmaTile ? *m_plasmaTile : none;
 }
 
 bool PreparedPaint::IsRamp() const
@@ -97,35 +134,23 @@ void Render(const PreparedPaint& prepared, const Target& target, const Clip& cli
     const Paint& paint = prepared.GetPaint();
     const Geometry& g = prepared.GetGeometry();
     const Output out = target.format;
+    const std::vector<float>& tile = prepared.PlasmaTile();
     if (prepared.IsRamp() && out == prepared.GetOutput()) {
         const auto& table = prepared.Table();
         ForEachPixel(target, clip, prepared.DeviceToPaint(), [&](Point p) {
-            return table[static_cast<std::size_t>(RampParameter(g, p) * (PreparedPaint::TableSize - 1) + 0.5)];
+            return table[static_cast<std::size_t>(Parameter(paint, g, tile, p) * (PreparedPaint::TableSize - 1) + 0.5)];
         });
         return;
     }
-    ForEachPixel(target, clip, prepared.DeviceToPaint(), [&](Point p) {
-        if (paint.kind == Paint::Kind::Solid)
-            return Shade(paint, out, paint.colours.empty() ? Rgba{} : paint.colours.front());
-        if (IsRampKind(paint.kind))
-            return Shade(paint, out, RampColour(paint, RampParameter(g, p) * 10000));
-        return Shade(paint, out, CornerColour(paint, CornerCoordinates(g, p)));
-    });
+    ForEachPixel(target, clip, prepared.DeviceToPaint(), [&](Point p) { return Direct(paint, g, tile, out, p); });
 }
 
 void RenderReference(const Paint& paint, const Affine& paintToDevice, const Target& target, const Clip& clip)
 {
     const Geometry g = Solve(paint);
-    ForEachPixel(target, clip, paintToDevice.Inverse(), [&](Point p) {
-        Rgba c;
-        if (paint.kind == Paint::Kind::Solid)
-            c = paint.colours.empty() ? Rgba{} : paint.colours.front();
-        else if (IsRampKind(paint.kind))
-            c = RampColour(paint, RampParameter(g, p) * 10000);
-        else
-            c = CornerColour(paint, CornerCoordinates(g, p));
-        return Shade(paint, target.format, c);
-    });
+    const std::vector<float> tile = paint.kind == Paint::Kind::Plasma ? Shading::PlasmaTile(paint.plasma) : std::vector<float>();
+    ForEachPixel(target, clip, paintToDevice.Inverse(),
+                 [&](Point p) { return Direct(paint, g, tile, target.format, p); });
 }
 
 } // namespace KestoRaster

@@ -30,6 +30,8 @@ public:
     // The table's words (ARGB output) or bytes (mask output); empty for non-ramp kinds.
     const std::vector<std::uint32_t>& Table() const { return *m_table; }
     bool SharesTableWith(const PreparedPaint& other) const { return m_table == other.m_table; }
+    // The plasma kind's tile; empty for other kinds.
+    const std::vector<float>& PlasmaTile() const;
 
 private:
     std::shared_ptr<const Paint> m_paint;
@@ -37,6 +39,7 @@ private:
     Affine m_deviceToPaint;
     Shading::Geometry m_geometry;
     std::shared_ptr<const std::vector<std::uint32_t>> m_table;
+    std::shared_ptr<const std::vector<float>> m_plasmaTile;
 };
 
 // Paints every pixel of the clip (inside the target) with the prepared paint, sampling pixel

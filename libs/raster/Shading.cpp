@@ -78,7 +78,9 @@ Geometry Solve(const Paint& paint)
     }
     case Paint::Kind::Elliptical:
     case Paint::Kind::Square:
-    case Paint::Kind::ThreeColour: {
+    case Paint::Kind::ThreeColour:
+    case Paint::Kind::Plasma:
+    case Paint::Kind::Bitmap: {
         if (!need(3))
             break;
         g.origin = p[0];
@@ -132,6 +134,157 @@ double RampParameter(const Geometry& g, Point p)
     default: break;
     }
     return std::isfinite(t) ? std::clamp(t, 0.0, 1.0) : 1.0;
+}
+
+namespace {
+
+// Into [0, 1): repeated, or mirrored with period two so that neighbouring tiles meet seamlessly.
+double Wrap(double u, bool mirrored)
+{
+    if (!std::isfinite(u))
+        return 0;
+    if (!mirrored)
+        return u - std::floor(u);
+    const double m = u - 2 * std::floor(u / 2);
+    return m < 1 ? m : std::nextafter(2 - m, 0.0);
+}
+
+// The index of sample i of n along a tiled axis.
+int TileIndex(long long i, int n, bool mirrored)
+{
+    if (!mirrored)
+        return static_cast<int>(((i % n) + n) % n);
+    const long long period = 2LL * n;
+    const long long m = ((i % period) + period) % period;
+    return static_cast<int>(m < n ? m : period - 1 - m);
+}
+
+std::uint64_t SplitMix(std::uint64_t& state)
+{
+    std::uint64_t z = (state += 0x9E3779B97F4A7C15ull);
+    z = (z ^ (z >> 30)) * 0xBF58476D1CE4E5B9ull;
+    z = (z ^ (z >> 27)) * 0x94D049BB133111EBull;
+    return z ^ (z >> 31);
+}
+
+} // namespace
+
+Point TileCoordinates(const Geometry& g, Point p, bool mirrored)
+{
+    if (g.degenerate)
+        return {0, 0};
+    const double dx = p.x - g.origin.x;
+    const double dy = p.y - g.origin.y;
+    return {Wrap(dx * g.iux + dy * g.iuy, mirrored), Wrap(dx * g.ivx + dy * g.ivy, mirrored)};
+}
+
+std::vector<float> PlasmaTile(const Paint::Plasma& plasma)
+{
+    const int n = std::clamp(plasma.resolution, 2, 1024);
+    const double persistence = 0.35 + 0.5 * std::clamp(plasma.grain, 0, 100) / 100.0;
+    std::vector<double> sum(static_cast<std::size_t>(n) * n, 0.0);
+    std::uint64_t state = plasma.seed;
+    double weight = 1;
+    for (int lattice = 2; lattice <= n; lattice *= 2, weight *= persistence) {
+        std::vector<double> knots(static_cast<std::size_t>(lattice) * lattice);
+        for (double& k : knots)
+            k = static_cast<double>(SplitMix(state) >> 11) / static_cast<double>(1ull << 53);
+        const auto knot = [&](int i, int j) {
+            return knots[static_cast<std::size_t>((j % lattice) * lattice + (i % lattice))];
+        };
+        for (int y = 0; y < n; ++y) {
+            const double fy = (y + 0.5) * lattice / n;
+            const int j = static_cast<int>(fy);
+            const double sy = (fy - j) * (fy - j) * (3 - 2 * (fy - j));
+            for (int x = 0; x < n; ++x) {
+                const double fx = (x + 0.5) * lattice / n;
+                const int i = static_cast<int>(fx);
+                const double sx = (fx - i) * (fx - i) * (3 - 2 * (fx - i));
+                const double top = knot(i, j) + (knot(i + 1, j) - knot(i, j)) * sx;
+                const double bottom = knot(i, j + 1) + (knot(i + 1, j + 1) - knot(i, j + 1)) * sx;
+                sum[static_cast<std::size_t>(y) * n + x] += weight * (top + (bottom - top) * sy);
+            }
+        }
+    }
+    const auto [lo, hi] = std::minmax_element(sum.begin(), sum.end());
+    const double span = *hi - *lo;
+    std::vector<float> tile(sum.size());
+    for (std::size_t i = 0; i < sum.size(); ++i)
+        tile[i] = span > 0 ? static_cast<float>((sum[i] - *lo) / span) : 0.5f;
+    return tile;
+}
+
+double PlasmaValue(const std::vector<float>& tile, int resolution, Point uv, bool mirrored)
+{
+    const int n = std::clamp(resolution, 2, 1024);
+    const double fx = uv.x * n - 0.5;
+    const double fy = uv.y * n - 0.5;
+    const double floorX = std::floor(fx);
+    const double floorY = std::floor(fy);
+    const auto x0 = static_cast<long long>(floorX);
+    const auto y0 = static_cast<long long>(floorY);
+    const double sx = fx - floorX;
+    const double sy = fy - floorY;
+    const auto at = [&](long long x, long long y) {
+        return static_cast<double>(tile[static_cast<std::size_t>(TileIndex(y, n, mirrored)) * n + TileIndex(x, n, mirrored)]);
+    };
+    const double top = at(x0, y0) + (at(x0 + 1, y0) - at(x0, y0)) * sx;
+    const double bottom = at(x0, y0 + 1) + (at(x0 + 1, y0 + 1) - at(x0, y0 + 1)) * sx;
+    return std::clamp(top + (bottom - top) * sy, 0.0, 1.0);
+}
+
+std::uint32_t BitmapSample(const Paint& paint, Point uv, Output output)
+{
+    const Paint::Image* image = paint.image.get();
+    if (!image || image->width <= 0 || image->height <= 0 ||
+        image->argb.size() < static_cast<std::size_t>(image->width) * static_cast<std::size_t>(image->height))
+        return 0;
+    const int w = image->width;
+    const int h = image->height;
+    // One texel as output channels (a, r, g, b premultiplied, or the mask value in all four).
+    const auto texel = [&](long long x, long long y) {
+        const std::uint32_t p = image->argb[static_cast<std::size_t>(TileIndex(y, h, paint.mirroredTiles)) * w +
+                                            TileIndex(x, w, paint.mirroredTiles)];
+        Rgba c{static_cast<std::uint8_t>(p >> 16), static_cast<std::uint8_t>(p >> 8), static_cast<std::uint8_t>(p),
+               static_cast<std::uint8_t>(p >> 24)};
+        if (paint.recolour && !paint.stops.empty()) {
+            const int intensity = (299 * c.r + 587 * c.g + 114 * c.b + 500) / 1000;
+            const Rgba ramp = RampColour(paint, intensity * 10000.0 / 255);
+            c = {ramp.r, ramp.g, ramp.b, static_cast<std::uint8_t>((ramp.a * c.a + 127) / 255)};
+        }
+        std::array<double, 4> v{};
+        if (output == Output::Mask8) {
+            v.fill(paint.transparency ? 255.0 - c.r : c.a);
+        } else {
+            const std::uint32_t word = ToArgb(paint, c);
+            for (int k = 0; k < 4; ++k)
+                v[k] = (word >> (24 - 8 * k)) & 0xFF;
+        }
+        return v;
+    };
+    std::array<double, 4> out{};
+    if (paint.nearest) {
+        out = texel(static_cast<long long>(std::floor(uv.x * w)), static_cast<long long>(std::floor(uv.y * h)));
+    } else {
+        const double fx = uv.x * w - 0.5;
+        const double fy = uv.y * h - 0.5;
+        const double floorX = std::floor(fx);
+        const double floorY = std::floor(fy);
+        const auto x0 = static_cast<long long>(floorX);
+        const auto y0 = static_cast<long long>(floorY);
+        const double sx = fx - floorX;
+        const double sy = fy - floorY;
+        const auto a = texel(x0, y0), b = texel(x0 + 1, y0), c = texel(x0, y0 + 1), d = texel(x0 + 1, y0 + 1);
+        for (int k = 0; k < 4; ++k) {
+            const double top = a[k] + (b[k] - a[k]) * sx;
+            const double bottom = c[k] + (d[k] - c[k]) * sx;
+            out[k] = top + (bottom - top) * sy;
+        }
+    }
+    if (output == Output::Mask8)
+        return Channel(out[0]);
+    return (std::uint32_t{Channel(out[0])} << 24) | (std::uint32_t{Channel(out[1])} << 16) |
+           (std::uint32_t{Channel(out[2])} << 8) | Channel(out[3]);
 }
 
 Point CornerCoordinates(const Geometry& g, Point p)

@@ -5,6 +5,7 @@
 #include "raster/Paint.h"
 
 #include <array>
+#include <vector>
 
 namespace KestoRaster::Shading {
 
@@ -26,6 +27,17 @@ Geometry Solve(const Paint& paint);
 
 // The ramp parameter 0..1 of a paint-space point (ramp kinds).
 double RampParameter(const Geometry& g, Point p);
+// The tile coordinates of a paint-space point (plasma, bitmap), brought into one tile: [0, 1).
+Point TileCoordinates(const Geometry& g, Point p, bool mirrored);
+
+// The plasma's tile: resolution x resolution intensities 0..1, row by row. Periodic octaves of
+// seeded value noise (the seed drives a splitmix64 stream), each octave's weight the previous
+// one's times 0.35 + 0.5 x grain / 100, stretched to span 0..1.
+std::vector<float> PlasmaTile(const Paint::Plasma& plasma);
+// The tile's intensity at tile coordinates, bilinear between sample centres.
+double PlasmaValue(const std::vector<float>& tile, int resolution, Point uv, bool mirrored);
+// A bitmap paint's output at tile coordinates (see Paint), for either output.
+std::uint32_t BitmapSample(const Paint& paint, Point uv, Output output);
 // The corner kinds' coordinates (u, v) in 0..1 of a paint-space point.
 Point CornerCoordinates(const Geometry& g, Point p);
 

@@ -1,3 +1,4 @@
+#include "gdi/CFillDiscreteMesh.h"
 #include "gdi/CFillFractal.h"
 #include "gdi/CFillLinear.h"
 #include "gdi/CFillThreeColour.h"
@@ -49,5 +50,14 @@ TEST(FillPaint, TransparenciesPaintTheirLevelsAndCornerKindsTheirCorners)
     EXPECT_EQ(corners->colours.size(), 3u);
     EXPECT_TRUE(corners->stops.empty());
 
-    EXPECT_FALSE(FillPaint::From(CFillFractal())) << "not painted yet";
+    CFillFractal plasma;
+    plasma.SetSeed(42);
+    plasma.SetTileInverted(false);
+    const auto fractal = FillPaint::From(plasma);
+    ASSERT_TRUE(fractal);
+    EXPECT_EQ(fractal->kind, Paint::Kind::Plasma);
+    EXPECT_EQ(fractal->plasma.seed, 42u);
+    EXPECT_FALSE(fractal->mirroredTiles);
+
+    EXPECT_FALSE(FillPaint::From(CFillDiscreteMesh())) << "not painted yet";
 }

@@ -24,22 +24,55 @@ struct Named {
     Paint paint;
 };
 
+Paint Make(Paint::Kind kind, std::vector<Point> points, std::vector<RampStop> stops, std::vector<Rgba> colours,
+           bool transparency = false)
+{
+    Paint p;
+    p.kind = kind;
+    p.points = std::move(points);
+    p.stops = std::move(stops);
+    p.colours = std::move(colours);
+    p.transparency = transparency;
+    return p;
+}
+
 std::vector<Named> Paints()
 {
     const std::vector<RampStop> ramp = {{0, C(255, 0, 0)}, {4000, C(0, 200, 50, 128)}, {10000, C(20, 40, 250)}};
     const std::vector<RampStop> levels = {{0, C(0, 0, 0)}, {10000, C(255, 255, 255)}};
+    using K = Paint::Kind;
     std::vector<Named> all = {
-        {"solid", {Paint::Kind::Solid, {}, {}, {C(10, 200, 30, 200)}}},
-        {"linear", {Paint::Kind::Linear, {{8, 8}, {50, 30}}, ramp, {}}},
-        {"radial", {Paint::Kind::Radial, {{30, 20}, {50, 20}}, ramp, {}}},
-        {"elliptical", {Paint::Kind::Elliptical, {{30, 20}, {55, 25}, {28, 5}}, ramp, {}}},
-        {"conical", {Paint::Kind::Conical, {{32, 24}, {50, 24}}, ramp, {}}},
-        {"square", {Paint::Kind::Square, {{30, 24}, {45, 30}, {25, 10}}, ramp, {}}},
-        {"three colour", {Paint::Kind::ThreeColour, {{5, 5}, {55, 8}, {10, 40}}, {}, {C(255, 0, 0), C(0, 255, 0), C(0, 0, 255, 100)}}},
-        {"four colour",
-         {Paint::Kind::FourColour, {{4, 4}, {60, 10}, {8, 44}, {50, 40}}, {}, {C(255, 0, 0), C(0, 255, 0), C(0, 0, 255), C(255, 255, 0, 60)}}},
-        {"linear transparency", {Paint::Kind::Linear, {{0, 0}, {64, 0}}, levels, {}, true}},
+        {"solid", Make(K::Solid, {}, {}, {C(10, 200, 30, 200)})},
+        {"linear", Make(K::Linear, {{8, 8}, {50, 30}}, ramp, {})},
+        {"radial", Make(K::Radial, {{30, 20}, {50, 20}}, ramp, {})},
+        {"elliptical", Make(K::Elliptical, {{30, 20}, {55, 25}, {28, 5}}, ramp, {})},
+        {"conical", Make(K::Conical, {{32, 24}, {50, 24}}, ramp, {})},
+        {"square", Make(K::Square, {{30, 24}, {45, 30}, {25, 10}}, ramp, {})},
+        {"three colour", Make(K::ThreeColour, {{5, 5}, {55, 8}, {10, 40}}, {}, {C(255, 0, 0), C(0, 255, 0), C(0, 0, 255, 100)})},
+        {"four colour", Make(K::FourColour, {{4, 4}, {60, 10}, {8, 44}, {50, 40}}, {},
+                             {C(255, 0, 0), C(0, 255, 0), C(0, 0, 255), C(255, 255, 0, 60)})},
+        {"linear transparency", Make(K::Linear, {{0, 0}, {64, 0}}, levels, {}, true)},
+        {"plasma", Make(K::Plasma, {{3, 2}, {40, 10}, {0, 30}}, ramp, {})},
     };
+    Paint bitmap = Make(K::Bitmap, {{5, 3}, {25, 8}, {2, 20}}, {}, {});
+    auto image = std::make_shared<Paint::Image>();
+    image->width = 4;
+    image->height = 3;
+    image->argb = {0xFFFF0000, 0x8000FF00, 0xFF0000FF, 0x00000000, 0xFFFFFFFF, 0xFF000000,
+                   0x40FF8000, 0xFF123456, 0xC0C0C0C0, 0xFF00FFFF, 0xFFFF00FF, 0xFF808080};
+    bitmap.image = image;
+    all.push_back({"bitmap", bitmap});
+    bitmap.nearest = true;
+    bitmap.mirroredTiles = true;
+    all.push_back({"bitmap, nearest, mirrored", bitmap});
+    bitmap.nearest = false;
+    bitmap.recolour = true;
+    bitmap.stops = ramp;
+    all.push_back({"bitmap recoloured", bitmap});
+    Paint plasma = all[9].paint;
+    plasma.mirroredTiles = true;
+    plasma.plasma = {77, 90, 16};
+    all.push_back({"plasma, mirrored, grainy", plasma});
     return all;
 }
 
@@ -150,6 +183,20 @@ TEST(Render, GeometryLandsWhereTheKindsSay)
     half.stops = {{0, C(0, 0, 0)}, {5000, C(200, 100, 0)}, {5000, C(0, 0, 0)}, {10000, C(0, 0, 0)}};
     EXPECT_EQ(pixel(half, 32, 0), 0xFF000000u);
     EXPECT_EQ(pixel(half, 32.01, 10), 0xFFC86400u) << "just short of the right angle";
+}
+
+TEST(Render, ThePlasmaIsAPureFunctionOfItsSeedAndTilesSeamlessly)
+{
+    const Paint::Plasma a{7, 60, 32};
+    EXPECT_EQ(Shading::PlasmaTile(a), Shading::PlasmaTile(a));
+    EXPECT_NE(Shading::PlasmaTile(a), Shading::PlasmaTile({8, 60, 32}));
+    const auto tile = Shading::PlasmaTile(a);
+    EXPECT_EQ(*std::min_element(tile.begin(), tile.end()), 0.0f);
+    EXPECT_EQ(*std::max_element(tile.begin(), tile.end()), 1.0f);
+    // Repeated tiles meet without a seam: the value hardly moves across the edge.
+    const double edge = std::abs(Shading::PlasmaValue(tile, 32, {0.9999, 0.5}, false) -
+                                 Shading::PlasmaValue(tile, 32, {0.0001, 0.5}, false));
+    EXPECT_LT(edge, 0.01);
 }
 
 TEST(Render, APaintPreparedAgainWithTheSameColoursSharesItsTable)
