@@ -1,5 +1,7 @@
 #include "raster/PreparedPaint.h"
 
+#include "raster/Kernels_p.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -89,6 +91,54 @@ void ForEachPixel(const Target& target, const Clip& clip, const Affine& toPaint,
     }
 }
 
+// The ramp kinds' rows through the active instruction set's kernel.
+void RenderRampRows(const PreparedPaint& prepared, const Target& target, const Clip& clip)
+{
+    const Geometry& g = prepared.GetGeometry();
+    const Affine& toPaint = prepared.DeviceToPaint();
+    const Clip c = Within(target, clip);
+    if (c.x1 <= c.x0)
+        return;
+    Kernels::RampRow row{};
+    row.table = prepared.Table().data();
+    row.mask = target.format == Output::Mask8;
+    row.count = c.x1 - c.x0;
+    // Measured in the kind's own axes: u along the first, v along the second.
+    double ux = g.iux, uy = g.iuy, vx = g.ivx, vy = g.ivy;
+    switch (g.kind) {
+    case Paint::Kind::Linear: row.shape = Kernels::RampShape::Linear; break;
+    case Paint::Kind::Square: row.shape = Kernels::RampShape::Square; break;
+    case Paint::Kind::Conical: {
+        // The point turned so that C->R lies along +u, v measured anticlockwise on screen.
+        row.shape = Kernels::RampShape::Conical;
+        const double cz = std::cos(g.zeroAngle), sz = std::sin(g.zeroAngle);
+        ux = cz, uy = -sz, vx = -sz, vy = -cz;
+        break;
+    }
+    default: row.shape = Kernels::RampShape::Round; break;
+    }
+    if (g.degenerate) {
+        // Every pixel shows the ramp's end.
+        row.shape = Kernels::RampShape::Linear;
+        ux = uy = vx = vy = 0;
+        row.u0 = 1;
+    }
+    const Kernels::RampRowFunction kernel = Kernels::Active().ramp;
+    const int bytesPerPixel = row.mask ? 1 : 4;
+    for (int y = c.y0; y < c.y1; ++y) {
+        const Point p = toPaint.Apply({c.x0 + 0.5, y + 0.5});
+        const double px = p.x - g.origin.x, py = p.y - g.origin.y;
+        if (!g.degenerate) {
+            row.u0 = px * ux + py * uy;
+            row.v0 = px * vx + py * vy;
+            row.du = toPaint.a * ux + toPaint.b * uy;
+            row.dv = toPaint.a * vx + toPaint.b * vy;
+        }
+        row.out = static_cast<unsigned char*>(target.pixels) + y * target.stride + c.x0 * bytesPerPixel;
+        kernel(row);
+    }
+}
+
 } // namespace
 
 PreparedPaint::PreparedPaint(const Paint& paint, const Affine& paintToDevice, Output output,
@@ -135,6 +185,10 @@ void Render(const PreparedPaint& prepared, const Target& target, const Clip& cli
     const Geometry& g = prepared.GetGeometry();
     const Output out = target.format;
     const std::vector<float>& tile = prepared.PlasmaTile();
+    if (prepared.IsRamp() && out == prepared.GetOutput() && paint.kind != Paint::Kind::Plasma) {
+        RenderRampRows(prepared, target, clip);
+        return;
+    }
     if (prepared.IsRamp() && out == prepared.GetOutput()) {
         const auto& table = prepared.Table();
         ForEachPixel(target, clip, prepared.DeviceToPaint(), [&](Point p) {

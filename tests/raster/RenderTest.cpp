@@ -1,3 +1,4 @@
+#include "raster/Isa.h"
 #include "raster/PreparedPaint.h"
 
 #include <gtest/gtest.h>
@@ -110,26 +111,38 @@ const Clip kAll{0, 0, W, H};
 
 } // namespace
 
-TEST(Render, EveryKindMatchesTheReferenceWithinItsTableStepInBothOutputs)
+// The largest channel distance between Render and the reference, and what it may be.
+std::pair<int, int> AgainstReference(const Paint& paint, const Affine& placement, Output out)
 {
-    Affine rotated{0.9, 0.3, -0.25, 1.1, 3, -2};
-    for (const auto& [name, paint] : Paints()) {
-        for (const Output out : {Output::Argb32, Output::Mask8}) {
-            for (const Affine& placement : {Affine{}, rotated}) {
-                SCOPED_TRACE(std::string(name) + (out == Output::Argb32 ? " argb" : " mask"));
-                const PreparedPaint prepared(paint, placement, out);
-                Image fast(out), reference(out);
-                Render(prepared, fast.Of(), kAll);
-                RenderReference(paint, placement, reference.Of(), kAll);
-                const int tolerance = prepared.IsRamp() ? TableStep(prepared) + 1 : 0;
-                int worst = 0;
-                for (int y = 0; y < H; ++y)
-                    for (int x = 0; x < W; ++x)
-                        worst = std::max(worst, ChannelDistance(fast.At(x, y), reference.At(x, y)));
-                EXPECT_LE(worst, tolerance);
+    const PreparedPaint prepared(paint, placement, out);
+    Image fast(out), reference(out);
+    Render(prepared, fast.Of(), kAll);
+    RenderReference(paint, placement, reference.Of(), kAll);
+    int worst = 0;
+    for (int y = 0; y < H; ++y)
+        for (int x = 0; x < W; ++x)
+            worst = std::max(worst, ChannelDistance(fast.At(x, y), reference.At(x, y)));
+    return {worst, prepared.IsRamp() ? TableStep(prepared) + 1 : 0};
+}
+
+TEST(Render, EveryKindMatchesTheReferenceWithinItsTableStepInBothOutputsOnEveryIsa)
+{
+    const Affine rotated{0.9, 0.3, -0.25, 1.1, 3, -2};
+    const Isa active = ActiveIsa();
+    for (const Isa isa : {Isa::Scalar, Isa::Avx2, Isa::Avx512}) {
+        if (!IsaAvailable(isa))
+            continue;
+        SetActiveIsa(isa);
+        for (const auto& [name, paint] : Paints()) {
+            for (const Output out : {Output::Argb32, Output::Mask8}) {
+                for (const Affine& placement : {Affine{}, rotated}) {
+                    const auto [worst, tolerance] = AgainstReference(paint, placement, out);
+                    EXPECT_LE(worst, tolerance) << name << (out == Output::Argb32 ? " argb " : " mask ") << IsaName(isa);
+                }
             }
         }
     }
+    SetActiveIsa(active);
 }
 
 TEST(Render, AClipPaintsOnlyItsPixelsAndASubRectangleEqualsTheFullRender)

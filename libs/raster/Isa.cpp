@@ -1,0 +1,85 @@
+#include "raster/Isa.h"
+
+#include "raster/Kernels_p.h"
+
+#include <cstdlib>
+#include <cstring>
+#include <initializer_list>
+
+namespace KestoRaster {
+
+namespace {
+
+Isa Best()
+{
+    if (__builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512bw") &&
+        __builtin_cpu_supports("avx512vl") && __builtin_cpu_supports("avx512dq"))
+        return Isa::Avx512;
+    if (__builtin_cpu_supports("avx2") && __builtin_cpu_supports("fma"))
+        return Isa::Avx2;
+    return Isa::Scalar;
+}
+
+Isa Chosen()
+{
+    const Isa best = Best();
+    const char* asked = std::getenv("KESTO_RASTER_ISA");
+    if (!asked)
+        return best;
+    for (const Isa isa : {Isa::Scalar, Isa::Avx2, Isa::Avx512}) {
+        if (std::strcmp(asked, IsaName(isa)) == 0 && IsaAvailable(isa))
+            return isa;
+    }
+    return best;
+}
+
+Isa& Active()
+{
+    static Isa active = Chosen();
+    return active;
+}
+
+} // namespace
+
+bool IsaAvailable(Isa isa)
+{
+    return static_cast<int>(isa) <= static_cast<int>(Best());
+}
+
+Isa ActiveIsa()
+{
+    return Active();
+}
+
+Isa SetActiveIsa(Isa isa)
+{
+    if (IsaAvailable(isa))
+        Active() = isa;
+    return Active();
+}
+
+const char* IsaName(Isa isa)
+{
+    switch (isa) {
+    case Isa::Avx2: return "avx2";
+    case Isa::Avx512: return "avx512";
+    case Isa::Scalar: break;
+    }
+    return "scalar";
+}
+
+namespace Kernels {
+
+const KernelSet& Active()
+{
+    switch (ActiveIsa()) {
+    case Isa::Avx512: return Avx512();
+    case Isa::Avx2: return Avx2();
+    case Isa::Scalar: break;
+    }
+    return Scalar();
+}
+
+} // namespace Kernels
+
+} // namespace KestoRaster

@@ -1,0 +1,16 @@
+#pragma once
+
+namespace KestoRaster {
+
+// The instruction sets the renderer has kernels for. The best one the processor supports is
+// chosen once, unless KESTO_RASTER_ISA=scalar|avx2|avx512 asks for another (tests and
+// benchmarks run every path the machine has).
+enum class Isa { Scalar, Avx2, Avx512 };
+
+bool IsaAvailable(Isa isa);
+Isa ActiveIsa();
+// Makes isa the active one when the processor supports it; answers the one that is active.
+Isa SetActiveIsa(Isa isa);
+const char* IsaName(Isa isa);
+
+} // namespace KestoRaster

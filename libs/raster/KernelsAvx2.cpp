@@ -1,0 +1,13 @@
+// The row kernels built for this translation unit's instruction set (see Kernels_p.h).
+#include "raster/Kernels_p.h"
+
+#include "raster/KernelsImpl.inc"
+
+namespace KestoRaster::Kernels {
+
+const KernelSet& Avx2()
+{
+    return kSet;
+}
+
+} // namespace KestoRaster::Kernels
