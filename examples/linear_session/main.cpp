@@ -7,17 +7,24 @@
 #include "filltool/FillCommands.h"
 #include "filltool/FillToolFactory.h"
 #include "gdi/CFillLinear.h"
+#include "gdi/FillPaint.h"
+#include "gdi/PngFile.h"
 #include "gdi/CRGBColour.h"
 #include "platform/CCmdTarget.h"
+#include "raster/Composite.h"
+#include "raster/PreparedPaint.h"
 #include "platform/WindowTypes.h"
 #include "tool/Module.h"
 #include "tool/ToolIdMap.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <fstream>
 #include <iostream>
 #include <memory>
 #include <string>
+#include <vector>
 
 using namespace KestoTool;
 using Platform::CPoint;
@@ -110,6 +117,51 @@ std::string Picture(const DemoHost& host, const FillTool& tool)
     return svg;
 }
 
+// The same picture as pixels: the object's fill painted by the renderer over a checkerboard,
+// the control line and a box per handle in its stop's colour.
+bool WritePng(const std::string& path, const DemoHost& host, const FillTool& tool)
+{
+    constexpr int margin = 90;
+    const CRect r = host.Object();
+    const int width = r.Width() + 2 * margin;
+    const int height = r.Height() + 2 * margin;
+    std::vector<std::uint32_t> pixels(static_cast<std::size_t>(width) * height, 0xFFFFFFFF);
+    const auto put = [&](int x, int y, std::uint32_t argb) {
+        if (x >= 0 && y >= 0 && x < width && y < height)
+            pixels[static_cast<std::size_t>(y) * width + x] = argb;
+    };
+    const KestoRaster::Clip object{r.left + margin, r.top + margin, r.right + margin, r.bottom + margin};
+    for (int y = object.y0; y < object.y1; ++y)
+        for (int x = object.x0; x < object.x1; ++x)
+            put(x, y, ((x / 10 + y / 10) % 2) ? 0xFFD0D0D0 : 0xFFFFFFFF);
+    const KestoRaster::Target canvas{pixels.data(), width, height, width * 4, KestoRaster::Output::Argb32};
+    if (const auto paint = KestoGDI::FillPaint::From(*host.fill)) {
+        std::vector<std::uint32_t> layer(pixels.size(), 0);
+        const KestoRaster::Target fillLayer{layer.data(), width, height, width * 4, KestoRaster::Output::Argb32};
+        const KestoRaster::Affine place{1, 0, 0, 1, margin, margin};
+        KestoRaster::Render(KestoRaster::PreparedPaint(*paint, place, KestoRaster::Output::Argb32), fillLayer, object);
+        KestoRaster::CompositeOver(canvas, fillLayer, nullptr, object);
+    }
+    K2DArrayPoint handles;
+    tool.GetHandles(&handles);
+    if (handles.GetSize() >= 2) {
+        const CPoint a = handles.GetAt(0), b = handles.GetAt(handles.GetSize() - 1);
+        const int steps = std::max(std::abs(b.x - a.x), std::abs(b.y - a.y)) + 1;
+        for (int i = 0; i <= steps; ++i)
+            put(margin + a.x + (b.x - a.x) * i / steps, margin + a.y + (b.y - a.y) * i / steps, 0xFF0078D7);
+    }
+    const auto& stops = dynamic_cast<const KestoGDI::CFillWithStops&>(*tool.GetFill()).GetColourIntPairs();
+    for (int i = 0; i < handles.GetSize(); ++i) {
+        const CPoint h = handles.GetAt(i);
+        const Platform::COLORREF c = stops.GetAt(std::min(i, stops.GetSize() - 1))->GetColour().GetRGB();
+        const std::uint32_t fill = 0xFF000000u | (Platform::GetRValue(c) << 16) | (Platform::GetGValue(c) << 8) | Platform::GetBValue(c);
+        for (int dy = -4; dy <= 4; ++dy)
+            for (int dx = -4; dx <= 4; ++dx)
+                put(margin + h.x + dx, margin + h.y + dy, (std::abs(dx) == 4 || std::abs(dy) == 4) ? 0xFF0078D7 : fill);
+    }
+    return KestoGDI::PngFile::WritePremultiplied(path, pixels.data(), width, height, width * 4);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -175,5 +227,11 @@ int main(int argc, char** argv)
 
     std::ofstream(output) << Picture(host, tool);
     std::cout << "\npicture written to " << output << "\n";
+    const std::string png = output.substr(0, output.rfind('.')) + ".png";
+    if (!WritePng(png, host, tool)) {
+        std::cerr << "cannot write " << png << '\n';
+        return 1;
+    }
+    std::cout << "painted by the renderer: " << png << "\n";
     return 0;
 }
