@@ -159,6 +159,19 @@ int TileIndex(long long i, int n, bool mirrored)
     return static_cast<int>(m < n ? m : period - 1 - m);
 }
 
+// Where a sample falls between sample centres: the cell's first sample and the fractions.
+struct BilinearCell {
+    long long x0, y0;
+    double sx, sy;
+};
+
+BilinearCell CellAt(double fx, double fy)
+{
+    const double floorX = std::floor(fx);
+    const double floorY = std::floor(fy);
+    return {static_cast<long long>(floorX), static_cast<long long>(floorY), fx - floorX, fy - floorY};
+}
+
 std::uint64_t SplitMix(std::uint64_t& state)
 {
     std::uint64_t z = (state += 0x9E3779B97F4A7C15ull);
@@ -217,14 +230,7 @@ std::vector<float> PlasmaTile(const Paint::Plasma& plasma)
 double PlasmaValue(const std::vector<float>& tile, int resolution, Point uv, bool mirrored)
 {
     const int n = std::clamp(resolution, 2, 1024);
-    const double fx = uv.x * n - 0.5;
-    const double fy = uv.y * n - 0.5;
-    const double floorX = std::floor(fx);
-    const double floorY = std::floor(fy);
-    const auto x0 = static_cast<long long>(floorX);
-    const auto y0 = static_cast<long long>(floorY);
-    const double sx = fx - floorX;
-    const double sy = fy - floorY;
+    const auto [x0, y0, sx, sy] = CellAt(uv.x * n - 0.5, uv.y * n - 0.5);
     const auto at = [&](long long x, long long y) {
         return static_cast<double>(tile[static_cast<std::size_t>(TileIndex(y, n, mirrored)) * n + TileIndex(x, n, mirrored)]);
     };
@@ -266,14 +272,7 @@ std::uint32_t BitmapSample(const Paint& paint, Point uv, Output output)
     if (paint.nearest) {
         out = texel(static_cast<long long>(std::floor(uv.x * w)), static_cast<long long>(std::floor(uv.y * h)));
     } else {
-        const double fx = uv.x * w - 0.5;
-        const double fy = uv.y * h - 0.5;
-        const double floorX = std::floor(fx);
-        const double floorY = std::floor(fy);
-        const auto x0 = static_cast<long long>(floorX);
-        const auto y0 = static_cast<long long>(floorY);
-        const double sx = fx - floorX;
-        const double sy = fy - floorY;
+        const auto [x0, y0, sx, sy] = CellAt(uv.x * w - 0.5, uv.y * h - 0.5);
         const auto a = texel(x0, y0), b = texel(x0 + 1, y0), c = texel(x0, y0 + 1), d = texel(x0 + 1, y0 + 1);
         for (int k = 0; k < 4; ++k) {
             const double top = a[k] + (b[k] - a[k]) * sx;
