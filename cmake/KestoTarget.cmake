@@ -13,7 +13,9 @@ if(KESTO_SANITIZE)
   target_link_options(KestoCompileOptions INTERFACE -fsanitize=address,undefined)
 endif()
 if(KESTO_FUZZ)
-  target_compile_options(KestoCompileOptions INTERFACE -fsanitize=fuzzer-no-link,address,undefined -fno-omit-frame-pointer)
+  # Undefined behaviour aborts, so that the fuzzer keeps the input as a finding.
+  target_compile_options(KestoCompileOptions INTERFACE -fsanitize=fuzzer-no-link,address,undefined
+    -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   target_link_options(KestoCompileOptions INTERFACE -fsanitize=address,undefined)
 endif()
 

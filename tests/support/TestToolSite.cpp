@@ -1,5 +1,6 @@
 #include "support/TestToolSite.h"
 
+#include "geometry/CoordinateRange.h"
 #include "geometry/KCAngle.h"
 #include "geometry/Rounding.h"
 
@@ -26,14 +27,15 @@ void TestToolSite::ConstrainAngle(CPoint origin, CPoint& point, bool)
 {
     if (angleStep <= 0)
         return;
-    const double dx = point.x - origin.x;
-    const double dy = point.y - origin.y;
+    // Wide: a host's points may lie at opposite ends of the coordinate range.
+    const double dx = static_cast<double>(point.x) - origin.x;
+    const double dy = static_cast<double>(point.y) - origin.y;
     const int angle = Kesto2D::KCAngle::DirectionOf(dx, dy);
     const int snapped = RoundHalfAwayFromZero(static_cast<double>(angle) / angleStep) * angleStep;
     double s = 0, c = 1;
     Kesto2D::KCAngle(snapped).SinCos(s, c);
     const double d = std::hypot(dx, dy);
-    point = CPoint(origin.x + RoundHalfAwayFromZero(d * c), origin.y - RoundHalfAwayFromZero(d * s));
+    point = Kesto2D::SaturatePoint(origin.x + std::llround(d * c), origin.y - std::llround(d * s));
 }
 
 void TestToolSite::Snap(const CPoint& in, CPoint& out)
@@ -42,8 +44,8 @@ void TestToolSite::Snap(const CPoint& in, CPoint& out)
         out = in;
         return;
     }
-    const auto toGrid = [this](int v) { return RoundHalfAwayFromZero(static_cast<double>(v) / grid) * grid; };
-    out = CPoint(toGrid(in.x), toGrid(in.y));
+    const auto toGrid = [this](int v) { return static_cast<long long>(RoundHalfAwayFromZero(static_cast<double>(v) / grid)) * grid; };
+    out = Kesto2D::SaturatePoint(toGrid(in.x), toGrid(in.y));
 }
 
 void TestToolSite::AddContextItem(int hostCommand)
