@@ -24,8 +24,23 @@ struct RampRow {
 
 using RampRowFunction = void (*)(const RampRow& row);
 
+// The three-colour kind along one row: (u, v) as for a ramp; each channel is
+// c0 + u d1 + v d2 with u and v clamped to 0..1, rounded half up and clamped to 0..255. For a
+// mask the alpha channel (a colour) or 255 - red (a transparency) is written.
+struct CornerRow {
+    double u0, v0, du, dv;
+    int count;
+    float c0[4], d1[4], d2[4];  // r, g, b, a
+    bool mask;
+    bool transparency;
+    void* out;
+};
+
+using CornerRowFunction = void (*)(const CornerRow& row);
+
 struct KernelSet {
     RampRowFunction ramp;
+    CornerRowFunction threeColour;
 };
 
 const KernelSet& Scalar();

@@ -3,6 +3,7 @@
 #include "raster/Kernels_p.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace KestoRaster {
@@ -139,6 +140,40 @@ void RenderRampRows(const PreparedPaint& prepared, const Target& target, const C
     }
 }
 
+// The three-colour kind's rows through the active instruction set's kernel.
+void RenderThreeColourRows(const PreparedPaint& prepared, const Target& target, const Clip& clip)
+{
+    const Paint& paint = prepared.GetPaint();
+    const Geometry& g = prepared.GetGeometry();
+    const Affine& toPaint = prepared.DeviceToPaint();
+    const Clip c = Within(target, clip);
+    if (c.x1 <= c.x0)
+        return;
+    Kernels::CornerRow row{};
+    row.count = c.x1 - c.x0;
+    row.mask = target.format == Output::Mask8;
+    row.transparency = paint.transparency;
+    const auto channels = [](const Rgba& x) { return std::array<float, 4>{float(x.r), float(x.g), float(x.b), float(x.a)}; };
+    const auto c0 = channels(paint.colours[0]), c1 = channels(paint.colours[1]), c2 = channels(paint.colours[2]);
+    for (int k = 0; k < 4; ++k) {
+        row.c0[k] = c0[k];
+        row.d1[k] = c1[k] - c0[k];
+        row.d2[k] = c2[k] - c0[k];
+    }
+    const int bytesPerPixel = row.mask ? 1 : 4;
+    for (int y = c.y0; y < c.y1; ++y) {
+        const Point p = toPaint.Apply({c.x0 + 0.5, y + 0.5});
+        const double px = p.x - g.origin.x, py = p.y - g.origin.y;
+        // A degenerate parallelogram shows its far corner (u = v = 1), as the reference does.
+        row.u0 = g.degenerate ? 1 : px * g.iux + py * g.iuy;
+        row.v0 = g.degenerate ? 1 : px * g.ivx + py * g.ivy;
+        row.du = g.degenerate ? 0 : toPaint.a * g.iux + toPaint.b * g.iuy;
+        row.dv = g.degenerate ? 0 : toPaint.a * g.ivx + toPaint.b * g.ivy;
+        row.out = static_cast<unsigned char*>(target.pixels) + y * target.stride + c.x0 * bytesPerPixel;
+        Kernels::Active().threeColour(row);
+    }
+}
+
 } // namespace
 
 PreparedPaint::PreparedPaint(const Paint& paint, const Affine& paintToDevice, Output output,
@@ -194,6 +229,10 @@ void Render(const PreparedPaint& prepared, const Target& target, const Clip& cli
         ForEachPixel(target, clip, prepared.DeviceToPaint(), [&](Point p) {
             return table[static_cast<std::size_t>(Parameter(paint, g, tile, p) * (PreparedPaint::TableSize - 1) + 0.5)];
         });
+        return;
+    }
+    if (paint.kind == Paint::Kind::ThreeColour && paint.colours.size() >= 3) {
+        RenderThreeColourRows(prepared, target, clip);
         return;
     }
     ForEachPixel(target, clip, prepared.DeviceToPaint(), [&](Point p) { return Direct(paint, g, tile, out, p); });

@@ -122,7 +122,9 @@ std::pair<int, int> AgainstReference(const Paint& paint, const Affine& placement
     for (int y = 0; y < H; ++y)
         for (int x = 0; x < W; ++x)
             worst = std::max(worst, ChannelDistance(fast.At(x, y), reference.At(x, y)));
-    return {worst, prepared.IsRamp() ? TableStep(prepared) + 1 : 0};
+    // Table kernels within their table's step, direct kernels within 1, bitmaps within 2.
+    const int direct = paint.kind == Paint::Kind::Bitmap ? 2 : 1;
+    return {worst, prepared.IsRamp() ? TableStep(prepared) + 1 : direct};
 }
 
 TEST(Render, EveryKindMatchesTheReferenceWithinItsTableStepInBothOutputsOnEveryIsa)
