@@ -17,7 +17,7 @@ struct RampRow {
     RampShape shape;
     double u0, v0, du, dv;
     int count;
-    const std::uint32_t* table;  // 1024 entries: words, or mask values
+    const std::uint32_t* table;  // 256 entries: words, or mask values
     bool mask;
     void* out;
 };

@@ -15,7 +15,7 @@ namespace KestoRaster {
 class PreparedPaint {
 public:
     // Ramp kinds keep this many samples of their ramp, 0 .. 10000 evenly.
-    static constexpr int TableSize = 1024;
+    static constexpr int TableSize = 256;
 
     // paint placed by paintToDevice, for output; previous, when given and its paint has the same
     // colours, lends its table.
