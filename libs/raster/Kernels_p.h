@@ -10,12 +10,15 @@
 namespace KestoRaster::Kernels {
 
 // A ramp kind in the coordinates it measures in (see Shading::Geometry): along one row the
-// first pixel centre is at (u0, v0) and each pixel steps by (du, dv).
+// centre of device column 0 is at (u0, v0) and each pixel steps by (du, dv); the kernel writes
+// columns x0 .. x0 + count - 1 to out (column x0 first). Blocks of pixels start at columns that
+// are multiples of the block size, so that a pixel's value does not depend on the clip.
 enum class RampShape { Linear, Round, Square, Conical };
 
 struct RampRow {
     RampShape shape;
     double u0, v0, du, dv;
+    int x0;
     int count;
     const std::uint32_t* table;  // 256 entries: words, or mask values
     bool mask;
@@ -29,6 +32,7 @@ using RampRowFunction = void (*)(const RampRow& row);
 // mask the alpha channel (a colour) or 255 - red (a transparency) is written.
 struct CornerRow {
     double u0, v0, du, dv;
+    int x0;
     int count;
     float c0[4], d1[4], d2[4];  // r, g, b, a
     bool mask;

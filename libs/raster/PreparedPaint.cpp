@@ -126,8 +126,10 @@ void RenderRampRows(const PreparedPaint& prepared, const Target& target, const C
     }
     const Kernels::RampRowFunction kernel = Kernels::Active().ramp;
     const int bytesPerPixel = row.mask ? 1 : 4;
+    row.x0 = c.x0;
     for (int y = c.y0; y < c.y1; ++y) {
-        const Point p = toPaint.Apply({c.x0 + 0.5, y + 0.5});
+        // Measured from device column 0, whatever the clip, so that every clip paints the same.
+        const Point p = toPaint.Apply({0.5, y + 0.5});
         const double px = p.x - g.origin.x, py = p.y - g.origin.y;
         if (!g.degenerate) {
             row.u0 = px * ux + py * uy;
@@ -161,8 +163,9 @@ void RenderThreeColourRows(const PreparedPaint& prepared, const Target& target, 
         row.d2[k] = c2[k] - c0[k];
     }
     const int bytesPerPixel = row.mask ? 1 : 4;
+    row.x0 = c.x0;
     for (int y = c.y0; y < c.y1; ++y) {
-        const Point p = toPaint.Apply({c.x0 + 0.5, y + 0.5});
+        const Point p = toPaint.Apply({0.5, y + 0.5});
         const double px = p.x - g.origin.x, py = p.y - g.origin.y;
         // A degenerate parallelogram shows its far corner (u = v = 1), as the reference does.
         row.u0 = g.degenerate ? 1 : px * g.iux + py * g.iuy;
