@@ -42,9 +42,27 @@ struct CornerRow {
 
 using CornerRowFunction = void (*)(const CornerRow& row);
 
+// The plasma kind along one row: (u, v) are tile coordinates (one tile is 1 x 1) of column 0's
+// centre, stepping by (du, dv); the tile's n x n intensities are sampled bilinearly between
+// sample centres, with repeated or mirrored tiles, and looked up in the ramp's table.
+struct PlasmaRow {
+    double u0, v0, du, dv;
+    int x0;
+    int count;
+    const float* tile;
+    int n;
+    bool mirrored;
+    const std::uint32_t* table;  // 256 entries
+    bool mask;
+    void* out;
+};
+
+using PlasmaRowFunction = void (*)(const PlasmaRow& row);
+
 struct KernelSet {
     RampRowFunction ramp;
     CornerRowFunction threeColour;
+    PlasmaRowFunction plasma;
 };
 
 const KernelSet& Scalar();

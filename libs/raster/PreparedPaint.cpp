@@ -142,6 +142,37 @@ void RenderRampRows(const PreparedPaint& prepared, const Target& target, const C
     }
 }
 
+// The plasma kind's rows through the active instruction set's kernel.
+void RenderPlasmaRows(const PreparedPaint& prepared, const Target& target, const Clip& clip)
+{
+    const Paint& paint = prepared.GetPaint();
+    const Geometry& g = prepared.GetGeometry();
+    const Affine& toPaint = prepared.DeviceToPaint();
+    const Clip c = Within(target, clip);
+    if (c.x1 <= c.x0)
+        return;
+    Kernels::PlasmaRow row{};
+    row.x0 = c.x0;
+    row.count = c.x1 - c.x0;
+    row.tile = prepared.PlasmaTile().data();
+    row.n = std::clamp(paint.plasma.resolution, 2, 1024);
+    row.mirrored = paint.mirroredTiles;
+    row.table = prepared.Table().data();
+    row.mask = target.format == Output::Mask8;
+    const int bytesPerPixel = row.mask ? 1 : 4;
+    for (int y = c.y0; y < c.y1; ++y) {
+        const Point p = toPaint.Apply({0.5, y + 0.5});
+        const double px = p.x - g.origin.x, py = p.y - g.origin.y;
+        // A degenerate tile shows its first sample everywhere, as the reference does.
+        row.u0 = g.degenerate ? 0 : px * g.iux + py * g.iuy;
+        row.v0 = g.degenerate ? 0 : px * g.ivx + py * g.ivy;
+        row.du = g.degenerate ? 0 : toPaint.a * g.iux + toPaint.b * g.iuy;
+        row.dv = g.degenerate ? 0 : toPaint.a * g.ivx + toPaint.b * g.ivy;
+        row.out = static_cast<unsigned char*>(target.pixels) + y * target.stride + c.x0 * bytesPerPixel;
+        Kernels::Active().plasma(row);
+    }
+}
+
 // The three-colour kind's rows through the active instruction set's kernel.
 void RenderThreeColourRows(const PreparedPaint& prepared, const Target& target, const Clip& clip)
 {
@@ -223,15 +254,11 @@ void Render(const PreparedPaint& prepared, const Target& target, const Clip& cli
     const Geometry& g = prepared.GetGeometry();
     const Output out = target.format;
     const std::vector<float>& tile = prepared.PlasmaTile();
-    if (prepared.IsRamp() && out == prepared.GetOutput() && paint.kind != Paint::Kind::Plasma) {
-        RenderRampRows(prepared, target, clip);
-        return;
-    }
     if (prepared.IsRamp() && out == prepared.GetOutput()) {
-        const auto& table = prepared.Table();
-        ForEachPixel(target, clip, prepared.DeviceToPaint(), [&](Point p) {
-            return table[static_cast<std::size_t>(Parameter(paint, g, tile, p) * (PreparedPaint::TableSize - 1) + 0.5)];
-        });
+        if (paint.kind == Paint::Kind::Plasma)
+            RenderPlasmaRows(prepared, target, clip);
+        else
+            RenderRampRows(prepared, target, clip);
         return;
     }
     if (paint.kind == Paint::Kind::ThreeColour && paint.colours.size() >= 3) {
