@@ -59,10 +59,27 @@ struct PlasmaRow {
 
 using PlasmaRowFunction = void (*)(const PlasmaRow& row);
 
+// The four-colour kind along one row: q = p - P0 of column 0's centre and its step per pixel;
+// p - P0 = u e1 + v e2 + u v e3 is solved for (u, v) as Shading::CornerCoordinates does (in
+// double), and the corners' colours c[k] (r, g, b, a) blend bilinearly.
+struct QuadRow {
+    double qx0, qy0, dqx, dqy;
+    double e1x, e1y, e2x, e2y, e3x, e3y;
+    int x0;
+    int count;
+    float c[4][4];
+    bool mask;
+    bool transparency;
+    void* out;
+};
+
+using QuadRowFunction = void (*)(const QuadRow& row);
+
 struct KernelSet {
     RampRowFunction ramp;
     CornerRowFunction threeColour;
     PlasmaRowFunction plasma;
+    QuadRowFunction fourColour;
 };
 
 const KernelSet& Scalar();

@@ -173,6 +173,37 @@ void RenderPlasmaRows(const PreparedPaint& prepared, const Target& target, const
     }
 }
 
+// The four-colour kind's rows through the active instruction set's kernel.
+void RenderFourColourRows(const PreparedPaint& prepared, const Target& target, const Clip& clip)
+{
+    const Paint& paint = prepared.GetPaint();
+    const Geometry& g = prepared.GetGeometry();
+    const Affine& toPaint = prepared.DeviceToPaint();
+    const Clip c = Within(target, clip);
+    if (c.x1 <= c.x0)
+        return;
+    Kernels::QuadRow row{};
+    row.x0 = c.x0;
+    row.count = c.x1 - c.x0;
+    row.mask = target.format == Output::Mask8;
+    row.transparency = paint.transparency;
+    row.e1x = g.e1.x, row.e1y = g.e1.y, row.e2x = g.e2.x, row.e2y = g.e2.y, row.e3x = g.e3.x, row.e3y = g.e3.y;
+    for (int k = 0; k < 4; ++k) {
+        const Rgba& colour = paint.colours[static_cast<std::size_t>(k)];
+        row.c[k][0] = colour.r, row.c[k][1] = colour.g, row.c[k][2] = colour.b, row.c[k][3] = colour.a;
+    }
+    row.dqx = toPaint.a;
+    row.dqy = toPaint.b;
+    const int bytesPerPixel = row.mask ? 1 : 4;
+    for (int y = c.y0; y < c.y1; ++y) {
+        const Point p = toPaint.Apply({0.5, y + 0.5});
+        row.qx0 = p.x - g.origin.x;
+        row.qy0 = p.y - g.origin.y;
+        row.out = static_cast<unsigned char*>(target.pixels) + y * target.stride + c.x0 * bytesPerPixel;
+        Kernels::Active().fourColour(row);
+    }
+}
+
 // The three-colour kind's rows through the active instruction set's kernel.
 void RenderThreeColourRows(const PreparedPaint& prepared, const Target& target, const Clip& clip)
 {
@@ -263,6 +294,10 @@ void Render(const PreparedPaint& prepared, const Target& target, const Clip& cli
     }
     if (paint.kind == Paint::Kind::ThreeColour && paint.colours.size() >= 3) {
         RenderThreeColourRows(prepared, target, clip);
+        return;
+    }
+    if (paint.kind == Paint::Kind::FourColour && paint.colours.size() >= 4 && !g.degenerate) {
+        RenderFourColourRows(prepared, target, clip);
         return;
     }
     ForEachPixel(target, clip, prepared.DeviceToPaint(), [&](Point p) { return Direct(paint, g, tile, out, p); });
