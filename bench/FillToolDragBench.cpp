@@ -6,7 +6,7 @@
 #include "gdi/CFillLinear.h"
 #include "gdi/CRGBColour.h"
 #include "geometry/Rounding.h"
-#include "tool/IToolSite.h"
+#include "tool/NullToolSite.h"
 
 #include <benchmark/benchmark.h>
 
@@ -19,36 +19,21 @@ namespace {
 
 // The smallest host that keeps what the tool commits, as a document does: by sharing it, or
 // (as a host that does not trust the fill to stay unchanged) by keeping a clone.
-class BenchHost final : public IToolSite {
+class BenchHost final : public NullToolSite {
 public:
     FillTool* tool = nullptr;
     RefPtr<const CFill> fill;
     bool cloneCommits = false;
 
-    unsigned long GetToolColour() override { return 0; }
-    Kesto2D::K2DLtGeneral GetObjectToSpreadTransform() override { return {}; }
-    Kesto2D::K2DLtGeneral GetAppObjectToSpreadTransform() override { return {}; }
-    void ClientToPaper(Platform::SIZE*) override {}
     CRect GetObjectBBox() override { return {0, 0, 1000000, 1000}; }
     CRect GetTransformedObjectBBox() override { return GetObjectBBox(); }
-    bool IsCreate() override { return false; }
     bool IsInDrag() override { return true; }
-    void ConstrainAngle(CPoint, CPoint&, bool) override {}
-    void ConstrainAnglePolar(CPoint, CPoint&) override {}
-    void Snap(const CPoint& in, CPoint& out) override { out = in; }
-    CString GetCurrentSelectionDescription() override { return {}; }
-    void AddContextItem(int) override {}
-    IDocumentEx* GetDocument() override { return nullptr; }
     void UpdateFill(const CFill* committed, const wchar_t*) override
     {
         fill = cloneCommits ? RefPtr<const CFill>(committed->Clone()) : RefPtr<const CFill>(committed);
         tool->SetFill(fill.get());
     }
     void UpdateTransparency(const CFill* committed, const wchar_t* name, bool) override { UpdateFill(committed, name); }
-    void SetFillType(const Platform::CRuntimeClass*) override {}
-    void SetTransparencyType(const Platform::CRuntimeClass*) override {}
-    void NotifyHandlesReset() override {}
-    double GetAngleSnapTolerance() override { return 0; }
 };
 
 constexpr int kLength = 1000000;

@@ -12,6 +12,7 @@
 #include "kernel/VerifyReporter.h"
 #include "tool/IDocumentEx.h"
 #include "tool/IToolHelper.h"
+#include "tool/NullToolSite.h"
 #include "tool/ToolIdMap.h"
 
 #include <algorithm>
@@ -39,50 +40,7 @@ void Report(int line, const char* hint)
     Kernel::VerifyFailed("KestoTool", "FillTool", line, hint);
 }
 
-// What a tool talks to when its host gave it no site, or no document: it answers the empty
-// result of every question and keeps every commit to itself, so the tool does nothing.
-class NullToolHelper final : public IToolHelper {
-public:
-    int CreateColourControl(Platform::XTP_COMMANDBARS_CREATECONTROL*) override { return 0; }
-    bool ColourPicker(const CColour*, CColour*& result, Platform::CWnd*) override
-    {
-        result = nullptr;
-        return false;
-    }
-    CColour* ColourPicker(const CColour*, Platform::CWnd*) override { return nullptr; }
-    CColour* AskUserForNewColour(const CColour*, CPoint, Platform::CWnd*) override { return nullptr; }
-    bool IsFillTypeAvailable(CFill*) override { return false; }
-    bool IsTransparencyTypeAvailable(CFill*) override { return false; }
-    bool GetDialogSetting() override { return false; }
-    bool IsLockRatioAvailable() override { return false; }
-};
-
 NullToolHelper g_nullHelper;
-
-class NullToolSite final : public IToolSite {
-public:
-    unsigned long GetToolColour() override { return 0; }
-    K2DLtGeneral GetObjectToSpreadTransform() override { return {}; }
-    K2DLtGeneral GetAppObjectToSpreadTransform() override { return {}; }
-    void ClientToPaper(Platform::SIZE*) override {}
-    CRect GetObjectBBox() override { return {}; }
-    CRect GetTransformedObjectBBox() override { return {}; }
-    bool IsCreate() override { return false; }
-    bool IsInDrag() override { return false; }
-    void ConstrainAngle(CPoint, CPoint&, bool) override {}
-    void ConstrainAnglePolar(CPoint, CPoint&) override {}
-    void Snap(const CPoint& in, CPoint& out) override { out = in; }
-    CString GetCurrentSelectionDescription() override { return {}; }
-    void AddContextItem(int) override {}
-    IDocumentEx* GetDocument() override { return nullptr; }
-    void UpdateFill(const CFill*, const wchar_t*) override {}
-    void UpdateTransparency(const CFill*, const wchar_t*, bool) override {}
-    void SetFillType(const CRuntimeClass*) override {}
-    void SetTransparencyType(const CRuntimeClass*) override {}
-    void NotifyHandlesReset() override {}
-    double GetAngleSnapTolerance() override { return 0; }
-};
-
 NullToolSite g_nullSite;
 
 IToolSite* SiteOrNull(IToolSite* site)
