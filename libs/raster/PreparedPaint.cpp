@@ -92,18 +92,43 @@ void ForEachPixel(const Target& target, const Clip& clip, const Affine& toPaint,
     }
 }
 
+// Visits the clip's rows, for a kernel: the row's first clipped column and width, the
+// paint-space point of column 0's centre relative to the geometry's origin (measured from column
+// 0 whatever the clip, so that every clip paints the same), and where the first pixel goes.
+template <class Row>
+void ForEachRow(const PreparedPaint& prepared, const Target& target, const Clip& clip, Row row)
+{
+    const Clip c = Within(target, clip);
+    if (c.x1 <= c.x0)
+        return;
+    const Geometry& g = prepared.GetGeometry();
+    const int bytesPerPixel = target.format == Output::Mask8 ? 1 : 4;
+    for (int y = c.y0; y < c.y1; ++y) {
+        const Point p = prepared.DeviceToPaint().Apply({0.5, y + 0.5});
+        row(c.x0, c.x1 - c.x0, p.x - g.origin.x, p.y - g.origin.y,
+            static_cast<unsigned char*>(target.pixels) + y * target.stride + c.x0 * bytesPerPixel);
+    }
+}
+
+// A row's start (u0, v0) and step (du, dv) along two axes given by the rows of their inverse
+// basis (ux, uy) and (vx, vy); a degenerate geometry stands still at (at, at).
+template <class Row>
+void PlaceAlongAxes(Row& row, const Affine& toPaint, double px, double py, double ux, double uy, double vx, double vy,
+                    bool degenerate, double at)
+{
+    row.u0 = degenerate ? at : px * ux + py * uy;
+    row.v0 = degenerate ? at : px * vx + py * vy;
+    row.du = degenerate ? 0 : toPaint.a * ux + toPaint.b * uy;
+    row.dv = degenerate ? 0 : toPaint.a * vx + toPaint.b * vy;
+}
+
 // The ramp kinds' rows through the active instruction set's kernel.
 void RenderRampRows(const PreparedPaint& prepared, const Target& target, const Clip& clip)
 {
     const Geometry& g = prepared.GetGeometry();
-    const Affine& toPaint = prepared.DeviceToPaint();
-    const Clip c = Within(target, clip);
-    if (c.x1 <= c.x0)
-        return;
     Kernels::RampRow row{};
     row.table = prepared.Table().data();
     row.mask = target.format == Output::Mask8;
-    row.count = c.x1 - c.x0;
     // Measured in the kind's own axes: u along the first, v along the second.
     double ux = g.iux, uy = g.iuy, vx = g.ivx, vy = g.ivy;
     switch (g.kind) {
@@ -118,28 +143,16 @@ void RenderRampRows(const PreparedPaint& prepared, const Target& target, const C
     }
     default: row.shape = Kernels::RampShape::Round; break;
     }
-    if (g.degenerate) {
-        // Every pixel shows the ramp's end.
+    // A degenerate ramp shows its end everywhere: linear at t = 1.
+    if (g.degenerate)
         row.shape = Kernels::RampShape::Linear;
-        ux = uy = vx = vy = 0;
-        row.u0 = 1;
-    }
-    const Kernels::RampRowFunction kernel = Kernels::Active().ramp;
-    const int bytesPerPixel = row.mask ? 1 : 4;
-    row.x0 = c.x0;
-    for (int y = c.y0; y < c.y1; ++y) {
-        // Measured from device column 0, whatever the clip, so that every clip paints the same.
-        const Point p = toPaint.Apply({0.5, y + 0.5});
-        const double px = p.x - g.origin.x, py = p.y - g.origin.y;
-        if (!g.degenerate) {
-            row.u0 = px * ux + py * uy;
-            row.v0 = px * vx + py * vy;
-            row.du = toPaint.a * ux + toPaint.b * uy;
-            row.dv = toPaint.a * vx + toPaint.b * vy;
-        }
-        row.out = static_cast<unsigned char*>(target.pixels) + y * target.stride + c.x0 * bytesPerPixel;
-        kernel(row);
-    }
+    ForEachRow(prepared, target, clip, [&](int x0, int count, double px, double py, void* out) {
+        PlaceAlongAxes(row, prepared.DeviceToPaint(), px, py, ux, uy, vx, vy, g.degenerate, 1.0);
+        row.x0 = x0;
+        row.count = count;
+        row.out = out;
+        Kernels::Active().ramp(row);
+    });
 }
 
 // The plasma kind's rows through the active instruction set's kernel.
@@ -147,30 +160,20 @@ void RenderPlasmaRows(const PreparedPaint& prepared, const Target& target, const
 {
     const Paint& paint = prepared.GetPaint();
     const Geometry& g = prepared.GetGeometry();
-    const Affine& toPaint = prepared.DeviceToPaint();
-    const Clip c = Within(target, clip);
-    if (c.x1 <= c.x0)
-        return;
     Kernels::PlasmaRow row{};
-    row.x0 = c.x0;
-    row.count = c.x1 - c.x0;
     row.tile = prepared.PlasmaTile().data();
     row.n = std::clamp(paint.plasma.resolution, 2, 1024);
     row.mirrored = paint.mirroredTiles;
     row.table = prepared.Table().data();
     row.mask = target.format == Output::Mask8;
-    const int bytesPerPixel = row.mask ? 1 : 4;
-    for (int y = c.y0; y < c.y1; ++y) {
-        const Point p = toPaint.Apply({0.5, y + 0.5});
-        const double px = p.x - g.origin.x, py = p.y - g.origin.y;
+    ForEachRow(prepared, target, clip, [&](int x0, int count, double px, double py, void* out) {
         // A degenerate tile shows its first sample everywhere, as the reference does.
-        row.u0 = g.degenerate ? 0 : px * g.iux + py * g.iuy;
-        row.v0 = g.degenerate ? 0 : px * g.ivx + py * g.ivy;
-        row.du = g.degenerate ? 0 : toPaint.a * g.iux + toPaint.b * g.iuy;
-        row.dv = g.degenerate ? 0 : toPaint.a * g.ivx + toPaint.b * g.ivy;
-        row.out = static_cast<unsigned char*>(target.pixels) + y * target.stride + c.x0 * bytesPerPixel;
+        PlaceAlongAxes(row, prepared.DeviceToPaint(), px, py, g.iux, g.iuy, g.ivx, g.ivy, g.degenerate, 0.0);
+        row.x0 = x0;
+        row.count = count;
+        row.out = out;
         Kernels::Active().plasma(row);
-    }
+    });
 }
 
 // The four-colour kind's rows through the active instruction set's kernel.
@@ -178,13 +181,7 @@ void RenderFourColourRows(const PreparedPaint& prepared, const Target& target, c
 {
     const Paint& paint = prepared.GetPaint();
     const Geometry& g = prepared.GetGeometry();
-    const Affine& toPaint = prepared.DeviceToPaint();
-    const Clip c = Within(target, clip);
-    if (c.x1 <= c.x0)
-        return;
     Kernels::QuadRow row{};
-    row.x0 = c.x0;
-    row.count = c.x1 - c.x0;
     row.mask = target.format == Output::Mask8;
     row.transparency = paint.transparency;
     row.e1x = g.e1.x, row.e1y = g.e1.y, row.e2x = g.e2.x, row.e2y = g.e2.y, row.e3x = g.e3.x, row.e3y = g.e3.y;
@@ -192,16 +189,16 @@ void RenderFourColourRows(const PreparedPaint& prepared, const Target& target, c
         const Rgba& colour = paint.colours[static_cast<std::size_t>(k)];
         row.c[k][0] = colour.r, row.c[k][1] = colour.g, row.c[k][2] = colour.b, row.c[k][3] = colour.a;
     }
-    row.dqx = toPaint.a;
-    row.dqy = toPaint.b;
-    const int bytesPerPixel = row.mask ? 1 : 4;
-    for (int y = c.y0; y < c.y1; ++y) {
-        const Point p = toPaint.Apply({0.5, y + 0.5});
-        row.qx0 = p.x - g.origin.x;
-        row.qy0 = p.y - g.origin.y;
-        row.out = static_cast<unsigned char*>(target.pixels) + y * target.stride + c.x0 * bytesPerPixel;
+    row.dqx = prepared.DeviceToPaint().a;
+    row.dqy = prepared.DeviceToPaint().b;
+    ForEachRow(prepared, target, clip, [&](int x0, int count, double px, double py, void* out) {
+        row.qx0 = px;
+        row.qy0 = py;
+        row.x0 = x0;
+        row.count = count;
+        row.out = out;
         Kernels::Active().fourColour(row);
-    }
+    });
 }
 
 // The three-colour kind's rows through the active instruction set's kernel.
@@ -209,12 +206,7 @@ void RenderThreeColourRows(const PreparedPaint& prepared, const Target& target, 
 {
     const Paint& paint = prepared.GetPaint();
     const Geometry& g = prepared.GetGeometry();
-    const Affine& toPaint = prepared.DeviceToPaint();
-    const Clip c = Within(target, clip);
-    if (c.x1 <= c.x0)
-        return;
     Kernels::CornerRow row{};
-    row.count = c.x1 - c.x0;
     row.mask = target.format == Output::Mask8;
     row.transparency = paint.transparency;
     const auto channels = [](const Rgba& x) { return std::array<float, 4>{float(x.r), float(x.g), float(x.b), float(x.a)}; };
@@ -224,19 +216,14 @@ void RenderThreeColourRows(const PreparedPaint& prepared, const Target& target, 
         row.d1[k] = c1[k] - c0[k];
         row.d2[k] = c2[k] - c0[k];
     }
-    const int bytesPerPixel = row.mask ? 1 : 4;
-    row.x0 = c.x0;
-    for (int y = c.y0; y < c.y1; ++y) {
-        const Point p = toPaint.Apply({0.5, y + 0.5});
-        const double px = p.x - g.origin.x, py = p.y - g.origin.y;
+    ForEachRow(prepared, target, clip, [&](int x0, int count, double px, double py, void* out) {
         // A degenerate parallelogram shows its far corner (u = v = 1), as the reference does.
-        row.u0 = g.degenerate ? 1 : px * g.iux + py * g.iuy;
-        row.v0 = g.degenerate ? 1 : px * g.ivx + py * g.ivy;
-        row.du = g.degenerate ? 0 : toPaint.a * g.iux + toPaint.b * g.iuy;
-        row.dv = g.degenerate ? 0 : toPaint.a * g.ivx + toPaint.b * g.ivy;
-        row.out = static_cast<unsigned char*>(target.pixels) + y * target.stride + c.x0 * bytesPerPixel;
+        PlaceAlongAxes(row, prepared.DeviceToPaint(), px, py, g.iux, g.iuy, g.ivx, g.ivy, g.degenerate, 1.0);
+        row.x0 = x0;
+        row.count = count;
+        row.out = out;
         Kernels::Active().threeColour(row);
-    }
+    });
 }
 
 } // namespace
