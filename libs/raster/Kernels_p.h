@@ -75,11 +75,29 @@ struct QuadRow {
 
 using QuadRowFunction = void (*)(const QuadRow& row);
 
+// The bitmap kind along one row: (u, v) are tile coordinates as for the plasma; the texels are
+// the output values of the image's pixels (premultiplied words, or mask values), w x h, sampled
+// bilinearly channel by channel (or the nearest one).
+struct BitmapRow {
+    double u0, v0, du, dv;
+    int x0;
+    int count;
+    const std::uint32_t* texels;
+    int w, h;
+    bool mirrored;
+    bool nearest;
+    bool mask;
+    void* out;
+};
+
+using BitmapRowFunction = void (*)(const BitmapRow& row);
+
 struct KernelSet {
     RampRowFunction ramp;
     CornerRowFunction threeColour;
     PlasmaRowFunction plasma;
     QuadRowFunction fourColour;
+    BitmapRowFunction bitmap;
 };
 
 const KernelSet& Scalar();

@@ -201,6 +201,27 @@ void RenderFourColourRows(const PreparedPaint& prepared, const Target& target, c
     });
 }
 
+// The bitmap kind's rows through the active instruction set's kernel.
+void RenderBitmapRows(const PreparedPaint& prepared, const Target& target, const Clip& clip)
+{
+    const Paint& paint = prepared.GetPaint();
+    const Geometry& g = prepared.GetGeometry();
+    Kernels::BitmapRow row{};
+    row.texels = prepared.Texels().data();
+    row.w = paint.image->width;
+    row.h = paint.image->height;
+    row.mirrored = paint.mirroredTiles;
+    row.nearest = paint.nearest;
+    row.mask = target.format == Output::Mask8;
+    ForEachRow(prepared, target, clip, [&](int x0, int count, double px, double py, void* out) {
+        PlaceAlongAxes(row, prepared.DeviceToPaint(), px, py, g.iux, g.iuy, g.ivx, g.ivy, g.degenerate, 0.0);
+        row.x0 = x0;
+        row.count = count;
+        row.out = out;
+        Kernels::Active().bitmap(row);
+    });
+}
+
 // The three-colour kind's rows through the active instruction set's kernel.
 void RenderThreeColourRows(const PreparedPaint& prepared, const Target& target, const Clip& clip)
 {
@@ -233,6 +254,11 @@ PreparedPaint::PreparedPaint(const Paint& paint, const Affine& paintToDevice, Ou
     : m_paint(std::make_shared<Paint>(paint)), m_output(output), m_deviceToPaint(paintToDevice.Inverse()),
       m_geometry(Solve(paint))
 {
+    if (paint.kind == Paint::Kind::Bitmap && HasImage(paint)) {
+        m_texels.reserve(paint.image->argb.size());
+        for (const std::uint32_t pixel : paint.image->argb)
+            m_texels.push_back(TexelOutput(paint, pixel, output));
+    }
     if (previous && previous->m_output == output && previous->m_paint->stops == paint.stops &&
         previous->m_paint->transparency == paint.transparency && previous->IsRamp() == IsRamp() &&
         previous->m_paint->kind == paint.kind && previous->m_paint->plasma == paint.plasma) {
@@ -281,6 +307,10 @@ void Render(const PreparedPaint& prepared, const Target& target, const Clip& cli
     }
     if (paint.kind == Paint::Kind::ThreeColour && paint.colours.size() >= 3) {
         RenderThreeColourRows(prepared, target, clip);
+        return;
+    }
+    if (paint.kind == Paint::Kind::Bitmap && !prepared.Texels().empty() && out == prepared.GetOutput()) {
+        RenderBitmapRows(prepared, target, clip);
         return;
     }
     if (paint.kind == Paint::Kind::FourColour && paint.colours.size() >= 4 && !g.degenerate) {

@@ -32,6 +32,8 @@ public:
     bool SharesTableWith(const PreparedPaint& other) const { return m_table == other.m_table; }
     // The plasma kind's tile; empty for other kinds.
     const std::vector<float>& PlasmaTile() const;
+    // The bitmap kind's pixels as output values; empty for other kinds or without an image.
+    const std::vector<std::uint32_t>& Texels() const { return m_texels; }
 
 private:
     std::shared_ptr<const Paint> m_paint;
@@ -40,6 +42,7 @@ private:
     Shading::Geometry m_geometry;
     std::shared_ptr<const std::vector<std::uint32_t>> m_table;
     std::shared_ptr<const std::vector<float>> m_plasmaTile;
+    std::vector<std::uint32_t> m_texels;
 };
 
 // Paints every pixel of the clip (inside the target) with the prepared paint, sampling pixel

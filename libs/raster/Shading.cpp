@@ -239,51 +239,53 @@ double PlasmaValue(const std::vector<float>& tile, int resolution, Point uv, boo
     return std::clamp(top + (bottom - top) * sy, 0.0, 1.0);
 }
 
-std::uint32_t BitmapSample(const Paint& paint, Point uv, Output output)
+std::uint32_t TexelOutput(const Paint& paint, std::uint32_t argb, Output output)
 {
-    const Paint::Image* image = paint.image.get();
-    if (!image || image->width <= 0 || image->height <= 0 ||
-        image->argb.size() < static_cast<std::size_t>(image->width) * static_cast<std::size_t>(image->height))
-        return 0;
-    const int w = image->width;
-    const int h = image->height;
-    // One texel as output channels (a, r, g, b premultiplied, or the mask value in all four).
-    const auto texel = [&](long long x, long long y) {
-        const std::uint32_t p = image->argb[static_cast<std::size_t>(TileIndex(y, h, paint.mirroredTiles)) * w +
-                                            TileIndex(x, w, paint.mirroredTiles)];
-        Rgba c{static_cast<std::uint8_t>(p >> 16), static_cast<std::uint8_t>(p >> 8), static_cast<std::uint8_t>(p),
-               static_cast<std::uint8_t>(p >> 24)};
-        if (paint.recolour && !paint.stops.empty()) {
-            const int intensity = (299 * c.r + 587 * c.g + 114 * c.b + 500) / 1000;
-            const Rgba ramp = RampColour(paint, intensity * 10000.0 / 255);
-            c = {ramp.r, ramp.g, ramp.b, static_cast<std::uint8_t>((ramp.a * c.a + 127) / 255)};
-        }
-        std::array<double, 4> v{};
-        if (output == Output::Mask8) {
-            v.fill(paint.transparency ? 255.0 - c.r : c.a);
-        } else {
-            const std::uint32_t word = ToArgb(paint, c);
-            for (int k = 0; k < 4; ++k)
-                v[k] = (word >> (24 - 8 * k)) & 0xFF;
-        }
-        return v;
-    };
-    std::array<double, 4> out{};
-    if (paint.nearest) {
-        out = texel(static_cast<long long>(std::floor(uv.x * w)), static_cast<long long>(std::floor(uv.y * h)));
-    } else {
-        const auto [x0, y0, sx, sy] = CellAt(uv.x * w - 0.5, uv.y * h - 0.5);
-        const auto a = texel(x0, y0), b = texel(x0 + 1, y0), c = texel(x0, y0 + 1), d = texel(x0 + 1, y0 + 1);
-        for (int k = 0; k < 4; ++k) {
-            const double top = a[k] + (b[k] - a[k]) * sx;
-            const double bottom = c[k] + (d[k] - c[k]) * sx;
-            out[k] = top + (bottom - top) * sy;
-        }
+    Rgba c{static_cast<std::uint8_t>(argb >> 16), static_cast<std::uint8_t>(argb >> 8), static_cast<std::uint8_t>(argb),
+           static_cast<std::uint8_t>(argb >> 24)};
+    if (paint.recolour && !paint.stops.empty()) {
+        const int intensity = (299 * c.r + 587 * c.g + 114 * c.b + 500) / 1000;
+        const Rgba ramp = RampColour(paint, intensity * 10000.0 / 255);
+        c = {ramp.r, ramp.g, ramp.b, static_cast<std::uint8_t>((ramp.a * c.a + 127) / 255)};
     }
     if (output == Output::Mask8)
-        return Channel(out[0]);
-    return (std::uint32_t{Channel(out[0])} << 24) | (std::uint32_t{Channel(out[1])} << 16) |
-           (std::uint32_t{Channel(out[2])} << 8) | Channel(out[3]);
+        return paint.transparency ? 255u - c.r : c.a;
+    return ToArgb(paint, c);
+}
+
+bool HasImage(const Paint& paint)
+{
+    const Paint::Image* image = paint.image.get();
+    return image && image->width > 0 && image->height > 0 &&
+           image->argb.size() >= static_cast<std::size_t>(image->width) * static_cast<std::size_t>(image->height);
+}
+
+std::uint32_t BitmapSample(const Paint& paint, Point uv, Output output)
+{
+    if (!HasImage(paint))
+        return 0;
+    const Paint::Image& image = *paint.image;
+    const int w = image.width;
+    const int h = image.height;
+    const auto texel = [&](long long x, long long y) {
+        return TexelOutput(paint,
+                           image.argb[static_cast<std::size_t>(TileIndex(y, h, paint.mirroredTiles)) * w +
+                                      TileIndex(x, w, paint.mirroredTiles)],
+                           output);
+    };
+    if (paint.nearest)
+        return texel(static_cast<long long>(std::floor(uv.x * w)), static_cast<long long>(std::floor(uv.y * h)));
+    const auto [x0, y0, sx, sy] = CellAt(uv.x * w - 0.5, uv.y * h - 0.5);
+    const std::uint32_t a = texel(x0, y0), b = texel(x0 + 1, y0), c = texel(x0, y0 + 1), d = texel(x0 + 1, y0 + 1);
+    // Channel by channel (a mask value is the low byte).
+    std::uint32_t result = 0;
+    for (int shift = 0; shift < 32; shift += 8) {
+        const auto at = [shift](std::uint32_t p) { return static_cast<double>((p >> shift) & 0xFF); };
+        const double top = at(a) + (at(b) - at(a)) * sx;
+        const double bottom = at(c) + (at(d) - at(c)) * sx;
+        result |= std::uint32_t{Channel(top + (bottom - top) * sy)} << shift;
+    }
+    return result;
 }
 
 Point CornerCoordinates(const Geometry& g, Point p)

@@ -36,7 +36,13 @@ Point TileCoordinates(const Geometry& g, Point p, bool mirrored);
 std::vector<float> PlasmaTile(const Paint::Plasma& plasma);
 // The tile's intensity at tile coordinates, bilinear between sample centres.
 double PlasmaValue(const std::vector<float>& tile, int resolution, Point uv, bool mirrored);
-// A bitmap paint's output at tile coordinates (see Paint), for either output.
+// One of a bitmap paint's image pixels (straight 0xAARRGGBB) as output: recoloured when asked,
+// then the premultiplied word or the mask value.
+std::uint32_t TexelOutput(const Paint& paint, std::uint32_t argb, Output output);
+// Whether a bitmap paint has an image to show (one that holds all its pixels).
+bool HasImage(const Paint& paint);
+// A bitmap paint's output at tile coordinates (see Paint), for either output: the texels'
+// outputs blended channel by channel (or the nearest one).
 std::uint32_t BitmapSample(const Paint& paint, Point uv, Output output);
 // The corner kinds' coordinates (u, v) in 0..1 of a paint-space point.
 Point CornerCoordinates(const Geometry& g, Point p);
