@@ -110,16 +110,25 @@ void ForEachRow(const PreparedPaint& prepared, const Target& target, const Clip&
     }
 }
 
-// A row's start (u0, v0) and step (du, dv) along two axes given by the rows of their inverse
-// basis (ux, uy) and (vx, vy); a degenerate geometry stands still at (at, at).
+// Runs a kernel over the clip's rows for a kind measured along two axes, given by the rows of
+// their inverse basis (ux, uy) and (vx, vy): each row starts at (u0, v0) and steps by (du, dv).
+// A degenerate geometry stands still at (at, at).
 template <class Row>
-void PlaceAlongAxes(Row& row, const Affine& toPaint, double px, double py, double ux, double uy, double vx, double vy,
-                    bool degenerate, double at)
+void RunAlongAxes(const PreparedPaint& prepared, const Target& target, const Clip& clip, Row& row,
+                  void (*kernel)(const Row&), double ux, double uy, double vx, double vy, double at)
 {
-    row.u0 = degenerate ? at : px * ux + py * uy;
-    row.v0 = degenerate ? at : px * vx + py * vy;
-    row.du = degenerate ? 0 : toPaint.a * ux + toPaint.b * uy;
-    row.dv = degenerate ? 0 : toPaint.a * vx + toPaint.b * vy;
+    const bool degenerate = prepared.GetGeometry().degenerate;
+    const Affine& toPaint = prepared.DeviceToPaint();
+    ForEachRow(prepared, target, clip, [&](int x0, int count, double px, double py, void* out) {
+        row.u0 = degenerate ? at : px * ux + py * uy;
+        row.v0 = degenerate ? at : px * vx + py * vy;
+        row.du = degenerate ? 0 : toPaint.a * ux + toPaint.b * uy;
+        row.dv = degenerate ? 0 : toPaint.a * vx + toPaint.b * vy;
+        row.x0 = x0;
+        row.count = count;
+        row.out = out;
+        kernel(row);
+    });
 }
 
 // The ramp kinds' rows through the active instruction set's kernel.
@@ -146,13 +155,7 @@ void RenderRampRows(const PreparedPaint& prepared, const Target& target, const C
     // A degenerate ramp shows its end everywhere: linear at t = 1.
     if (g.degenerate)
         row.shape = Kernels::RampShape::Linear;
-    ForEachRow(prepared, target, clip, [&](int x0, int count, double px, double py, void* out) {
-        PlaceAlongAxes(row, prepared.DeviceToPaint(), px, py, ux, uy, vx, vy, g.degenerate, 1.0);
-        row.x0 = x0;
-        row.count = count;
-        row.out = out;
-        Kernels::Active().ramp(row);
-    });
+    RunAlongAxes(prepared, target, clip, row, Kernels::Active().ramp, ux, uy, vx, vy, 1.0);
 }
 
 // The plasma kind's rows through the active instruction set's kernel.
@@ -166,14 +169,8 @@ void RenderPlasmaRows(const PreparedPaint& prepared, const Target& target, const
     row.mirrored = paint.mirroredTiles;
     row.table = prepared.Table().data();
     row.mask = target.format == Output::Mask8;
-    ForEachRow(prepared, target, clip, [&](int x0, int count, double px, double py, void* out) {
-        // A degenerate tile shows its first sample everywhere, as the reference does.
-        PlaceAlongAxes(row, prepared.DeviceToPaint(), px, py, g.iux, g.iuy, g.ivx, g.ivy, g.degenerate, 0.0);
-        row.x0 = x0;
-        row.count = count;
-        row.out = out;
-        Kernels::Active().plasma(row);
-    });
+    // A degenerate tile shows its first sample everywhere, as the reference does.
+    RunAlongAxes(prepared, target, clip, row, Kernels::Active().plasma, g.iux, g.iuy, g.ivx, g.ivy, 0.0);
 }
 
 // The four-colour kind's rows through the active instruction set's kernel.
@@ -213,13 +210,7 @@ void RenderBitmapRows(const PreparedPaint& prepared, const Target& target, const
     row.mirrored = paint.mirroredTiles;
     row.nearest = paint.nearest;
     row.mask = target.format == Output::Mask8;
-    ForEachRow(prepared, target, clip, [&](int x0, int count, double px, double py, void* out) {
-        PlaceAlongAxes(row, prepared.DeviceToPaint(), px, py, g.iux, g.iuy, g.ivx, g.ivy, g.degenerate, 0.0);
-        row.x0 = x0;
-        row.count = count;
-        row.out = out;
-        Kernels::Active().bitmap(row);
-    });
+    RunAlongAxes(prepared, target, clip, row, Kernels::Active().bitmap, g.iux, g.iuy, g.ivx, g.ivy, 0.0);
 }
 
 // The three-colour kind's rows through the active instruction set's kernel.
@@ -237,14 +228,8 @@ void RenderThreeColourRows(const PreparedPaint& prepared, const Target& target, 
         row.d1[k] = c1[k] - c0[k];
         row.d2[k] = c2[k] - c0[k];
     }
-    ForEachRow(prepared, target, clip, [&](int x0, int count, double px, double py, void* out) {
-        // A degenerate parallelogram shows its far corner (u = v = 1), as the reference does.
-        PlaceAlongAxes(row, prepared.DeviceToPaint(), px, py, g.iux, g.iuy, g.ivx, g.ivy, g.degenerate, 1.0);
-        row.x0 = x0;
-        row.count = count;
-        row.out = out;
-        Kernels::Active().threeColour(row);
-    });
+    // A degenerate parallelogram shows its far corner (u = v = 1), as the reference does.
+    RunAlongAxes(prepared, target, clip, row, Kernels::Active().threeColour, g.iux, g.iuy, g.ivx, g.ivy, 1.0);
 }
 
 } // namespace
