@@ -239,18 +239,29 @@ PreparedPaint::PreparedPaint(const Paint& paint, const Affine& paintToDevice, Ou
     : m_paint(std::make_shared<Paint>(paint)), m_output(output), m_deviceToPaint(paintToDevice.Inverse()),
       m_geometry(Solve(paint))
 {
-    if (paint.kind == Paint::Kind::Bitmap && HasImage(paint)) {
-        m_texels.reserve(paint.image->argb.size());
-        for (const std::uint32_t pixel : paint.image->argb)
-            m_texels.push_back(TexelOutput(paint, pixel, output));
-    }
-    if (previous && previous->m_output == output && previous->m_paint->stops == paint.stops &&
-        previous->m_paint->transparency == paint.transparency && previous->IsRamp() == IsRamp() &&
-        previous->m_paint->kind == paint.kind && previous->m_paint->plasma == paint.plasma) {
+    // Colours that a drag does not change are shared with the previous preparation: the table,
+    // the plasma tile and the bitmap's texels are built only when the colours change. Images are
+    // compared by content, as a host translating its fill anew each time makes a new one.
+    const auto sameImage = [](const std::shared_ptr<const Paint::Image>& a, const std::shared_ptr<const Paint::Image>& b) {
+        return a == b || (a && b && a->width == b->width && a->height == b->height && a->argb == b->argb);
+    };
+    const bool sameColours = previous && previous->m_output == output && previous->m_paint->stops == paint.stops &&
+                             previous->m_paint->transparency == paint.transparency &&
+                             previous->m_paint->kind == paint.kind && previous->m_paint->plasma == paint.plasma &&
+                             sameImage(previous->m_paint->image, paint.image) && previous->m_paint->recolour == paint.recolour;
+    if (sameColours) {
         m_table = previous->m_table;
         m_plasmaTile = previous->m_plasmaTile;
+        m_texels = previous->m_texels;
         return;
     }
+    auto texels = std::make_shared<std::vector<std::uint32_t>>();
+    if (paint.kind == Paint::Kind::Bitmap && HasImage(paint)) {
+        texels->reserve(paint.image->argb.size());
+        for (const std::uint32_t pixel : paint.image->argb)
+            texels->push_back(TexelOutput(paint, pixel, output));
+    }
+    m_texels = std::move(texels);
     if (paint.kind == Paint::Kind::Plasma) {
         const bool same = previous && previous->m_paint->kind == Paint::Kind::Plasma &&
                           previous->m_paint->plasma == paint.plasma;

@@ -30,10 +30,11 @@ public:
     // The table's words (ARGB output) or bytes (mask output); empty for non-ramp kinds.
     const std::vector<std::uint32_t>& Table() const { return *m_table; }
     bool SharesTableWith(const PreparedPaint& other) const { return m_table == other.m_table; }
+    bool SharesTexelsWith(const PreparedPaint& other) const { return m_texels == other.m_texels; }
     // The plasma kind's tile; empty for other kinds.
     const std::vector<float>& PlasmaTile() const;
     // The bitmap kind's pixels as output values; empty for other kinds or without an image.
-    const std::vector<std::uint32_t>& Texels() const { return m_texels; }
+    const std::vector<std::uint32_t>& Texels() const { return *m_texels; }
 
 private:
     std::shared_ptr<const Paint> m_paint;
@@ -42,7 +43,7 @@ private:
     Shading::Geometry m_geometry;
     std::shared_ptr<const std::vector<std::uint32_t>> m_table;
     std::shared_ptr<const std::vector<float>> m_plasmaTile;
-    std::vector<std::uint32_t> m_texels;
+    std::shared_ptr<const std::vector<std::uint32_t>> m_texels;
 };
 
 // Paints every pixel of the clip (inside the target) with the prepared paint, sampling pixel

@@ -225,4 +225,15 @@ TEST(Render, APaintPreparedAgainWithTheSameColoursSharesItsTable)
     Paint recoloured = linear;
     recoloured.stops[1].colour.r = 7;
     EXPECT_FALSE(PreparedPaint(recoloured, {}, Output::Argb32, &first).SharesTableWith(first));
+
+    // A bitmap's texels likewise, until its image or its recolouring changes.
+    const Paint bitmap = Paints()[10].paint;
+    const PreparedPaint placed(bitmap, {}, Output::Argb32);
+    Paint shifted = bitmap;
+    shifted.points[0] = {9, 9};
+    shifted.image = std::make_shared<Paint::Image>(*bitmap.image);
+    EXPECT_TRUE(PreparedPaint(shifted, {}, Output::Argb32, &placed).SharesTexelsWith(placed));
+    shifted.recolour = true;
+    shifted.stops = recoloured.stops;
+    EXPECT_FALSE(PreparedPaint(shifted, {}, Output::Argb32, &placed).SharesTexelsWith(placed));
 }
