@@ -1,7 +1,11 @@
 #include "filltool/FillToolFactory.h"
 
+#include "filltool/FillToolElliptical.h"
 #include "filltool/FillToolLinear.h"
+#include "filltool/FillToolRadial.h"
+#include "gdi/CFillEllipse.h"
 #include "gdi/CFillLinear.h"
+#include "gdi/CFillRadial.h"
 
 namespace KestoTool {
 
@@ -20,8 +24,8 @@ public:
     void Visit(const CFillNone&) override {}
     void Visit(const CFillSolid&) override {}
     void Visit(const CFillLinear& fill) override { Make<FillToolLinear>(fill); }
-    void Visit(const CFillRadial&) override {}
-    void Visit(const CFillEllipse&) override {}
+    void Visit(const CFillRadial& fill) override { Make<FillToolRadial>(fill); }
+    void Visit(const CFillEllipse& fill) override { Make<FillToolElliptical>(fill); }
     void Visit(const CFillConical&) override {}
     void Visit(const CFillSquare&) override {}
     void Visit(const CFillThreeColour&) override {}

@@ -49,6 +49,20 @@ bool FillToolGradient::IsLastNode(int handle) const
     return CanCreateNewNode() ? handle == GetNodeCount() - 1 : handle == 1;
 }
 
+K2DArrayPoint FillToolGradient::SquareOnLine(CPoint start, CPoint end)
+{
+    Kesto2D::K2DStraightLine line;
+    line.SetFinite(start, end);
+    const double half = line.GetLength() / 2;
+    K2DArrayPoint outline;
+    outline.Add(line.PointAtPerpendicularDistance(start, -half).Round());
+    outline.Add(line.PointAtPerpendicularDistance(end, -half).Round());
+    outline.Add(line.PointAtPerpendicularDistance(end, half).Round());
+    outline.Add(line.PointAtPerpendicularDistance(start, half).Round());
+    outline.AddClose(0);
+    return outline;
+}
+
 int FillToolGradient::GetExtendedNode() const
 {
     const int c = GetCurrentNode();

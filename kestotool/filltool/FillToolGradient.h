@@ -80,6 +80,10 @@ public:
     // Sets stop index (-1: the current node) to a grey level and commits the transparency.
     void SetLevel(int level, int index, bool commit);
     bool IsLockRatio() const { return m_bLockRatio; }
+    // The stop of handle h for the tools whose extra handles show and edit the last stop.
+    int LastStopForExtendedNode(int handle) const { return IsExtendedNode(handle) ? GetNumGradientNodes() - 1 : handle; }
+    // The square whose centre line runs from start to end, as a closed outline of four corners.
+    static K2DArrayPoint SquareOnLine(CPoint start, CPoint end);
 
 protected:
     const Platform::AFX_MSGMAP* GetMessageMap() const override;

@@ -3,7 +3,6 @@
 #include "gdi/CFillLinear.h"
 #include "geometry/CoordinateRange.h"
 #include "geometry/K2DGeometry.h"
-#include "geometry/K2DStraightLine.h"
 #include "kernel/VerifyReporter.h"
 #include "resources/ResourceIds.h"
 
@@ -147,18 +146,9 @@ K2DArrayPoint FillToolLinear::GetEffectiveBBox(const CFill* fill)
         Kernel::VerifyFailed("KestoTool", "FillToolLinear", 126, "the tool has no fill: pass one");
         return {};
     }
-    K2DArrayPoint outline;
     if (!GetLine(fill, s, e))
-        return outline;
-    Kesto2D::K2DStraightLine line;
-    line.SetFinite(s, e);
-    const double half = line.GetLength() / 2;
-    outline.Add(line.PointAtPerpendicularDistance(s, -half).Round());
-    outline.Add(line.PointAtPerpendicularDistance(e, -half).Round());
-    outline.Add(line.PointAtPerpendicularDistance(e, half).Round());
-    outline.Add(line.PointAtPerpendicularDistance(s, half).Round());
-    outline.AddClose(0);
-    return outline;
+        return {};
+    return SquareOnLine(s, e);
 }
 
 int FillToolLinear::GetHintLine(CString* out) const

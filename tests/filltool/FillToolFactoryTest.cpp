@@ -1,6 +1,8 @@
 #include "filltool/FillToolFactory.h"
 
+#include "filltool/FillToolElliptical.h"
 #include "filltool/FillToolLinear.h"
+#include "filltool/FillToolRadial.h"
 #include "gdi/FillKinds.h"
 #include "support/TestToolSite.h"
 
@@ -16,6 +18,8 @@ TEST(FillToolFactory, EachKindGetsItsToolOrNone)
     // The kinds whose tools exist; every other kind, fill or transparency, gets no tool.
     const std::map<int, const std::type_info*> tools = {
         {KestoGDI::FillType::Linear, &typeid(FillToolLinear)},
+        {KestoGDI::FillType::Radial, &typeid(FillToolRadial)},
+        {KestoGDI::FillType::Elliptical, &typeid(FillToolElliptical)},
     };
     KestoTest::TestToolSite site;
     for (const KestoGDI::FillKind& kind : KestoGDI::FillKinds::All()) {

@@ -1,0 +1,213 @@
+#include "filltool/FillToolElliptical.h"
+
+#include "filltool/RoundToolHints.h"
+#include "gdi/CFillEllipse.h"
+#include "geometry/CoordinateRange.h"
+#include "geometry/K2DGeometry.h"
+#include "kernel/VerifyReporter.h"
+
+#include <algorithm>
+
+namespace KestoTool {
+
+KESTO_IMPLEMENT_DYNAMIC(FillToolElliptical, FillToolGradient)
+
+namespace {
+
+constexpr int kUnitRadius = 100;
+
+} // namespace
+
+bool FillToolElliptical::GetAxes(const CFill* fill, Axes& axes) const
+{
+    const auto* ellipse = dynamic_cast<const KestoGDI::CFillEllipse*>(fill ? fill : GetFill());
+    if (!ellipse) {
+        if (!fill && GetFill())
+            ReportWrongKind();
+        return false;
+    }
+    axes = {ellipse->GetCentre().Round(), ellipse->GetEnd().Round(), ellipse->GetShape().Round()};
+    return true;
+}
+
+void FillToolElliptical::SetAxes(const Axes& axes)
+{
+    if (auto* ellipse = dynamic_cast<KestoGDI::CFillEllipse*>(GetWorkingFill()))
+        ellipse->SetControls(K2DDblPoint(axes.centre), K2DDblPoint(axes.end), K2DDblPoint(axes.shape));
+}
+
+K2DLtGeneral FillToolElliptical::CircleToEllipse(const Axes& a)
+{
+    const double s = 1.0 / kUnitRadius;
+    const K2DLtGeneral axes((static_cast<double>(a.end.x) - a.centre.x) * s, (static_cast<double>(a.end.y) - a.centre.y) * s,
+                            (static_cast<double>(a.shape.x) - a.centre.x) * s,
+                            (static_cast<double>(a.shape.y) - a.centre.y) * s, 0, 0);
+    return K2DLtGeneral::About(K2DDblPoint(a.centre), axes);
+}
+
+void FillToolElliptical::OnDragStart(CPoint& point, unsigned int flags)
+{
+    FillTool::OnDragStart(point, flags);
+    SetCurrentNode(IndexFromPoint(point));
+    GetAxes(nullptr, m_atPress);
+}
+
+void FillToolElliptical::OnDragChange(CPoint& point, unsigned int flags)
+{
+    if (!CheckDragStarted())
+        return;
+    const bool shift = (flags & DragFlagShift) != 0;
+    const bool ctrl = (flags & DragFlagCtrl) != 0;
+    const bool creating = IsCreate();
+    const Axes& start = m_atPress;
+    CPoint press = GetDragStart();
+    if (creating && ctrl)
+        press = GetCreateCentre(press);
+    if (shift) {
+        CPoint anchor = start.centre;
+        if (creating)
+            anchor = press;
+        else if (IsFirstNode())
+            press = start.centre;
+        else if (IsLastNode())
+            press = start.end;
+        else if (IsExtendedNode())
+            press = start.shape;
+        SnapAnglePoint(anchor, point, IsFirstNode());
+    }
+    const CPoint perpendicular =
+        CalculatePerpendicular(start.centre, start.end, start.shape, press, point, IsLastNode(), IsExtendedNode());
+    if (creating) {
+        // No snapping while an ellipse is drawn: the shape point follows the pointer exactly.
+        SetCurrentNode(GetNumGradientNodes() - 1);
+        SetAxes({press, point, perpendicular});
+        return;
+    }
+    const long long dx = static_cast<long long>(point.x) - press.x;
+    const long long dy = static_cast<long long>(point.y) - press.y;
+    const long long ex = static_cast<long long>(perpendicular.x) - press.x;
+    const long long ey = static_cast<long long>(perpendicular.y) - press.y;
+    Axes moved = start;
+    if (IsFirstNode()) {
+        moved = {Kesto2D::OffsetPoint(start.centre, dx, dy), Kesto2D::OffsetPoint(start.end, dx, dy),
+                 Kesto2D::OffsetPoint(start.shape, dx, dy)};
+        // Only the centre snaps: the axes keep the pointer's exact offset.
+        if (!shift)
+            Snap(moved.centre, moved.centre);
+    } else if (IsLastNode()) {
+        moved.end = Kesto2D::OffsetPoint(start.end, dx, dy);
+        if (!shift)
+            Snap(moved.end, moved.end);
+        moved.shape = ctrl ? Kesto2D::OffsetPoint(start.shape, ex, ey)
+                           : PreserveAngle(start.centre, start.end, moved.end, start.shape);
+    } else if (IsExtendedNode()) {
+        moved.shape = Kesto2D::OffsetPoint(start.shape, dx, dy);
+        if (!shift)
+            Snap(moved.shape, moved.shape);
+        moved.end = ctrl ? Kesto2D::OffsetPoint(start.end, ex, ey)
+                         : PreserveAngle(start.centre, start.shape, moved.shape, start.end);
+    } else {
+        if (GetCurrentNode() >= 0)
+            SetGradientValue(GetCurrentNode(), GetPercentageFromPoint(point));
+        return;
+    }
+    SetAxes(moved);
+}
+
+void FillToolElliptical::Draw(IRenderTarget* target, bool outlineOnly, const K2DLtGeneral& view) const
+{
+    FillTool::Draw(target, outlineOnly, view);
+    Axes a;
+    if (!GetAxes(nullptr, a))
+        return;
+    DrawControlLine(target, outlineOnly, a.centre, a.end, true);
+    DrawControlLine(target, outlineOnly, a.centre, a.shape, true);
+    DrawControlLine(target, outlineOnly, K2DCurve::Circle(K2DDblPoint(a.centre), kUnitRadius).Transformed(CircleToEllipse(a)),
+                    false);
+    DrawControlBoxes(target, outlineOnly);
+}
+
+void FillToolElliptical::Draw(CRenderContext* context) const
+{
+    Axes a;
+    if (!GetAxes(nullptr, a))
+        return;
+    DrawControlLine(context, a.centre, a.end, false);
+    DrawControlLine(context, a.centre, a.shape, false);
+    DrawControlLine(context, K2DCurve::Circle(K2DDblPoint(a.centre), kUnitRadius).Transformed(CircleToEllipse(a)), false);
+    DrawControlBoxes(context);
+}
+
+CRect FillToolElliptical::GetFillRect(const CFill* fill)
+{
+    Axes a;
+    if (!GetAxes(fill, a))
+        return {};
+    K2DArrayPoint circle;
+    circle.AppendEllipse(a.centre, kUnitRadius, kUnitRadius);
+    const K2DLtGeneral map = CircleToEllipse(a);
+    K2DArrayPoint ellipse;
+    for (const CPoint& p : circle)
+        ellipse.Add(map.ApplyTo(p));
+    return ellipse.GetBBox();
+}
+
+CRect FillToolElliptical::GetFillLineBox(const CFill* fill)
+{
+    Axes a;
+    if (!dynamic_cast<const KestoGDI::CFillEllipse*>(fill ? fill : GetFill())) {
+        Kernel::VerifyFailed("KestoTool", "FillToolElliptical", 502, "the fill is not elliptical");
+        return {};
+    }
+    GetAxes(fill, a);
+    using Kesto2D::K2DGeometry::IDist;
+    const CPoint far = IDist(a.centre, a.shape) > IDist(a.centre, a.end) ? a.shape : a.end;
+    return {a.centre.x, a.centre.y, far.x, far.y};
+}
+
+K2DArrayPoint FillToolElliptical::GetEffectiveBBox(const CFill* fill)
+{
+    Axes a;
+    if (!GetAxes(fill, a))
+        return {};
+    const long long ux = static_cast<long long>(a.end.x) - a.centre.x, uy = static_cast<long long>(a.end.y) - a.centre.y;
+    const long long vx = static_cast<long long>(a.shape.x) - a.centre.x, vy = static_cast<long long>(a.shape.y) - a.centre.y;
+    constexpr int kCorners[4][2] = {{-1, -1}, {1, -1}, {1, 1}, {-1, 1}};
+    K2DArrayPoint outline;
+    for (const auto& [su, sv] : kCorners)
+        outline.Add(Kesto2D::OffsetPoint(a.centre, su * ux + sv * vx, su * uy + sv * vy));
+    outline.AddClose(0);
+    return outline;
+}
+
+int FillToolElliptical::GetHintLine(CString* out) const
+{
+    const HintIds ids = RoundToolHintIds(*this);
+    ComposeHintLine(out, ids.fill, ids.transparency);
+    return 1;
+}
+
+void FillToolElliptical::BaseGetHandles(K2DArrayPoint* handles) const
+{
+    Axes a;
+    if (!GetAxes(nullptr, a))
+        return;
+    AddGradientHandles(handles, a.centre, a.end);
+    handles->Add(a.shape);
+}
+
+bool FillToolElliptical::IsPointOnLine(const CPoint& point, int tolerance) const
+{
+    Axes a;
+    return GetAxes(nullptr, a) && IsPointOnNodeLine(a.centre, a.end, point, tolerance);
+}
+
+int FillToolElliptical::GetPercentageFromPoint(CPoint point) const
+{
+    Axes a;
+    if (!GetAxes(nullptr, a))
+        return 1;
+    return std::clamp(GetNodeValueFromPoints(a.centre, a.end, point), 1, 9999);
+}
+
+} // namespace KestoTool

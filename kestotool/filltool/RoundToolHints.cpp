@@ -1,0 +1,28 @@
+#include "filltool/RoundToolHints.h"
+
+#include "filltool/FillToolGradient.h"
+#include "resources/ResourceIds.h"
+
+namespace KestoTool {
+
+HintIds RoundToolHintIds(const FillToolGradient& tool)
+{
+    const bool dragging = tool.IsInDrag();
+    if (tool.IsCreate())
+        return {IDS_HINT_ROUND_CREATE_FILL, IDS_HINT_ROUND_CREATE_TRANSPARENCY};
+    if (tool.GetCurrentNode() == -1)
+        return {IDS_HINT_ROUND_NO_NODE_FILL, IDS_HINT_ROUND_NO_NODE_TRANSPARENCY};
+    if (tool.IsFirstNode())
+        return dragging ? HintIds{IDS_HINT_ROUND_CENTRE_DRAGGING_FILL, IDS_HINT_ROUND_CENTRE_DRAGGING_TRANSPARENCY}
+                        : HintIds{IDS_HINT_ROUND_CENTRE_OVER_FILL, IDS_HINT_ROUND_CENTRE_OVER_TRANSPARENCY};
+    if (tool.IsLastNode())
+        return dragging ? HintIds{IDS_HINT_ROUND_RIM_DRAGGING_FILL, IDS_HINT_ROUND_RIM_DRAGGING_TRANSPARENCY}
+                        : HintIds{IDS_HINT_ROUND_RIM_OVER_FILL, IDS_HINT_ROUND_RIM_OVER_TRANSPARENCY};
+    if (tool.IsExtendedNode())
+        return dragging ? HintIds{IDS_HINT_ROUND_SHAPE_DRAGGING_FILL, IDS_HINT_ROUND_SHAPE_DRAGGING_TRANSPARENCY}
+                        : HintIds{IDS_HINT_ROUND_SHAPE_OVER_FILL, IDS_HINT_ROUND_SHAPE_OVER_TRANSPARENCY};
+    return dragging ? HintIds{IDS_HINT_ROUND_INNER_DRAGGING_FILL, IDS_HINT_ROUND_INNER_DRAGGING_TRANSPARENCY}
+                    : HintIds{IDS_HINT_ROUND_INNER_OVER_FILL, IDS_HINT_ROUND_INNER_OVER_TRANSPARENCY};
+}
+
+} // namespace KestoTool
