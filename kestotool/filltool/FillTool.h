@@ -44,6 +44,12 @@ inline constexpr unsigned int DragFlagShift = 4;
 inline constexpr unsigned int DragFlagCtrl = 8;
 inline constexpr unsigned int KeyDelete = Platform::VK_DELETE;
 
+// A hint line's string ids: one for a fill, one for a transparency.
+struct HintIds {
+    int fill;
+    int transparency;
+};
+
 // The base of every on-canvas fill and transparency tool. A tool edits one fill: it keeps its
 // own copy, talks to the host only through its IToolSite, and hands every change back as a
 // whole new fill through UpdateFill / UpdateTransparency; the host then gives it the committed

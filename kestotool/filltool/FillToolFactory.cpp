@@ -1,8 +1,10 @@
 #include "filltool/FillToolFactory.h"
 
+#include "filltool/FillToolConical.h"
 #include "filltool/FillToolElliptical.h"
 #include "filltool/FillToolLinear.h"
 #include "filltool/FillToolRadial.h"
+#include "gdi/CFillConical.h"
 #include "gdi/CFillEllipse.h"
 #include "gdi/CFillLinear.h"
 #include "gdi/CFillRadial.h"
@@ -26,7 +28,7 @@ public:
     void Visit(const CFillLinear& fill) override { Make<FillToolLinear>(fill); }
     void Visit(const CFillRadial& fill) override { Make<FillToolRadial>(fill); }
     void Visit(const CFillEllipse& fill) override { Make<FillToolElliptical>(fill); }
-    void Visit(const CFillConical&) override {}
+    void Visit(const CFillConical& fill) override { Make<FillToolConical>(fill); }
     void Visit(const CFillSquare&) override {}
     void Visit(const CFillThreeColour&) override {}
     void Visit(const CFillFourColour&) override {}

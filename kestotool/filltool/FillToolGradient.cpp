@@ -418,7 +418,11 @@ void FillToolGradient::FitToShape(bool max)
 
 CRect FillToolGradient::GetToolRect(const CFill* fill)
 {
-    const CRect r = GetFillRect(fill);
+    return ToolRectOf(GetFillRect(fill));
+}
+
+CRect FillToolGradient::ToolRectOf(const CRect& r) const
+{
     const K2DLtGeneral toSpread = GetObjectToSpreadTransform();
     CRect spread(toSpread.ApplyTo(r.TopLeft()), toSpread.ApplyTo(r.BottomRight()));
     spread.NormalizeRect();

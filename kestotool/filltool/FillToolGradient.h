@@ -32,6 +32,8 @@ public:
     void OnKeyDown(unsigned int key, unsigned int repeat, unsigned int flags) override;
     // The fill rectangle in spread space, normalised, grown by 7 x 7 pixels for the handles.
     CRect GetToolRect(const CFill* fill) override;
+    // A rectangle in object space as GetToolRect gives the fill rectangle.
+    CRect ToolRectOf(const CRect& box) const;
 
     // Rotates the fill about the object's centre by angle (hundredths of a degree,
     // anticlockwise), keeping its proportions to the object when the ratio is locked.

@@ -1,5 +1,6 @@
 #include "filltool/FillToolFactory.h"
 
+#include "filltool/FillToolConical.h"
 #include "filltool/FillToolElliptical.h"
 #include "filltool/FillToolLinear.h"
 #include "filltool/FillToolRadial.h"
@@ -20,6 +21,7 @@ TEST(FillToolFactory, EachKindGetsItsToolOrNone)
         {KestoGDI::FillType::Linear, &typeid(FillToolLinear)},
         {KestoGDI::FillType::Radial, &typeid(FillToolRadial)},
         {KestoGDI::FillType::Elliptical, &typeid(FillToolElliptical)},
+        {KestoGDI::FillType::Conical, &typeid(FillToolConical)},
     };
     KestoTest::TestToolSite site;
     for (const KestoGDI::FillKind& kind : KestoGDI::FillKinds::All()) {
