@@ -160,9 +160,7 @@ CRect FillToolElliptical::GetFillLineBox(const CFill* fill)
         return {};
     }
     GetAxes(fill, a);
-    using Kesto2D::K2DGeometry::IDist;
-    const CPoint far = IDist(a.centre, a.shape) > IDist(a.centre, a.end) ? a.shape : a.end;
-    return {a.centre.x, a.centre.y, far.x, far.y};
+    return LongerAxisBox(a.centre, a.end, a.shape);
 }
 
 K2DArrayPoint FillToolElliptical::GetEffectiveBBox(const CFill* fill)
@@ -170,14 +168,7 @@ K2DArrayPoint FillToolElliptical::GetEffectiveBBox(const CFill* fill)
     Axes a;
     if (!GetAxes(fill, a))
         return {};
-    const long long ux = static_cast<long long>(a.end.x) - a.centre.x, uy = static_cast<long long>(a.end.y) - a.centre.y;
-    const long long vx = static_cast<long long>(a.shape.x) - a.centre.x, vy = static_cast<long long>(a.shape.y) - a.centre.y;
-    constexpr int kCorners[4][2] = {{-1, -1}, {1, -1}, {1, 1}, {-1, 1}};
-    K2DArrayPoint outline;
-    for (const auto& [su, sv] : kCorners)
-        outline.Add(Kesto2D::OffsetPoint(a.centre, su * ux + sv * vx, su * uy + sv * vy));
-    outline.AddClose(0);
-    return outline;
+    return AxesParallelogram(a.centre, a.end, a.shape);
 }
 
 int FillToolElliptical::GetHintLine(CString* out) const

@@ -4,10 +4,12 @@
 #include "filltool/FillToolElliptical.h"
 #include "filltool/FillToolLinear.h"
 #include "filltool/FillToolRadial.h"
+#include "filltool/FillToolSquare.h"
 #include "gdi/CFillConical.h"
 #include "gdi/CFillEllipse.h"
 #include "gdi/CFillLinear.h"
 #include "gdi/CFillRadial.h"
+#include "gdi/CFillSquare.h"
 
 namespace KestoTool {
 
@@ -29,7 +31,7 @@ public:
     void Visit(const CFillRadial& fill) override { Make<FillToolRadial>(fill); }
     void Visit(const CFillEllipse& fill) override { Make<FillToolElliptical>(fill); }
     void Visit(const CFillConical& fill) override { Make<FillToolConical>(fill); }
-    void Visit(const CFillSquare&) override {}
+    void Visit(const CFillSquare& fill) override { Make<FillToolSquare>(fill); }
     void Visit(const CFillThreeColour&) override {}
     void Visit(const CFillFourColour&) override {}
     void Visit(const CFillFractal&) override {}

@@ -4,6 +4,8 @@
 #include "gdi/CFillBitmap.h"
 #include "gdi/CFillGradient.h"
 #include "gdi/CMonoColour.h"
+#include "geometry/CoordinateRange.h"
+#include "geometry/K2DGeometry.h"
 #include "geometry/K2DStraightLine.h"
 #include "geometry/Rounding.h"
 #include "platform/CCmdUI.h"
@@ -61,6 +63,25 @@ K2DArrayPoint FillToolGradient::SquareOnLine(CPoint start, CPoint end)
     outline.Add(line.PointAtPerpendicularDistance(start, half).Round());
     outline.AddClose(0);
     return outline;
+}
+
+K2DArrayPoint FillToolGradient::AxesParallelogram(CPoint centre, CPoint end, CPoint shape)
+{
+    const long long ux = static_cast<long long>(end.x) - centre.x, uy = static_cast<long long>(end.y) - centre.y;
+    const long long vx = static_cast<long long>(shape.x) - centre.x, vy = static_cast<long long>(shape.y) - centre.y;
+    constexpr int kCorners[4][2] = {{-1, -1}, {1, -1}, {1, 1}, {-1, 1}};
+    K2DArrayPoint outline;
+    for (const auto& [su, sv] : kCorners)
+        outline.Add(Kesto2D::OffsetPoint(centre, su * ux + sv * vx, su * uy + sv * vy));
+    outline.AddClose(0);
+    return outline;
+}
+
+CRect FillToolGradient::LongerAxisBox(CPoint centre, CPoint end, CPoint shape)
+{
+    using Kesto2D::K2DGeometry::IDist;
+    const CPoint far = IDist(centre, shape) > IDist(centre, end) ? shape : end;
+    return {centre.x, centre.y, far.x, far.y};
 }
 
 int FillToolGradient::GetExtendedNode() const
@@ -161,11 +182,14 @@ bool FillToolGradient::OnFillCellDrop(CPoint& point, const CColour* colour)
         SetGradientColour(GradientIndex(h), colour);
         return true;
     }
-    if (IsPointOnLine(point, -1) && CanCreateNewNode()) {
-        AddGradientNode(*colour, GetPercentageFromPoint(point));
-        return true;
-    }
-    return false;
+    if (!IsPointOnLine(point, -1) || !CanCreateNewNode())
+        return false;
+    // A line of no length has no position to add a stop at (-1), as for a click.
+    const int position = GetPercentageFromPoint(point);
+    if (position == -1)
+        return false;
+    AddGradientNode(*colour, position);
+    return true;
 }
 
 int FillToolGradient::SetGradientValue(int index, int value)

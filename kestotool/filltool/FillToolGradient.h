@@ -86,6 +86,11 @@ public:
     int LastStopForExtendedNode(int handle) const { return IsExtendedNode(handle) ? GetNumGradientNodes() - 1 : handle; }
     // The square whose centre line runs from start to end, as a closed outline of four corners.
     static K2DArrayPoint SquareOnLine(CPoint start, CPoint end);
+    // The parallelogram centre +- (end - centre) +- (shape - centre), closed: the outline of a
+    // fill spanned by two axes from its centre.
+    static K2DArrayPoint AxesParallelogram(CPoint centre, CPoint end, CPoint shape);
+    // The rectangle from centre to the farther of end and shape (end when they are as far).
+    static CRect LongerAxisBox(CPoint centre, CPoint end, CPoint shape);
 
 protected:
     const Platform::AFX_MSGMAP* GetMessageMap() const override;

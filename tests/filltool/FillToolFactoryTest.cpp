@@ -4,6 +4,7 @@
 #include "filltool/FillToolElliptical.h"
 #include "filltool/FillToolLinear.h"
 #include "filltool/FillToolRadial.h"
+#include "filltool/FillToolSquare.h"
 #include "gdi/FillKinds.h"
 #include "support/TestToolSite.h"
 
@@ -22,6 +23,7 @@ TEST(FillToolFactory, EachKindGetsItsToolOrNone)
         {KestoGDI::FillType::Radial, &typeid(FillToolRadial)},
         {KestoGDI::FillType::Elliptical, &typeid(FillToolElliptical)},
         {KestoGDI::FillType::Conical, &typeid(FillToolConical)},
+        {KestoGDI::FillType::Square, &typeid(FillToolSquare)},
     };
     KestoTest::TestToolSite site;
     for (const KestoGDI::FillKind& kind : KestoGDI::FillKinds::All()) {
