@@ -2,14 +2,18 @@
 
 #include "filltool/FillToolConical.h"
 #include "filltool/FillToolElliptical.h"
+#include "filltool/FillToolFourColour.h"
 #include "filltool/FillToolLinear.h"
 #include "filltool/FillToolRadial.h"
 #include "filltool/FillToolSquare.h"
+#include "filltool/FillToolThreeColour.h"
 #include "gdi/CFillConical.h"
 #include "gdi/CFillEllipse.h"
+#include "gdi/CFillFourColour.h"
 #include "gdi/CFillLinear.h"
 #include "gdi/CFillRadial.h"
 #include "gdi/CFillSquare.h"
+#include "gdi/CFillThreeColour.h"
 
 namespace KestoTool {
 
@@ -32,8 +36,8 @@ public:
     void Visit(const CFillEllipse& fill) override { Make<FillToolElliptical>(fill); }
     void Visit(const CFillConical& fill) override { Make<FillToolConical>(fill); }
     void Visit(const CFillSquare& fill) override { Make<FillToolSquare>(fill); }
-    void Visit(const CFillThreeColour&) override {}
-    void Visit(const CFillFourColour&) override {}
+    void Visit(const CFillThreeColour& fill) override { Make<FillToolThreeColour>(fill); }
+    void Visit(const CFillFourColour& fill) override { Make<FillToolFourColour>(fill); }
     void Visit(const CFillFractal&) override {}
     void Visit(const CFillBitmap&) override {}
     void Visit(const CFillDiscreteMesh&) override {}

@@ -486,6 +486,40 @@ void FillToolGradient::DrawControlBoxes(CRenderContext* context) const
     }
 }
 
+void FillToolGradient::DrawHandleOutline(IRenderTarget* target, bool outlineOnly) const
+{
+    K2DArrayPoint handles;
+    BaseGetHandles(&handles);
+    handles.AddClose(0);
+    DrawControlLine(target, outlineOnly, handles, true);
+}
+
+void FillToolGradient::DrawHandleOutline(CRenderContext* context) const
+{
+    K2DArrayPoint handles;
+    BaseGetHandles(&handles);
+    handles.AddClose(0);
+    DrawControlLine(context, handles, false);
+}
+
+void FillToolGradient::DrawNodeBoxes(IRenderTarget* target, bool outlineOnly) const
+{
+    K2DArrayPoint handles;
+    BaseGetHandles(&handles);
+    const ColourIntPairs& nodes = GetGradientNodes();
+    for (int i = 0; i < std::min(handles.GetSize(), nodes.GetSize()); ++i)
+        DrawBoxControl(target, outlineOnly, handles.GetAt(i), &nodes.GetAt(i)->GetColour(), i);
+}
+
+void FillToolGradient::DrawNodeBoxes(CRenderContext* context) const
+{
+    K2DArrayPoint handles;
+    BaseGetHandles(&handles);
+    const ColourIntPairs& nodes = GetGradientNodes();
+    for (int i = 0; i < std::min(handles.GetSize(), nodes.GetSize()); ++i)
+        DrawBoxControl(context, handles.GetAt(i), nodes.GetAt(i)->GetColour().GetRGB(), i);
+}
+
 void FillToolGradient::InitContextButtons(CXTPCommandBars* bars)
 {
     FillTool::InitContextButtons(bars);

@@ -59,6 +59,13 @@ public:
     void DeleteCurrentNode() { DeleteGradientNode(GetCurrentNode()); }
     void DrawControlBoxes(CRenderContext* context) const;
     void DrawControlBoxes(IRenderTarget* target, bool outlineOnly) const;
+    // A closed control line through the handles in handle order.
+    void DrawHandleOutline(IRenderTarget* target, bool outlineOnly) const;
+    void DrawHandleOutline(CRenderContext* context) const;
+    // A box per node-list entry i at handle i, in entry i's colour: the corner tools' handles,
+    // whose node list holds one colour per corner.
+    void DrawNodeBoxes(IRenderTarget* target, bool outlineOnly) const;
+    void DrawNodeBoxes(CRenderContext* context) const;
     // Gives the fill its default placement over the object; with max, a bitmap fill grows the
     // box to the bitmap's proportions so that it still covers the object.
     void FitToShape(bool max);

@@ -14,6 +14,8 @@
 #include "gdi/CFillThreeColour.h"
 #include "gdi/CFillVector.h"
 
+#include <utility>
+
 namespace KestoGDI {
 
 namespace {
@@ -92,6 +94,9 @@ private:
         Paint& p = Start(kind, fill);
         for (const CColourIntPair& stop : fill.GetColourIntPairs())
             p.colours.push_back(ToRgba(stop.GetColour()));
+        // A four-colour list goes round the figure (P0, P1, P3, P2); the paint wants point order.
+        if (kind == Paint::Kind::FourColour && p.colours.size() == 4)
+            std::swap(p.colours[2], p.colours[3]);
     }
 };
 

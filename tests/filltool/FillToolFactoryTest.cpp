@@ -2,9 +2,11 @@
 
 #include "filltool/FillToolConical.h"
 #include "filltool/FillToolElliptical.h"
+#include "filltool/FillToolFourColour.h"
 #include "filltool/FillToolLinear.h"
 #include "filltool/FillToolRadial.h"
 #include "filltool/FillToolSquare.h"
+#include "filltool/FillToolThreeColour.h"
 #include "gdi/FillKinds.h"
 #include "support/TestToolSite.h"
 
@@ -24,6 +26,8 @@ TEST(FillToolFactory, EachKindGetsItsToolOrNone)
         {KestoGDI::FillType::Elliptical, &typeid(FillToolElliptical)},
         {KestoGDI::FillType::Conical, &typeid(FillToolConical)},
         {KestoGDI::FillType::Square, &typeid(FillToolSquare)},
+        {KestoGDI::FillType::ThreeColour, &typeid(FillToolThreeColour)},
+        {KestoGDI::FillType::FourColour, &typeid(FillToolFourColour)},
     };
     KestoTest::TestToolSite site;
     for (const KestoGDI::FillKind& kind : KestoGDI::FillKinds::All()) {

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "filltool/FillToolGradient.h"
+
+namespace KestoTool {
+
+// Edits a four-colour fill or transparency: colour blended over the quadrilateral P0, P1, P3,
+// P2 (P3 opposite P0). The handles go round the figure, P0, P1, P3, P2, so handle 2 is the
+// opposite corner; handle i shows and edits node-list entry i. Dragging P1 or P2 keeps the
+// figure a parallelogram about P0; dragging P3 slides both neighbours along their edges (with
+// Ctrl, P3 itself moves only along the diagonal through P0).
+class FillToolFourColour : public FillToolGradient {
+    KESTO_DECLARE_DYNAMIC(FillToolFourColour)
+public:
+    FillToolFourColour(const CFill* fill, IToolSite* site) : FillToolGradient(fill, site) {}
+
+    void OnDragStart(CPoint& point, unsigned int flags) override;
+    void OnDragChange(CPoint& point, unsigned int flags) override;
+    void Draw(IRenderTarget* target, bool outlineOnly, const K2DLtGeneral& view) const override;
+    void Draw(CRenderContext* context) const override;
+    // The bounding box of the four corners.
+    CRect GetFillRect(const CFill* fill) override;
+    // The tool has no hint of its own: the text is made empty.
+    int GetHintLine(CString* out) const override;
+    // P0, P1, P3, P2.
+    void BaseGetHandles(K2DArrayPoint* handles) const override;
+    // The sides P2-P3 and P2-P0 at least 50 long.
+    bool CheckSize() const override;
+    // P2, P3, P1, P0, closed.
+    K2DArrayPoint GetEffectiveBBox(const CFill* fill) override;
+
+private:
+    struct Corners {
+        CPoint p0, p1, p2, p3;
+    };
+    bool GetCorners(const CFill* fill, Corners& corners) const;
+    void SetCorners(const Corners& corners);
+
+    Corners m_atPress{};
+};
+
+} // namespace KestoTool
