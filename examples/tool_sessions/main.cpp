@@ -1,17 +1,23 @@
-// Scripted sessions with the radial, elliptical, conical and square fill tools on the small
-// headless host: each creates a fill with Ctrl, drags its handles with and without a modifier,
-// drops colours on its line, slides and deletes a stop, printing every step. Each result is
-// written as a picture painted by the renderer with the tool's own lines and handles over it.
+// Scripted sessions with the radial, elliptical, conical, square, three-colour, four-colour,
+// plasma and bitmap fill tools on the small headless host: each creates a fill (with Ctrl, from
+// the object's centre), drags its handles with and without a modifier and drops colours, and
+// prints every step. Each result is written as a picture painted by the renderer with the
+// tool's own lines and handles over it.
 #include "DemoHost.h"
 #include "SessionLog.h"
 #include "SessionPicture.h"
 
 #include "filltool/FillToolFactory.h"
+#include "gdi/CFillBitmap.h"
 #include "gdi/CFillConical.h"
 #include "gdi/CFillEllipse.h"
+#include "gdi/CFillFourColour.h"
+#include "gdi/CFillFractal.h"
 #include "gdi/CFillRadial.h"
 #include "gdi/CFillSquare.h"
+#include "gdi/CFillThreeColour.h"
 #include "gdi/CRGBColour.h"
+#include "gdi/PngFile.h"
 #include "geometry/K2DLtRotate.h"
 #include "tool/ToolIdMap.h"
 
@@ -26,22 +32,94 @@ using Platform::CPoint;
 
 namespace {
 
-struct Session {
-    const char* name;
-    std::function<Kernel::RefPtr<CFill>()> make;
-    // The point at fraction f of the fill's line: along the radius or axis C-E, or round the
-    // conical half circle from R.
-    std::function<CPoint(const CFill&, double)> along;
+const Platform::CRect kObject(0, 0, 400, 240);
+
+// One session's host and tool, and the steps a script plays on them.
+class Player {
+public:
+    explicit Player(Kernel::RefPtr<CFill> fill) : m_host(kObject)
+    {
+        m_host.fill = std::move(fill);
+        m_tool = FillToolFactory::Create(m_host.fill.get(), &m_host);
+        m_host.tool = m_tool.get();
+        ReportStep("start: the rectangle's fill", m_host, *m_tool, m_host.commits);
+    }
+
+    CPoint Handle(int index) const
+    {
+        K2DArrayPoint handles;
+        m_tool->GetHandles(&handles);
+        return handles.GetAt(index);
+    }
+    int HandleCount() const
+    {
+        K2DArrayPoint handles;
+        m_tool->GetHandles(&handles);
+        return handles.GetSize();
+    }
+    const CFill& Fill() const { return *m_host.fill; }
+
+    void Create(const char* what)
+    {
+        const int before = m_host.commits;
+        m_host.create = true;
+        m_host.Drag({60, 50}, {300, 100}, DragFlagCtrl);
+        ReportStep(what, m_host, *m_tool, before);
+    }
+    void Drag(const char* what, CPoint from, CPoint to, unsigned flags = 0)
+    {
+        const int before = m_host.commits;
+        m_host.Drag(from, to, flags);
+        ReportStep(what, m_host, *m_tool, before);
+    }
+    void DragHandle(const char* what, int handle, int dx, int dy, unsigned flags = 0)
+    {
+        const CPoint from = Handle(handle);
+        Drag(what, from, {from.x + dx, from.y + dy}, flags);
+    }
+    void Drop(const char* what, CPoint at, Platform::COLORREF colour)
+    {
+        const int before = m_host.commits;
+        const KestoGDI::CRGBColour dropped(colour);
+        m_tool->OnFillCellDrop(at, &dropped);
+        ReportStep(what, m_host, *m_tool, before);
+    }
+    void Delete(const char* what, CPoint at)
+    {
+        const int before = m_host.commits;
+        m_host.Click(at);
+        m_tool->OnKeyDown(KeyDelete, 1, 0);
+        ReportStep(what, m_host, *m_tool, before);
+    }
+    bool Picture(const std::string& path) const
+    {
+        if (!WriteSessionPicture(path, kObject, *m_host.fill, *m_tool)) {
+            std::cerr << "cannot write " << path << '\n';
+            return false;
+        }
+        std::cout << "\npainted by the renderer: " << path << '\n';
+        return true;
+    }
+
+private:
+    DemoHost m_host;
+    std::unique_ptr<FillTool> m_tool;
 };
 
+constexpr Platform::COLORREF kNavy = Platform::RGB(20, 40, 120);
+constexpr Platform::COLORREF kGold = Platform::RGB(250, 210, 60);
+constexpr Platform::COLORREF kOrange = Platform::RGB(230, 90, 30);
+constexpr Platform::COLORREF kTeal = Platform::RGB(0, 150, 160);
+
 template <class Fill>
-Kernel::RefPtr<CFill> Starting(const Platform::CRect& object)
+Kernel::RefPtr<CFill> Starting(std::initializer_list<Platform::COLORREF> colours)
 {
     Fill fill;
-    fill.SetDefaultControls(object);
+    fill.SetDefaultControls(kObject);
     KestoGDI::ColourIntPairs stops;
-    stops.Add(KestoGDI::CRGBColour(Platform::RGB(20, 40, 120)), 0);
-    stops.Add(KestoGDI::CRGBColour(Platform::RGB(250, 210, 60)), 10000);
+    int i = 0;
+    for (Platform::COLORREF c : colours)
+        stops.Add(KestoGDI::CRGBColour(c), colours.size() == 2 ? 10000 * i++ : 0);
     fill.SetColourIntPairs(stops);
     return fill.Clone();
 }
@@ -54,77 +132,45 @@ CPoint AlongAxis(const CFill& fill, double f)
 
 CPoint AroundHalfCircle(const CFill& fill, double f)
 {
-    const Kesto2D::K2DDblPoint c = fill.GetControlPoint(0);
-    const Kesto2D::K2DLtGeneral turn =
-        Kesto2D::K2DLtGeneral::About(c, Kesto2D::K2DLtRotate(Kesto2D::KCAngle(static_cast<int>(f * 18000))));
+    const Kesto2D::K2DLtGeneral turn = Kesto2D::K2DLtGeneral::About(
+        fill.GetControlPoint(0), Kesto2D::K2DLtRotate(Kesto2D::KCAngle(static_cast<int>(f * 18000))));
     return turn.ApplyTo(fill.GetControlPoint(1)).Round();
 }
 
-CPoint Moved(CPoint p, int dx, int dy)
+// The stop kinds: create, drag the first handle, the last stop's with Shift and any extra one
+// with Ctrl, drop two colours on the line, slide one stop and delete the other.
+void PlayStops(Player& p, const std::function<CPoint(const CFill&, double)>& along)
 {
-    return {p.x + dx, p.y + dy};
+    p.Create("drag out a new fill with Ctrl: it starts at the object's centre");
+    p.DragHandle("drag the first handle by (24, 16)", 0, 24, 16);
+    p.DragHandle("drag the last stop's handle with Shift: the angle snaps to 15-degree steps", 1, -30, 50, DragFlagShift);
+    if (p.HandleCount() > 2)
+        p.DragHandle("drag the extra handle with Ctrl", 2, 10, -25, DragFlagCtrl);
+    p.Drop("drop orange at 40% of the line", along(p.Fill(), 0.4), kOrange);
+    p.Drop("drop teal at 70% of the line", along(p.Fill(), 0.7), kTeal);
+    p.Drag("slide the orange stop to 55%", along(p.Fill(), 0.4), along(p.Fill(), 0.55));
+    p.Delete("select the teal stop and press Delete", along(p.Fill(), 0.7));
 }
 
-bool Play(const Session& session, const std::string& directory)
+// The corner kinds: create, move the whole figure, turn an arm with Shift, drag the third
+// handle with Ctrl, recolour two corners.
+void PlayCorners(Player& p)
 {
-    DemoHost host(CRect(0, 0, 400, 240));
-    host.fill = session.make();
-    const std::unique_ptr<FillTool> made = FillToolFactory::Create(host.fill.get(), &host);
-    FillTool& tool = *made;
-    host.tool = &tool;
-    std::cout << "\n#### " << session.name << " fill session on a 400 x 240 rectangle\n";
-    int before = host.commits;
-    ReportStep("start: the rectangle's fill", host, tool, before);
+    p.Create("drag out a new fill with Ctrl: it starts at the object's centre");
+    p.DragHandle("drag the first corner by (-40, 20): the whole figure moves", 0, -40, 20);
+    p.DragHandle("drag corner 1 with Shift: its angle snaps", 1, 20, 60, DragFlagShift);
+    p.DragHandle("drag corner 2 with Ctrl", 2, 30, 30, DragFlagCtrl);
+    p.Drop("drop orange on corner 1", p.Handle(1), kOrange);
+    p.Drop("drop teal on corner 2", p.Handle(2), kTeal);
+}
 
-    before = host.commits;
-    host.create = true;
-    host.Drag({60, 50}, {300, 100}, DragFlagCtrl);
-    ReportStep("drag out a new fill with Ctrl: it starts at the object's centre", host, tool, before);
-
-    K2DArrayPoint handles;
-    tool.GetHandles(&handles);
-    before = host.commits;
-    host.Drag(handles.GetAt(0), Moved(handles.GetAt(0), 24, 16), 0);
-    ReportStep("drag the first handle by (24, 16)", host, tool, before);
-
-    handles.RemoveAll();
-    tool.GetHandles(&handles);
-    const int stops = 2;
-    before = host.commits;
-    host.Drag(handles.GetAt(stops - 1), Moved(handles.GetAt(stops - 1), -30, 50), DragFlagShift);
-    ReportStep("drag the last stop's handle with Shift: the angle snaps to 15-degree steps", host, tool, before);
-
-    handles.RemoveAll();
-    tool.GetHandles(&handles);
-    if (handles.GetSize() > stops) {
-        before = host.commits;
-        host.Drag(handles.GetAt(stops), Moved(handles.GetAt(stops), 10, -25), DragFlagCtrl);
-        ReportStep("drag the extra handle with Ctrl", host, tool, before);
-    }
-
-    before = host.commits;
-    CPoint drop = session.along(*host.fill, 0.4);
-    tool.OnFillCellDrop(drop, std::make_unique<KestoGDI::CRGBColour>(Platform::RGB(230, 90, 30)).get());
-    drop = session.along(*host.fill, 0.7);
-    tool.OnFillCellDrop(drop, std::make_unique<KestoGDI::CRGBColour>(Platform::RGB(0, 150, 160)).get());
-    ReportStep("drop orange at 40% and teal at 70% of the line", host, tool, before);
-
-    before = host.commits;
-    host.Drag(session.along(*host.fill, 0.4), session.along(*host.fill, 0.55), 0);
-    ReportStep("slide the orange stop to 55%", host, tool, before);
-
-    before = host.commits;
-    host.Click(session.along(*host.fill, 0.7));
-    tool.OnKeyDown(KeyDelete, 1, 0);
-    ReportStep("select the teal stop and press Delete", host, tool, before);
-
-    const std::string path = directory + "/" + session.name + "-session.png";
-    if (!WriteSessionPicture(path, host.Object(), *host.fill, tool)) {
-        std::cerr << "cannot write " << path << '\n';
-        return false;
-    }
-    std::cout << "\npainted by the renderer: " << path << '\n';
-    return true;
+bool Run(const char* name, Kernel::RefPtr<CFill> fill, const std::function<void(Player&)>& script,
+         const std::string& directory)
+{
+    std::cout << "\n#### " << name << " fill session on a 400 x 240 rectangle\n";
+    Player player(std::move(fill));
+    script(player);
+    return player.Picture(directory + "/" + name + "-session.png");
 }
 
 } // namespace
@@ -132,16 +178,47 @@ bool Play(const Session& session, const std::string& directory)
 int main(int argc, char** argv)
 {
     const std::string directory = argc > 1 ? argv[1] : ".";
+    const std::string tilePath = argc > 2 ? argv[2] : KESTO_SAMPLE_TILE;
     KestoTool::Init(1000, 1100);
-    const Platform::CRect object(0, 0, 400, 240);
-    const Session sessions[] = {
-        {"radial", [&] { return Starting<KestoGDI::CFillRadial>(object); }, AlongAxis},
-        {"elliptical", [&] { return Starting<KestoGDI::CFillEllipse>(object); }, AlongAxis},
-        {"conical", [&] { return Starting<KestoGDI::CFillConical>(object); }, AroundHalfCircle},
-        {"square", [&] { return Starting<KestoGDI::CFillSquare>(object); }, AlongAxis},
-    };
-    for (const Session& session : sessions)
-        if (!Play(session, directory))
-            return 1;
-    return 0;
+
+    std::string error;
+    const Kernel::RefPtr<KestoGDI::CLtBitmap> tile = KestoGDI::PngFile::Read(tilePath, &error);
+    if (!tile) {
+        std::cerr << error << '\n';
+        return 1;
+    }
+    KestoGDI::CFillBitmap bricks{Kernel::RefPtr<const KestoGDI::CLtBitmap>(tile)};
+    bricks.SetControls({40, 40}, {104, 40}, {40, 104});
+
+    const auto stops = [](auto along) { return [along](Player& p) { PlayStops(p, along); }; };
+    const bool ok =
+        Run("radial", Starting<KestoGDI::CFillRadial>({kNavy, kGold}), stops(AlongAxis), directory) &&
+        Run("elliptical", Starting<KestoGDI::CFillEllipse>({kNavy, kGold}), stops(AlongAxis), directory) &&
+        Run("conical", Starting<KestoGDI::CFillConical>({kNavy, kGold}), stops(AroundHalfCircle), directory) &&
+        Run("square", Starting<KestoGDI::CFillSquare>({kNavy, kGold}), stops(AlongAxis), directory) &&
+        Run("three-colour", Starting<KestoGDI::CFillThreeColour>({kNavy, kGold, Platform::RGB(200, 40, 90)}), PlayCorners,
+            directory) &&
+        Run("four-colour",
+            Starting<KestoGDI::CFillFourColour>({kNavy, kGold, Platform::RGB(200, 40, 90), Platform::RGB(40, 170, 90)}),
+            PlayCorners, directory) &&
+        Run("plasma", Starting<KestoGDI::CFillFractal>({kNavy, kGold}),
+            [](Player& p) {
+                p.Create("drag out a new plasma with Ctrl: it starts at the object's centre");
+                const int p1 = p.HandleCount() - 2;
+                p.DragHandle("drag P1 with Shift: the angle snaps and P2 turns with it", p1, 40, 30, DragFlagShift);
+                p.DragHandle("drag P2 alone: the stop line stays", p1 + 1, -30, 20);
+                p.DragHandle("drag P2 with Shift: the stop line turns with it", p1 + 1, 30, 10, DragFlagShift);
+                p.Drop("drop orange at half the stop line", AlongAxis(p.Fill(), 0.5), kOrange);
+                p.Drag("slide it to a quarter", AlongAxis(p.Fill(), 0.5), AlongAxis(p.Fill(), 0.25));
+            },
+            directory) &&
+        Run("bitmap", bricks.Clone(),
+            [](Player& p) {
+                p.DragHandle("drag P1 by (40, 30): the tile turns and grows, P2 turns with it", 1, 40, 30);
+                p.DragHandle("drag P1 with Shift alone: no constraint, as if Shift were not held", 1, 7, 3, DragFlagShift);
+                p.DragHandle("drag P2 with Ctrl: P1 moves by the perpendicular offset", 2, -20, 10, DragFlagCtrl);
+                p.DragHandle("drag P0 by (60, 40): the tile moves", 0, 60, 40);
+            },
+            directory);
+    return ok ? 0 : 1;
 }

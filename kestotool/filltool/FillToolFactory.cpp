@@ -1,15 +1,19 @@
 #include "filltool/FillToolFactory.h"
 
+#include "filltool/FillToolBitmap.h"
 #include "filltool/FillToolConical.h"
 #include "filltool/FillToolElliptical.h"
 #include "filltool/FillToolFourColour.h"
 #include "filltool/FillToolLinear.h"
+#include "filltool/FillToolPlasma.h"
 #include "filltool/FillToolRadial.h"
 #include "filltool/FillToolSquare.h"
 #include "filltool/FillToolThreeColour.h"
 #include "gdi/CFillConical.h"
+#include "gdi/CFillBitmap.h"
 #include "gdi/CFillEllipse.h"
 #include "gdi/CFillFourColour.h"
+#include "gdi/CFillFractal.h"
 #include "gdi/CFillLinear.h"
 #include "gdi/CFillRadial.h"
 #include "gdi/CFillSquare.h"
@@ -38,8 +42,8 @@ public:
     void Visit(const CFillSquare& fill) override { Make<FillToolSquare>(fill); }
     void Visit(const CFillThreeColour& fill) override { Make<FillToolThreeColour>(fill); }
     void Visit(const CFillFourColour& fill) override { Make<FillToolFourColour>(fill); }
-    void Visit(const CFillFractal&) override {}
-    void Visit(const CFillBitmap&) override {}
+    void Visit(const CFillFractal& fill) override { Make<FillToolPlasma>(fill); }
+    void Visit(const CFillBitmap& fill) override { Make<FillToolBitmap>(fill); }
     void Visit(const CFillDiscreteMesh&) override {}
     void Visit(const CFillVector&) override {}
 

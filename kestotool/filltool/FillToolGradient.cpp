@@ -77,6 +77,17 @@ K2DArrayPoint FillToolGradient::AxesParallelogram(CPoint centre, CPoint end, CPo
     return outline;
 }
 
+K2DArrayPoint FillToolGradient::CornerParallelogram(CPoint p0, CPoint p1, CPoint p2)
+{
+    K2DArrayPoint outline;
+    outline.Add(p0);
+    outline.Add(p1);
+    outline.Add(Kesto2D::OffsetPoint(p2, static_cast<long long>(p1.x) - p0.x, static_cast<long long>(p1.y) - p0.y));
+    outline.Add(p2);
+    outline.AddClose(0);
+    return outline;
+}
+
 CRect FillToolGradient::LongerAxisBox(CPoint centre, CPoint end, CPoint shape)
 {
     using Kesto2D::K2DGeometry::IDist;

@@ -96,6 +96,9 @@ public:
     // The parallelogram centre +- (end - centre) +- (shape - centre), closed: the outline of a
     // fill spanned by two axes from its centre.
     static K2DArrayPoint AxesParallelogram(CPoint centre, CPoint end, CPoint shape);
+    // The parallelogram p0, p1, p1 + p2 - p0, p2, closed: the outline of a fill spanned by two
+    // arms from its corner p0.
+    static K2DArrayPoint CornerParallelogram(CPoint p0, CPoint p1, CPoint p2);
     // The rectangle from centre to the farther of end and shape (end when they are as far).
     static CRect LongerAxisBox(CPoint centre, CPoint end, CPoint shape);
 

@@ -18,11 +18,6 @@ void ReportNoFill(int line)
     Kernel::VerifyFailed("KestoTool", kModule, line, "the tool has no fill: give it one");
 }
 
-CPoint Offset(CPoint p, CPoint from, CPoint to)
-{
-    return Kesto2D::OffsetPoint(p, static_cast<long long>(to.x) - from.x, static_cast<long long>(to.y) - from.y);
-}
-
 } // namespace
 
 bool FillToolThreeColour::GetCorners(const CFill* fill, Corners& corners) const
@@ -89,20 +84,21 @@ void FillToolThreeColour::OnDragChange(CPoint& point, unsigned int flags)
     }
     Corners moved = s;
     if (node == 0) {
-        moved = {Offset(s.p0, anchor, point), Offset(s.p1, anchor, point), Offset(s.p2, anchor, point)};
+        moved = {Kesto2D::OffsetPoint(s.p0, anchor, point), Kesto2D::OffsetPoint(s.p1, anchor, point),
+                 Kesto2D::OffsetPoint(s.p2, anchor, point)};
         // P0 alone snaps: the arms keep the pointer's exact offset.
         if (!shift)
             Snap(moved.p0, moved.p0);
     } else if (node == 1) {
-        moved.p1 = Offset(s.p1, anchor, point);
+        moved.p1 = Kesto2D::OffsetPoint(s.p1, anchor, point);
         if (!shift)
             Snap(moved.p1, moved.p1);
-        moved.p2 = ctrl ? Offset(s.p2, anchor, perpendicular) : PreserveAngle(s.p0, s.p1, moved.p1, s.p2);
+        moved.p2 = ctrl ? Kesto2D::OffsetPoint(s.p2, anchor, perpendicular) : PreserveAngle(s.p0, s.p1, moved.p1, s.p2);
     } else if (node == 2) {
-        moved.p2 = Offset(s.p2, anchor, point);
+        moved.p2 = Kesto2D::OffsetPoint(s.p2, anchor, point);
         if (!shift)
             Snap(moved.p2, moved.p2);
-        moved.p1 = ctrl ? Offset(s.p1, anchor, perpendicular) : PreserveAngle(s.p0, s.p2, moved.p2, s.p1);
+        moved.p1 = ctrl ? Kesto2D::OffsetPoint(s.p1, anchor, perpendicular) : PreserveAngle(s.p0, s.p2, moved.p2, s.p1);
     } else {
         Kernel::VerifyFailed("KestoTool", kModule, __LINE__, "a drag needs a corner handle as the current node");
     }
@@ -184,12 +180,7 @@ K2DArrayPoint FillToolThreeColour::GetEffectiveBBox(const CFill* fill)
     }
     if (!GetCorners(fill, c))
         return outline;
-    outline.Add(c.p0);
-    outline.Add(c.p1);
-    outline.Add(Offset(c.p2, c.p0, c.p1));
-    outline.Add(c.p2);
-    outline.AddClose(0);
-    return outline;
+    return CornerParallelogram(c.p0, c.p1, c.p2);
 }
 
 } // namespace KestoTool

@@ -1,9 +1,14 @@
 #include "gdi/PngFile.h"
 
+#include "gdi/WadManager.h"
+
 #include <png.h>
 
 #include <algorithm>
 #include <cstdio>
+#include <cstring>
+#include <fstream>
+#include <iterator>
 #include <vector>
 
 namespace KestoGDI {
@@ -34,6 +39,32 @@ bool PngFile::WritePremultiplied(const std::string& path, const std::uint32_t* p
         return true;
     std::remove(path.c_str());
     return false;
+}
+
+Kernel::RefPtr<CLtBitmap> PngFile::Read(const std::string& path, std::string* error)
+{
+    const auto fail = [&](const std::string& why) {
+        if (error)
+            *error = path + ": " + why;
+        return Kernel::RefPtr<CLtBitmap>();
+    };
+    std::ifstream file(path, std::ios::binary);
+    if (!file)
+        return fail("cannot be opened");
+    std::vector<unsigned char> bytes;
+    char chunk[65536];
+    while (file.read(chunk, sizeof chunk) || file.gcount() > 0) {
+        bytes.insert(bytes.end(), chunk, chunk + file.gcount());
+        if (bytes.size() > WadManager::MaxEntryBytes)
+            return fail("larger than " + std::to_string(WadManager::MaxEntryBytes >> 20) + " MiB");
+    }
+    static constexpr unsigned char kSignature[8] = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
+    if (bytes.size() < sizeof kSignature || std::memcmp(bytes.data(), kSignature, sizeof kSignature) != 0)
+        return fail("not a PNG file");
+    Kernel::RefPtr<CLtBitmap> bitmap = WadManager::DecodePng(bytes.data(), bytes.size());
+    if (!bitmap)
+        return fail("damaged, or more than " + std::to_string(WadManager::MaxImageSide) + " pixels on a side");
+    return bitmap;
 }
 
 } // namespace KestoGDI

@@ -1,12 +1,15 @@
 #pragma once
 
+#include "gdi/CLtBitmap.h"
+#include "kernel/RefPtr.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
 
 namespace KestoGDI {
 
-// Writes pictures as PNG files through libpng.
+// Reads and writes pictures as PNG files through libpng.
 class PngFile {
 public:
     PngFile() = delete;
@@ -15,6 +18,10 @@ public:
     // straight alpha; false, and no file left behind, when it cannot be written.
     static bool WritePremultiplied(const std::string& path, const std::uint32_t* pixels, int width, int height,
                                    std::ptrdiff_t strideBytes);
+    // The picture in a PNG file as a bitmap (straight-alpha 0xAARRGGBB words), decoded as the
+    // image archive's entries are, with their size limits. Null, with the reason in error (when
+    // given) in plain words, for a file that cannot be read, is not a PNG or cannot be decoded.
+    static Kernel::RefPtr<CLtBitmap> Read(const std::string& path, std::string* error = nullptr);
 };
 
 } // namespace KestoGDI

@@ -26,6 +26,11 @@ constexpr Platform::CPoint OffsetPoint(const Platform::CPoint& p, long long dx, 
 {
     return SaturatePoint(p.x + dx, p.y + dy);
 }
+// p moved as far as from moves to reach to, saturated.
+constexpr Platform::CPoint OffsetPoint(const Platform::CPoint& p, const Platform::CPoint& from, const Platform::CPoint& to)
+{
+    return OffsetPoint(p, static_cast<long long>(to.x) - from.x, static_cast<long long>(to.y) - from.y);
+}
 // A double point clamped into the range: infinities go to the limits, NaN to 0.
 K2DDblPoint SaturateToRange(const K2DDblPoint& p);
 

@@ -1,9 +1,11 @@
 #include "filltool/FillToolFactory.h"
 
+#include "filltool/FillToolBitmap.h"
 #include "filltool/FillToolConical.h"
 #include "filltool/FillToolElliptical.h"
 #include "filltool/FillToolFourColour.h"
 #include "filltool/FillToolLinear.h"
+#include "filltool/FillToolPlasma.h"
 #include "filltool/FillToolRadial.h"
 #include "filltool/FillToolSquare.h"
 #include "filltool/FillToolThreeColour.h"
@@ -28,6 +30,8 @@ TEST(FillToolFactory, EachKindGetsItsToolOrNone)
         {KestoGDI::FillType::Square, &typeid(FillToolSquare)},
         {KestoGDI::FillType::ThreeColour, &typeid(FillToolThreeColour)},
         {KestoGDI::FillType::FourColour, &typeid(FillToolFourColour)},
+        {KestoGDI::FillType::Plasma, &typeid(FillToolPlasma)},
+        {KestoGDI::FillType::Bitmap, &typeid(FillToolBitmap)},
     };
     KestoTest::TestToolSite site;
     for (const KestoGDI::FillKind& kind : KestoGDI::FillKinds::All()) {

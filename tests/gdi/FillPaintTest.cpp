@@ -6,6 +6,7 @@
 #include "gdi/CRGBColour.h"
 #include "gdi/CTransparencyLinear.h"
 #include "gdi/FillPaint.h"
+#include "gdi/CFillFourColour.h"
 
 #include <gtest/gtest.h>
 
@@ -49,6 +50,17 @@ TEST(FillPaint, TransparenciesPaintTheirLevelsAndCornerKindsTheirCorners)
     EXPECT_EQ(corners->kind, Paint::Kind::ThreeColour);
     EXPECT_EQ(corners->colours.size(), 3u);
     EXPECT_TRUE(corners->stops.empty());
+
+    // A four-colour list goes round the figure (P0, P1, P3, P2); the paint is in point order.
+    CFillFourColour four;
+    KestoGDI::ColourIntPairs round;
+    for (int i = 0; i < 4; ++i)
+        round.Add(KestoGDI::CRGBColour(Platform::RGB(10 * i, 0, 0)), 0);
+    four.SetColourIntPairs(round);
+    const auto quad = FillPaint::From(four);
+    ASSERT_TRUE(quad);
+    EXPECT_EQ(quad->colours[2].r, 30);  // P2's colour is the list's last entry
+    EXPECT_EQ(quad->colours[3].r, 20);  // P3's is entry 2, its handle's
 
     CFillFractal plasma;
     plasma.SetSeed(42);

@@ -1,0 +1,228 @@
+#include "filltool/FillToolBitmap.h"
+
+#include "gdi/CFillBitmap.h"
+#include "geometry/CoordinateRange.h"
+#include "geometry/K2DGeometry.h"
+#include "kernel/VerifyReporter.h"
+
+namespace KestoTool {
+
+KESTO_IMPLEMENT_DYNAMIC(FillToolBitmap, FillToolGradient)
+
+namespace {
+
+void ReportNoFill(int line)
+{
+    Kernel::VerifyFailed("KestoTool", "FillToolBitmap", line, "the tool has no fill: give it one");
+}
+
+// The tile's handles place it; they show no colour of their own.
+constexpr unsigned long kHandleColour = 0xFFFFFF;
+
+} // namespace
+
+bool FillToolBitmap::GetPoints(const CFill* fill, Points& points) const
+{
+    const auto* bitmap = dynamic_cast<const KestoGDI::CFillBitmap*>(fill ? fill : GetFill());
+    if (!bitmap) {
+        if (!fill && GetFill())
+            ReportWrongKind();
+        return false;
+    }
+    points = {bitmap->GetControlPoint(0).Round(), bitmap->GetControlPoint(1).Round(), bitmap->GetControlPoint(2).Round()};
+    return true;
+}
+
+void FillToolBitmap::SetPoints(const Points& p)
+{
+    if (auto* bitmap = dynamic_cast<KestoGDI::CFillBitmap*>(GetWorkingFill()))
+        bitmap->SetControls(K2DDblPoint(p.p0), K2DDblPoint(p.p1), K2DDblPoint(p.p2));
+}
+
+int FillToolBitmap::GradientIndex(int handle) const
+{
+    return IsExtendedNode() ? GetNumGradientNodes() - 1 : handle;
+}
+
+void FillToolBitmap::OnDragStart(CPoint& point, unsigned int flags)
+{
+    if (!GetFill()) {
+        ReportNoFill(__LINE__);
+        return;
+    }
+    FillTool::OnDragStart(point, flags);
+    GetPoints(nullptr, m_atPress);
+    SetCurrentNode(IndexFromPoint(point));
+}
+
+void FillToolBitmap::OnDragChange(CPoint& point, unsigned int flags)
+{
+    if (!CheckDragStarted())
+        return;
+    const bool ctrl = (flags & DragFlagCtrl) != 0;
+    const bool creating = IsCreate();
+    const int n = GetNumGradientNodes();
+    const Points& s = m_atPress;
+    CPoint anchor = GetDragStart();
+    if (creating && ctrl)
+        anchor = GetCreateCentre(anchor);
+    // Shift alone on P1 is ignored: P1 then moves freely and snaps.
+    const bool shift = (flags & DragFlagShift) != 0 && (GetCurrentNode() != n - 1 || ctrl);
+    if (shift) {
+        const int node = GetCurrentNode();
+        if (creating) {
+            anchor = s.p0;
+            SetCurrentNode(n - 1);
+        } else if (node == 0) {
+            anchor = s.p0;
+        } else if (node == n - 1) {
+            anchor = s.p1;
+        } else if (node == n) {
+            anchor = s.p2;
+        }
+        ConstrainAnglePolar(s.p0, point);
+    }
+    const int node = GetCurrentNode();
+    const CPoint perpendicular =
+        CalculatePerpendicular(s.p0, s.p1, s.p2, anchor, point, !creating && node == n, !creating && node == n - 1);
+    if (creating) {
+        Snap(anchor, anchor);
+        if (!shift)
+            Snap(point, point);
+        SetPoints({anchor, point, perpendicular});
+        return;
+    }
+    Points moved = s;
+    if (node == 0) {
+        moved = {Kesto2D::OffsetPoint(s.p0, anchor, point), Kesto2D::OffsetPoint(s.p1, anchor, point),
+                 Kesto2D::OffsetPoint(s.p2, anchor, point)};
+        if (!shift)
+            Snap(moved.p0, moved.p0);
+    } else if (node == n - 1) {
+        moved.p1 = Kesto2D::OffsetPoint(s.p1, anchor, point);
+        if (!shift)
+            Snap(moved.p1, moved.p1);
+        moved.p2 = ctrl ? Kesto2D::OffsetPoint(s.p2, anchor, perpendicular) : PreserveAngle(s.p0, s.p1, moved.p1, s.p2);
+    } else if (node == n) {
+        moved.p2 = Kesto2D::OffsetPoint(s.p2, anchor, point);
+        if (!shift)
+            Snap(moved.p2, moved.p2);
+        moved.p1 = ctrl ? Kesto2D::OffsetPoint(s.p1, anchor, perpendicular) : PreserveAngle(s.p0, s.p2, moved.p2, s.p1);
+    } else {
+        if (node > 0 && node < n - 1) {
+            Points now;
+            GetPoints(nullptr, now);
+            SetCurrentNode(SetGradientValue(node, GetNodeValueFromPoints(now.p0, now.p1, point)));
+        }
+        return;
+    }
+    SetPoints(moved);
+}
+
+void FillToolBitmap::Draw(IRenderTarget* target, bool outlineOnly, const K2DLtGeneral& view) const
+{
+    Points p;
+    if (!target || !GetPoints(nullptr, p)) {
+        ReportNoFill(__LINE__);
+        return;
+    }
+    FillTool::Draw(target, outlineOnly, view);
+    DrawControlLine(target, outlineOnly, CornerParallelogram(p.p0, p.p1, p.p2), false);
+    DrawControlLine(target, outlineOnly, p.p0, p.p1, true);
+    DrawControlLine(target, outlineOnly, p.p0, p.p2, true);
+    K2DArrayPoint handles;
+    BaseGetHandles(&handles);
+    for (int i = 0; i < handles.GetSize(); ++i)
+        DrawBoxControl(target, outlineOnly, handles.GetAt(i), kHandleColour, i);
+}
+
+void FillToolBitmap::Draw(CRenderContext* context) const
+{
+    Points p;
+    if (!context || !GetPoints(nullptr, p)) {
+        ReportNoFill(__LINE__);
+        return;
+    }
+    DrawControlLine(context, CornerParallelogram(p.p0, p.p1, p.p2), false);
+    DrawControlLine(context, p.p0, p.p1, false);
+    DrawControlLine(context, p.p0, p.p2, false);
+    K2DArrayPoint handles;
+    BaseGetHandles(&handles);
+    for (int i = 0; i < handles.GetSize(); ++i)
+        DrawBoxControl(context, handles.GetAt(i), kHandleColour, i);
+}
+
+CRect FillToolBitmap::GetFillRect(const CFill* fill)
+{
+    Points p;
+    if (!GetPoints(fill, p)) {
+        if (!fill && !GetFill())
+            ReportNoFill(__LINE__);
+        return {};
+    }
+    return CornerParallelogram(p.p0, p.p1, p.p2).GetBBox();
+}
+
+K2DArrayPoint FillToolBitmap::GetEffectiveBBox(const CFill* fill)
+{
+    Points p;
+    if (!GetPoints(fill, p)) {
+        if (!fill && !GetFill())
+            ReportNoFill(__LINE__);
+        return {};
+    }
+    return CornerParallelogram(p.p0, p.p1, p.p2);
+}
+
+int FillToolBitmap::GetHintLine(CString* out) const
+{
+    if (out)
+        *out = CString();
+    return 1;
+}
+
+void FillToolBitmap::BaseGetHandles(K2DArrayPoint* handles) const
+{
+    Points p;
+    if (!GetPoints(nullptr, p))
+        return;
+    // A bitmap that is not recoloured has no stops; its axis handles are there all the same.
+    if (GetGradientNodes().GetSize() >= 2) {
+        AddGradientHandles(handles, p.p0, p.p1);
+    } else {
+        handles->Add(p.p0);
+        handles->Add(p.p1);
+    }
+    handles->Add(p.p2);
+}
+
+bool FillToolBitmap::IsPointOnLine(const CPoint& point, int tolerance) const
+{
+    Points p;
+    return GetPoints(nullptr, p) && IsPointOnNodeLine(p.p0, p.p1, point, tolerance);
+}
+
+int FillToolBitmap::GetPercentageFromPoint(CPoint point) const
+{
+    Points p;
+    if (!GetPoints(nullptr, p)) {
+        if (!GetFill())
+            ReportNoFill(__LINE__);
+        return -1;
+    }
+    return GetNodeValueFromPoints(p.p0, p.p1, point);
+}
+
+bool FillToolBitmap::CheckSize() const
+{
+    Points p;
+    if (!GetPoints(nullptr, p)) {
+        if (!GetFill())
+            ReportNoFill(__LINE__);
+        return false;
+    }
+    using Kesto2D::K2DGeometry::IDist;
+    return IDist(p.p0, p.p1) >= 50 && IDist(p.p0, p.p2) >= 50;
+}
+
+} // namespace KestoTool
