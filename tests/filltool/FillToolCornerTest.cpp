@@ -127,6 +127,21 @@ TEST_F(CornerTest, FourColourHandleTwoIsTheOppositeCornerAndHandleThreeIsP2)
     EXPECT_EQ(Last(), (P{{0, 0}, {0, 100}, {-100, 0}, {-100, 100}}));
 }
 
+TEST_F(CornerTest, FourColourOriginMovesEveryCornerAndShiftWorksFromTheDraggedCorner)
+{
+    site.grid = 10;
+    auto tool = Make<FillToolFourColour>(kSquare);
+    site.Drag(*tool, {0, 0}, {{13, 4}});
+    EXPECT_EQ(Last(), (P{{10, 0}, {113, 4}, {13, 104}, {113, 104}}));
+    site.grid = 0;
+    site.angleStep = 4500;
+    site.angleSnapTolerance = 1000;
+    auto shifted = Make<FillToolFourColour>(kSquare);
+    site.Drag(*shifted, {100, 100}, {{160, 150}}, DragFlagShift);  // 45 degrees from P3's own start
+    const CPoint p3 = Last()[3];
+    EXPECT_EQ(p3.x - 100, p3.y - 100);
+}
+
 TEST_F(CornerTest, FourColourCtrlMovesTheOppositeCornerAlongTheDiagonal)
 {
     auto tool = Make<FillToolFourColour>(kSquare);

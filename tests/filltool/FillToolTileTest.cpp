@@ -126,6 +126,24 @@ TEST_F(TileTest, BitmapShiftOnP1CountsOnlyWithCtrl)
     EXPECT_EQ(Last(), (P{{10, 0}, {113, 4}, {13, 104}}));
 }
 
+TEST_F(TileTest, CreationSnapsTheEndsAndMakesP1Current)
+{
+    site.create = true;
+    site.grid = 10;
+    auto plasma = Make<FillToolPlasma>(Plasma({5000}));
+    site.Drag(*plasma, {21, 19}, {{118, 22}});
+    EXPECT_EQ(Last()[0], CPoint(20, 20));
+    EXPECT_EQ(Last()[1], CPoint(120, 20));
+    EXPECT_EQ(plasma->GetCurrentNode(), 2);
+    // The bitmap with Shift starts from its old P0 and constrains about it.
+    site.angleStep = 4500;
+    auto bitmap = Make<FillToolBitmap>(Tile());
+    site.Drag(*bitmap, {200, 100}, {{290, 8}}, DragFlagShift);
+    EXPECT_EQ(Last()[0], CPoint(0, 0));
+    EXPECT_EQ(Last()[1].y, 0);
+    EXPECT_EQ(bitmap->GetCurrentNode(), 1);
+}
+
 TEST_F(TileTest, WithoutAFillEveryOperationReports)
 {
     std::vector<std::string> modules;
