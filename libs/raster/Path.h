@@ -1,0 +1,38 @@
+#pragma once
+
+#include "raster/Paint.h"
+
+#include <vector>
+
+namespace KestoRaster {
+
+// An outline of straight and cubic Bezier pieces in paint space: the shapes of a small drawing
+// that a vector fill repeats. Each piece started by MoveTo is closed when it is filled.
+class Path {
+public:
+    void MoveTo(Point p);
+    void LineTo(Point p);
+    void CubicTo(Point c1, Point c2, Point end);
+    // Ends the current piece; the next LineTo or CubicTo starts from its first point again.
+    void Close();
+    bool IsEmpty() const { return m_verbs.empty(); }
+
+    // The pieces as closed polygons under toDevice, each cubic divided finely enough that no
+    // point strays more than tolerance (device pixels) from the curve. Pieces with a point that
+    // is not finite are left out.
+    std::vector<std::vector<Point>> Flatten(const Affine& toDevice, double tolerance = 0.02) const;
+
+private:
+    enum class Verb { Move, Line, Cubic, Close };
+    std::vector<Verb> m_verbs;
+    std::vector<Point> m_points;
+};
+
+// Writes into mask (a Mask8 target) the coverage of the filled path under toDevice, 0..255, at
+// each pixel of the clip: the exact area of the pixel that the outline covers by the non-zero
+// rule, so edges are anti-aliased without sampling. Pieces that wind the same way over a pixel
+// add up and clamp at full; pieces winding against each other cancel. Nothing outside the clip
+// is written.
+void RenderCoverage(const Path& path, const Affine& toDevice, const Target& mask, const Clip& clip);
+
+} // namespace KestoRaster
