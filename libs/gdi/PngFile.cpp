@@ -1,6 +1,7 @@
 #include "gdi/PngFile.h"
 
 #include "gdi/WadManager.h"
+#include "raster/Composite.h"
 
 #include <png.h>
 
@@ -22,13 +23,8 @@ bool PngFile::WritePremultiplied(const std::string& path, const std::uint32_t* p
     std::vector<std::uint32_t> straight(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
     for (int y = 0; y < height; ++y) {
         const auto* row = reinterpret_cast<const std::uint32_t*>(reinterpret_cast<const unsigned char*>(pixels) + y * strideBytes);
-        for (int x = 0; x < width; ++x) {
-            const std::uint32_t p = row[x];
-            const std::uint32_t a = p >> 24;
-            const auto un = [a](std::uint32_t c) { return a == 0 ? 0u : std::min<std::uint32_t>(255, (c * 255 + a / 2) / a); };
-            straight[static_cast<std::size_t>(y) * width + x] =
-                (a << 24) | (un((p >> 16) & 0xFF) << 16) | (un((p >> 8) & 0xFF) << 8) | un(p & 0xFF);
-        }
+        for (int x = 0; x < width; ++x)
+            straight[static_cast<std::size_t>(y) * width + x] = KestoRaster::Straight(row[x]);
     }
     png_image image{};
     image.version = PNG_IMAGE_VERSION;

@@ -44,4 +44,11 @@ void CompositeOver(const Target& destination, const Target& fill, const Target* 
     }
 }
 
+std::uint32_t Straight(std::uint32_t p)
+{
+    const std::uint32_t a = p >> 24;
+    const auto channel = [a](std::uint32_t c) { return a == 0 ? 0u : std::min<std::uint32_t>(255, (c * 255 + a / 2) / a); };
+    return a << 24 | channel(p >> 16 & 0xFF) << 16 | channel(p >> 8 & 0xFF) << 8 | channel(p & 0xFF);
+}
+
 } // namespace KestoRaster

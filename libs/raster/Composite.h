@@ -9,4 +9,8 @@ namespace KestoRaster {
 // target of the destination's size and mask, when given, a Mask8 one (none: fully covered).
 void CompositeOver(const Target& destination, const Target& fill, const Target* mask, const Clip& clip);
 
+// A premultiplied 0xAARRGGBB word with straight alpha instead (as PNG files and bitmaps keep
+// colours): each channel c becomes c x 255 / alpha rounded, at most 255; clear stays 0.
+std::uint32_t Straight(std::uint32_t premultiplied);
+
 } // namespace KestoRaster

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "gdi/CFill.h"
+#include "gdi/CLtBitmap.h"
+#include "kernel/CRefCount.h"
+#include "kernel/RefPtr.h"
+#include "raster/Path.h"
+
+#include <map>
+#include <mutex>
+#include <utility>
+#include <vector>
+
+namespace KestoGDI {
+
+// A small drawing of our own making: shapes of lines and cubic curves, each filled with a fill
+// of this model (solid, or any kind the renderer paints, placed in the drawing's coordinates),
+// painted in order over a clear background. Its coordinates run from (0, 0) to (width, height),
+// y down. It is what a vector fill repeats; it never changes once built, so fills share it.
+class VectorDrawing : public Kernel::CRefCount {
+public:
+    struct Shape {
+        KestoRaster::Path outline;
+        RefPtr<const CFill> fill;
+    };
+
+    // A side below 1 counts as 1.
+    VectorDrawing(int width, int height);
+
+    int GetWidth() const { return m_width; }
+    int GetHeight() const { return m_height; }
+    // A shape without a fill, or with one the renderer cannot paint, is ignored when painted.
+    void AddShape(KestoRaster::Path outline, RefPtr<const CFill> fill);
+    const std::vector<Shape>& GetShapes() const { return m_shapes; }
+
+    // The drawing painted into a bitmap of round(width x scaleX) by round(height x scaleY)
+    // pixels (at least 1 x 1, at most CLtBitmap::MaxSide a side), anti-aliased. Tiles are kept
+    // per size, so that a fill drawn again at the same scale reuses its tile; null for a scale
+    // that is not finite and positive.
+    RefPtr<const CLtBitmap> Tile(double scaleX, double scaleY) const;
+
+    std::size_t Measure() const override;
+
+private:
+    RefPtr<const CLtBitmap> Paint(int width, int height) const;
+
+    int m_width;
+    int m_height;
+    std::vector<Shape> m_shapes;
+    mutable std::mutex m_tilesLock;
+    mutable std::map<std::pair<int, int>, RefPtr<const CLtBitmap>> m_tiles;
+};
+
+} // namespace KestoGDI

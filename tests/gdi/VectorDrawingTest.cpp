@@ -1,0 +1,60 @@
+#include "gdi/VectorDrawing.h"
+
+#include "gdi/CFillLinear.h"
+#include "gdi/CFillSolid.h"
+#include "gdi/CRGBColour.h"
+
+#include <gtest/gtest.h>
+
+using namespace KestoGDI;
+
+namespace {
+
+KestoRaster::Path Box(double x0, double y0, double x1, double y1)
+{
+    KestoRaster::Path p;
+    p.MoveTo({x0, y0});
+    p.LineTo({x1, y0});
+    p.LineTo({x1, y1});
+    p.LineTo({x0, y1});
+    p.Close();
+    return p;
+}
+
+RefPtr<const CFill> Solid(Platform::COLORREF c)
+{
+    return Kernel::MakeRef<CFillSolid>(CRGBColour(c), true);
+}
+
+} // namespace
+
+TEST(VectorDrawing, ShapesArePaintedInOrderIntoATileOfTheScaledSize)
+{
+    VectorDrawing drawing(10, 10);
+    drawing.AddShape(Box(0, 0, 10, 10), Solid(Platform::RGB(0, 0, 255)));
+    drawing.AddShape(Box(5, 0, 10, 5), Solid(Platform::RGB(255, 0, 0)));
+    drawing.AddShape(Box(0, 5, 5, 10), nullptr);  // no fill: left out
+    const RefPtr<const CLtBitmap> tile = drawing.Tile(2, 3);
+    ASSERT_TRUE(tile);
+    EXPECT_EQ(tile->GetWidth(), 20);
+    EXPECT_EQ(tile->GetHeight(), 30);
+    EXPECT_EQ(tile->GetPixel(2, 25), 0xFF0000FFu);
+    EXPECT_EQ(tile->GetPixel(15, 5), 0xFFFF0000u);
+    EXPECT_EQ(tile->GetPixel(15, 25), 0xFF0000FFu);
+}
+
+TEST(VectorDrawing, ATileIsKeptPerSizeAndBadScalesGiveNone)
+{
+    VectorDrawing drawing(16, 8);
+    CFillLinear ramp;  // black to white across the drawing
+    ramp.SetControls({0, 0}, {16, 0});
+    drawing.AddShape(Box(0, 0, 16, 8), ramp.Clone());
+    const RefPtr<const CLtBitmap> once = drawing.Tile(1, 1);
+    ASSERT_TRUE(once);
+    EXPECT_EQ(drawing.Tile(1, 1).get(), once.get());
+    EXPECT_LT(once->GetPixel(0, 4) & 0xFF, 32u);
+    EXPECT_GT(once->GetPixel(15, 4) & 0xFF, 224u);
+    EXPECT_NE(drawing.Tile(2, 1).get(), once.get());
+    EXPECT_FALSE(drawing.Tile(0, 1));
+    EXPECT_FALSE(drawing.Tile(1, std::nan("")));
+}
