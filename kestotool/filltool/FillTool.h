@@ -236,6 +236,16 @@ protected:
     bool CheckDragStarted() const;
     // Reports, once per fill, that the tool's fill is not of the tool's kind.
     void ReportWrongKind() const;
+    // fill (the tool's own when null) as the tool's kind Kind; null when it is not one, which
+    // for the tool's own fill is reported once.
+    template <class Kind>
+    const Kind* FillOfKind(const CFill* fill) const
+    {
+        const auto* kind = dynamic_cast<const Kind*>(fill ? fill : GetFill());
+        if (!kind && !fill && GetFill())
+            ReportWrongKind();
+        return kind;
+    }
 
     // Puts a fill tool command (its own number) on the context bar through the site.
     void AddContextItem(int libraryCommand);

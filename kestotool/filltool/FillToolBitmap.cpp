@@ -23,12 +23,9 @@ constexpr unsigned long kHandleColour = 0xFFFFFF;
 
 bool FillToolBitmap::GetPoints(const CFill* fill, Points& points) const
 {
-    const auto* bitmap = dynamic_cast<const KestoGDI::CFillBitmap*>(fill ? fill : GetFill());
-    if (!bitmap) {
-        if (!fill && GetFill())
-            ReportWrongKind();
+    const auto* bitmap = FillOfKind<KestoGDI::CFillBitmap>(fill);
+    if (!bitmap)
         return false;
-    }
     points = {bitmap->GetControlPoint(0).Round(), bitmap->GetControlPoint(1).Round(), bitmap->GetControlPoint(2).Round()};
     return true;
 }
@@ -99,15 +96,13 @@ void FillToolBitmap::OnDragChange(CPoint& point, unsigned int flags)
         if (!shift)
             Snap(moved.p0, moved.p0);
     } else if (node == n - 1) {
-        moved.p1 = Kesto2D::OffsetPoint(s.p1, anchor, point);
-        if (!shift)
-            Snap(moved.p1, moved.p1);
-        moved.p2 = ctrl ? Kesto2D::OffsetPoint(s.p2, anchor, perpendicular) : PreserveAngle(s.p0, s.p1, moved.p1, s.p2);
+        const Arms arms = DragArmEnd(s.p0, s.p1, s.p2, anchor, point, perpendicular, shift, ctrl);
+        moved.p1 = arms.dragged;
+        moved.p2 = arms.other;
     } else if (node == n) {
-        moved.p2 = Kesto2D::OffsetPoint(s.p2, anchor, point);
-        if (!shift)
-            Snap(moved.p2, moved.p2);
-        moved.p1 = ctrl ? Kesto2D::OffsetPoint(s.p1, anchor, perpendicular) : PreserveAngle(s.p0, s.p2, moved.p2, s.p1);
+        const Arms arms = DragArmEnd(s.p0, s.p2, s.p1, anchor, point, perpendicular, shift, ctrl);
+        moved.p2 = arms.dragged;
+        moved.p1 = arms.other;
     } else {
         if (node > 0 && node < n - 1) {
             Points now;
@@ -176,9 +171,7 @@ K2DArrayPoint FillToolBitmap::GetEffectiveBBox(const CFill* fill)
 
 int FillToolBitmap::GetHintLine(CString* out) const
 {
-    if (out)
-        *out = CString();
-    return 1;
+    return EmptyHint(out);
 }
 
 void FillToolBitmap::BaseGetHandles(K2DArrayPoint* handles) const

@@ -17,12 +17,9 @@ KESTO_IMPLEMENT_DYNAMIC(FillToolConical, FillToolGradient)
 
 bool FillToolConical::GetSweep(const CFill* fill, CPoint& centre, CPoint& radiusEnd) const
 {
-    const auto* conical = dynamic_cast<const KestoGDI::CFillConical*>(fill ? fill : GetFill());
-    if (!conical) {
-        if (!fill && GetFill())
-            ReportWrongKind();
+    const auto* conical = FillOfKind<KestoGDI::CFillConical>(fill);
+    if (!conical)
         return false;
-    }
     centre = conical->GetCentre().Round();
     radiusEnd = conical->GetEnd().Round();
     return true;

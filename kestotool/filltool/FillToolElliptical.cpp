@@ -20,12 +20,9 @@ constexpr int kUnitRadius = 100;
 
 bool FillToolElliptical::GetAxes(const CFill* fill, Axes& axes) const
 {
-    const auto* ellipse = dynamic_cast<const KestoGDI::CFillEllipse*>(fill ? fill : GetFill());
-    if (!ellipse) {
-        if (!fill && GetFill())
-            ReportWrongKind();
+    const auto* ellipse = FillOfKind<KestoGDI::CFillEllipse>(fill);
+    if (!ellipse)
         return false;
-    }
     axes = {ellipse->GetCentre().Round(), ellipse->GetEnd().Round(), ellipse->GetShape().Round()};
     return true;
 }
@@ -83,29 +80,21 @@ void FillToolElliptical::OnDragChange(CPoint& point, unsigned int flags)
         SetAxes({press, point, perpendicular});
         return;
     }
-    const long long dx = static_cast<long long>(point.x) - press.x;
-    const long long dy = static_cast<long long>(point.y) - press.y;
-    const long long ex = static_cast<long long>(perpendicular.x) - press.x;
-    const long long ey = static_cast<long long>(perpendicular.y) - press.y;
     Axes moved = start;
     if (IsFirstNode()) {
-        moved = {Kesto2D::OffsetPoint(start.centre, dx, dy), Kesto2D::OffsetPoint(start.end, dx, dy),
-                 Kesto2D::OffsetPoint(start.shape, dx, dy)};
+        moved = {Kesto2D::OffsetPoint(start.centre, press, point), Kesto2D::OffsetPoint(start.end, press, point),
+                 Kesto2D::OffsetPoint(start.shape, press, point)};
         // Only the centre snaps: the axes keep the pointer's exact offset.
         if (!shift)
             Snap(moved.centre, moved.centre);
     } else if (IsLastNode()) {
-        moved.end = Kesto2D::OffsetPoint(start.end, dx, dy);
-        if (!shift)
-            Snap(moved.end, moved.end);
-        moved.shape = ctrl ? Kesto2D::OffsetPoint(start.shape, ex, ey)
-                           : PreserveAngle(start.centre, start.end, moved.end, start.shape);
+        const Arms arms = DragArmEnd(start.centre, start.end, start.shape, press, point, perpendicular, shift, ctrl);
+        moved.end = arms.dragged;
+        moved.shape = arms.other;
     } else if (IsExtendedNode()) {
-        moved.shape = Kesto2D::OffsetPoint(start.shape, dx, dy);
-        if (!shift)
-            Snap(moved.shape, moved.shape);
-        moved.end = ctrl ? Kesto2D::OffsetPoint(start.end, ex, ey)
-                         : PreserveAngle(start.centre, start.shape, moved.shape, start.end);
+        const Arms arms = DragArmEnd(start.centre, start.shape, start.end, press, point, perpendicular, shift, ctrl);
+        moved.shape = arms.dragged;
+        moved.end = arms.other;
     } else {
         if (GetCurrentNode() >= 0)
             SetGradientValue(GetCurrentNode(), GetPercentageFromPoint(point));

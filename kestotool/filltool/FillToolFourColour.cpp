@@ -45,12 +45,9 @@ CPoint OnEdge(CPoint start, CPoint end, const K2DDblPoint& corner, const K2DDblP
 
 bool FillToolFourColour::GetCorners(const CFill* fill, Corners& corners) const
 {
-    const auto* four = dynamic_cast<const KestoGDI::CFillFourColour*>(fill ? fill : GetFill());
-    if (!four) {
-        if (!fill && GetFill())
-            ReportWrongKind();
+    const auto* four = FillOfKind<KestoGDI::CFillFourColour>(fill);
+    if (!four)
         return false;
-    }
     corners = {four->GetControlPoint(0).Round(), four->GetControlPoint(1).Round(), four->GetControlPoint(2).Round(),
                four->GetControlPoint(3).Round()};
     return true;
@@ -114,20 +111,11 @@ void FillToolFourColour::OnDragChange(CPoint& point, unsigned int flags)
     } else if (node == 1 || node == 3) {
         // P1 (node 1) or P2 (node 3) follows the pointer; the other neighbour turns with it, or
         // with Ctrl moves by the perpendicular offset.
-        CPoint& dragged = node == 1 ? moved.p1 : moved.p2;
-        CPoint& other = node == 1 ? moved.p2 : moved.p1;
-        const CPoint draggedStart = node == 1 ? s.p1 : s.p2;
-        const CPoint otherStart = node == 1 ? s.p2 : s.p1;
-        dragged = Moved(draggedStart, d);
-        if (!shift)
-            Snap(dragged, dragged);
-        if (ctrl) {
-            other = Moved(otherStart, e);
-            moved.p3 = Moved(s.p3, d + e);
-        } else {
-            other = PreserveAngle(s.p0, draggedStart, dragged, otherStart);
-            moved.p3 = Moved(moved.p1, Between(moved.p0, moved.p2));
-        }
+        const bool p1 = node == 1;
+        const Arms arms = DragArmEnd(s.p0, p1 ? s.p1 : s.p2, p1 ? s.p2 : s.p1, anchor, point, perpendicular, shift, ctrl);
+        (p1 ? moved.p1 : moved.p2) = arms.dragged;
+        (p1 ? moved.p2 : moved.p1) = arms.other;
+        moved.p3 = ctrl ? Moved(s.p3, d + e) : Moved(moved.p1, Between(moved.p0, moved.p2));
     } else if (node == 2) {
         if (ctrl) {
             // Along the diagonal through P0 only: the foot of the perpendicular from the pointer.
@@ -190,9 +178,7 @@ CRect FillToolFourColour::GetFillRect(const CFill* fill)
 
 int FillToolFourColour::GetHintLine(CString* out) const
 {
-    if (out)
-        *out = CString();
-    return 1;
+    return EmptyHint(out);
 }
 
 void FillToolFourColour::BaseGetHandles(K2DArrayPoint* handles) const

@@ -65,6 +65,24 @@ K2DArrayPoint FillToolGradient::SquareOnLine(CPoint start, CPoint end)
     return outline;
 }
 
+int FillToolGradient::EmptyHint(CString* out)
+{
+    if (out)
+        *out = CString();
+    return 1;
+}
+
+FillToolGradient::Arms FillToolGradient::DragArmEnd(CPoint corner, CPoint draggedStart, CPoint otherStart, CPoint press,
+                                                     CPoint point, CPoint perpendicular, bool shift, bool ctrl)
+{
+    Arms arms{Kesto2D::OffsetPoint(draggedStart, press, point), otherStart};
+    if (!shift)
+        Snap(arms.dragged, arms.dragged);
+    arms.other = ctrl ? Kesto2D::OffsetPoint(otherStart, press, perpendicular)
+                      : PreserveAngle(corner, draggedStart, arms.dragged, otherStart);
+    return arms;
+}
+
 K2DArrayPoint FillToolGradient::AxesParallelogram(CPoint centre, CPoint end, CPoint shape)
 {
     const long long ux = static_cast<long long>(end.x) - centre.x, uy = static_cast<long long>(end.y) - centre.y;

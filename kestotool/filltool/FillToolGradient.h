@@ -89,6 +89,17 @@ public:
     // Sets stop index (-1: the current node) to a grey level and commits the transparency.
     void SetLevel(int level, int index, bool commit);
     bool IsLockRatio() const { return m_bLockRatio; }
+    // The hint of the tools that have none of their own: the text made empty; answers 1.
+    static int EmptyHint(CString* out);
+    // Where the ends of a corner's two arms go when one end is dragged from draggedStart by the
+    // pointer's move press -> point: the dragged end follows (snapped unless shift), and the
+    // other end turns with it about the corner, or with ctrl moves by press -> perpendicular.
+    struct Arms {
+        CPoint dragged;
+        CPoint other;
+    };
+    Arms DragArmEnd(CPoint corner, CPoint draggedStart, CPoint otherStart, CPoint press, CPoint point,
+                    CPoint perpendicular, bool shift, bool ctrl);
     // The stop of handle h for the tools whose extra handles show and edit the last stop.
     int LastStopForExtendedNode(int handle) const { return IsExtendedNode(handle) ? GetNumGradientNodes() - 1 : handle; }
     // The square whose centre line runs from start to end, as a closed outline of four corners.

@@ -27,12 +27,9 @@ constexpr int kHintInnerOver[] = {IDS_HINT_LINEAR_INNER_OVER_FILL, IDS_HINT_LINE
 
 bool FillToolLinear::GetLine(const CFill* fill, CPoint& start, CPoint& end) const
 {
-    const auto* linear = dynamic_cast<const KestoGDI::CFillLinear*>(fill ? fill : GetFill());
-    if (!linear) {
-        if (!fill && GetFill())
-            ReportWrongKind();
+    const auto* linear = FillOfKind<KestoGDI::CFillLinear>(fill);
+    if (!linear)
         return false;
-    }
     start = linear->GetStart().Round();
     end = linear->GetEnd().Round();
     return true;

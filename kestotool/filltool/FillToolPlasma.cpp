@@ -23,12 +23,9 @@ constexpr unsigned long kArmHandleColour = 0xFFFFFF;
 
 bool FillToolPlasma::GetPoints(const CFill* fill, Points& points) const
 {
-    const auto* plasma = dynamic_cast<const KestoGDI::CFillFractal*>(fill ? fill : GetFill());
-    if (!plasma) {
-        if (!fill && GetFill())
-            ReportWrongKind();
+    const auto* plasma = FillOfKind<KestoGDI::CFillFractal>(fill);
+    if (!plasma)
         return false;
-    }
     points = {plasma->GetControlPoint(0).Round(), plasma->GetControlPoint(1).Round(), plasma->GetControlPoint(2).Round()};
     return true;
 }
@@ -88,10 +85,9 @@ void FillToolPlasma::OnDragChange(CPoint& point, unsigned int flags)
         if (!shift)
             Snap(moved.p0, moved.p0);
     } else if (node == count - 1) {
-        moved.p1 = Kesto2D::OffsetPoint(s.p1, anchor, point);
-        if (!shift)
-            Snap(moved.p1, moved.p1);
-        moved.p2 = ctrl ? Kesto2D::OffsetPoint(s.p2, anchor, perpendicular) : PreserveAngle(s.p0, s.p1, moved.p1, s.p2);
+        const Arms arms = DragArmEnd(s.p0, s.p1, s.p2, anchor, point, perpendicular, shift, ctrl);
+        moved.p1 = arms.dragged;
+        moved.p2 = arms.other;
     } else if (node == count) {
         moved.p2 = Kesto2D::OffsetPoint(s.p2, anchor, point);
         if (!shift)
@@ -161,9 +157,7 @@ K2DArrayPoint FillToolPlasma::GetEffectiveBBox(const CFill* fill)
 
 int FillToolPlasma::GetHintLine(CString* out) const
 {
-    if (out)
-        *out = CString();
-    return 1;
+    return EmptyHint(out);
 }
 
 void FillToolPlasma::BaseGetHandles(K2DArrayPoint* handles) const

@@ -15,12 +15,9 @@ KESTO_IMPLEMENT_DYNAMIC(FillToolRadial, FillToolGradient)
 
 bool FillToolRadial::GetCircle(const CFill* fill, CPoint& centre, CPoint& rim) const
 {
-    const auto* radial = dynamic_cast<const KestoGDI::CFillRadial*>(fill ? fill : GetFill());
-    if (!radial) {
-        if (!fill && GetFill())
-            ReportWrongKind();
+    const auto* radial = FillOfKind<KestoGDI::CFillRadial>(fill);
+    if (!radial)
         return false;
-    }
     centre = radial->GetCentre().Round();
     rim = radial->GetEnd().Round();
     return true;

@@ -11,12 +11,9 @@ KESTO_IMPLEMENT_DYNAMIC(FillToolSquare, FillToolGradient)
 
 bool FillToolSquare::GetAxes(const CFill* fill, Axes& axes) const
 {
-    const auto* square = dynamic_cast<const KestoGDI::CFillSquare*>(fill ? fill : GetFill());
-    if (!square) {
-        if (!fill && GetFill())
-            ReportWrongKind();
+    const auto* square = FillOfKind<KestoGDI::CFillSquare>(fill);
+    if (!square)
         return false;
-    }
     axes = {square->GetCentre().Round(), square->GetEnd().Round(), square->GetShape().Round()};
     return true;
 }
@@ -81,28 +78,20 @@ void FillToolSquare::OnDragChange(CPoint& point, unsigned int flags)
         SetAxes({press, point, perpendicular});
         return;
     }
-    const long long dx = static_cast<long long>(point.x) - press.x;
-    const long long dy = static_cast<long long>(point.y) - press.y;
-    const long long ex = static_cast<long long>(perpendicular.x) - press.x;
-    const long long ey = static_cast<long long>(perpendicular.y) - press.y;
     Axes moved = start;
     if (c == 0) {
-        moved = {Kesto2D::OffsetPoint(start.centre, dx, dy), Kesto2D::OffsetPoint(start.end, dx, dy),
-                 Kesto2D::OffsetPoint(start.shape, dx, dy)};
+        moved = {Kesto2D::OffsetPoint(start.centre, press, point), Kesto2D::OffsetPoint(start.end, press, point),
+                 Kesto2D::OffsetPoint(start.shape, press, point)};
         if (!shift)
             Snap(moved.centre, moved.centre);
     } else if (c == n - 1) {
-        moved.end = Kesto2D::OffsetPoint(start.end, dx, dy);
-        if (!shift)
-            Snap(moved.end, moved.end);
-        moved.shape = ctrl ? Kesto2D::OffsetPoint(start.shape, ex, ey)
-                           : PreserveAngle(start.centre, start.end, moved.end, start.shape);
+        const Arms arms = DragArmEnd(start.centre, start.end, start.shape, press, point, perpendicular, shift, ctrl);
+        moved.end = arms.dragged;
+        moved.shape = arms.other;
     } else if (c == n) {
-        moved.shape = Kesto2D::OffsetPoint(start.shape, dx, dy);
-        if (!shift)
-            Snap(moved.shape, moved.shape);
-        moved.end = ctrl ? Kesto2D::OffsetPoint(start.end, ex, ey)
-                         : PreserveAngle(start.centre, start.shape, moved.shape, start.end);
+        const Arms arms = DragArmEnd(start.centre, start.shape, start.end, press, point, perpendicular, shift, ctrl);
+        moved.shape = arms.dragged;
+        moved.end = arms.other;
     } else {
         // Measured on the axis as it was at the press, and the stop stays current when it
         // overtakes a neighbour.
@@ -162,9 +151,7 @@ K2DArrayPoint FillToolSquare::GetEffectiveBBox(const CFill* fill)
 
 int FillToolSquare::GetHintLine(CString* out) const
 {
-    if (out)
-        *out = CString();
-    return 1;
+    return EmptyHint(out);
 }
 
 void FillToolSquare::BaseGetHandles(K2DArrayPoint* handles) const

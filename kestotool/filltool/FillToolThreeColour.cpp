@@ -22,12 +22,9 @@ void ReportNoFill(int line)
 
 bool FillToolThreeColour::GetCorners(const CFill* fill, Corners& corners) const
 {
-    const auto* three = dynamic_cast<const KestoGDI::CFillThreeColour*>(fill ? fill : GetFill());
-    if (!three) {
-        if (!fill && GetFill())
-            ReportWrongKind();
+    const auto* three = FillOfKind<KestoGDI::CFillThreeColour>(fill);
+    if (!three)
         return false;
-    }
     corners = {three->GetControlPoint(0).Round(), three->GetControlPoint(1).Round(), three->GetControlPoint(2).Round()};
     return true;
 }
@@ -90,15 +87,13 @@ void FillToolThreeColour::OnDragChange(CPoint& point, unsigned int flags)
         if (!shift)
             Snap(moved.p0, moved.p0);
     } else if (node == 1) {
-        moved.p1 = Kesto2D::OffsetPoint(s.p1, anchor, point);
-        if (!shift)
-            Snap(moved.p1, moved.p1);
-        moved.p2 = ctrl ? Kesto2D::OffsetPoint(s.p2, anchor, perpendicular) : PreserveAngle(s.p0, s.p1, moved.p1, s.p2);
+        const Arms arms = DragArmEnd(s.p0, s.p1, s.p2, anchor, point, perpendicular, shift, ctrl);
+        moved.p1 = arms.dragged;
+        moved.p2 = arms.other;
     } else if (node == 2) {
-        moved.p2 = Kesto2D::OffsetPoint(s.p2, anchor, point);
-        if (!shift)
-            Snap(moved.p2, moved.p2);
-        moved.p1 = ctrl ? Kesto2D::OffsetPoint(s.p1, anchor, perpendicular) : PreserveAngle(s.p0, s.p2, moved.p2, s.p1);
+        const Arms arms = DragArmEnd(s.p0, s.p2, s.p1, anchor, point, perpendicular, shift, ctrl);
+        moved.p2 = arms.dragged;
+        moved.p1 = arms.other;
     } else {
         Kernel::VerifyFailed("KestoTool", kModule, __LINE__, "a drag needs a corner handle as the current node");
     }
@@ -144,9 +139,7 @@ CRect FillToolThreeColour::GetFillRect(const CFill* fill)
 
 int FillToolThreeColour::GetHintLine(CString* out) const
 {
-    if (out)
-        *out = CString();
-    return 1;
+    return EmptyHint(out);
 }
 
 void FillToolThreeColour::BaseGetHandles(K2DArrayPoint* handles) const
