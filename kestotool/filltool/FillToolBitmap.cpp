@@ -2,8 +2,6 @@
 
 #include "gdi/CFillBitmap.h"
 #include "geometry/CoordinateRange.h"
-#include "geometry/K2DGeometry.h"
-#include "kernel/VerifyReporter.h"
 
 namespace KestoTool {
 
@@ -11,30 +9,10 @@ KESTO_IMPLEMENT_DYNAMIC(FillToolBitmap, FillToolGradient)
 
 namespace {
 
-void ReportNoFill(int line)
-{
-    Kernel::VerifyFailed("KestoTool", "FillToolBitmap", line, "the tool has no fill: give it one");
-}
-
 // The tile's handles place it; they show no colour of their own.
 constexpr unsigned long kHandleColour = 0xFFFFFF;
 
 } // namespace
-
-bool FillToolBitmap::GetPoints(const CFill* fill, Points& points) const
-{
-    const auto* bitmap = FillOfKind<KestoGDI::CFillBitmap>(fill);
-    if (!bitmap)
-        return false;
-    points = {bitmap->GetControlPoint(0).Round(), bitmap->GetControlPoint(1).Round(), bitmap->GetControlPoint(2).Round()};
-    return true;
-}
-
-void FillToolBitmap::SetPoints(const Points& p)
-{
-    if (auto* bitmap = dynamic_cast<KestoGDI::CFillBitmap*>(GetWorkingFill()))
-        bitmap->SetControls(K2DDblPoint(p.p0), K2DDblPoint(p.p1), K2DDblPoint(p.p2));
-}
 
 int FillToolBitmap::GradientIndex(int handle) const
 {
@@ -147,33 +125,6 @@ void FillToolBitmap::Draw(CRenderContext* context) const
         DrawBoxControl(context, handles.GetAt(i), kHandleColour, i);
 }
 
-CRect FillToolBitmap::GetFillRect(const CFill* fill)
-{
-    Points p;
-    if (!GetPoints(fill, p)) {
-        if (!fill && !GetFill())
-            ReportNoFill(__LINE__);
-        return {};
-    }
-    return CornerParallelogram(p.p0, p.p1, p.p2).GetBBox();
-}
-
-K2DArrayPoint FillToolBitmap::GetEffectiveBBox(const CFill* fill)
-{
-    Points p;
-    if (!GetPoints(fill, p)) {
-        if (!fill && !GetFill())
-            ReportNoFill(__LINE__);
-        return {};
-    }
-    return CornerParallelogram(p.p0, p.p1, p.p2);
-}
-
-int FillToolBitmap::GetHintLine(CString* out) const
-{
-    return EmptyHint(out);
-}
-
 void FillToolBitmap::BaseGetHandles(K2DArrayPoint* handles) const
 {
     Points p;
@@ -187,35 +138,6 @@ void FillToolBitmap::BaseGetHandles(K2DArrayPoint* handles) const
         handles->Add(p.p1);
     }
     handles->Add(p.p2);
-}
-
-bool FillToolBitmap::IsPointOnLine(const CPoint& point, int tolerance) const
-{
-    Points p;
-    return GetPoints(nullptr, p) && IsPointOnNodeLine(p.p0, p.p1, point, tolerance);
-}
-
-int FillToolBitmap::GetPercentageFromPoint(CPoint point) const
-{
-    Points p;
-    if (!GetPoints(nullptr, p)) {
-        if (!GetFill())
-            ReportNoFill(__LINE__);
-        return -1;
-    }
-    return GetNodeValueFromPoints(p.p0, p.p1, point);
-}
-
-bool FillToolBitmap::CheckSize() const
-{
-    Points p;
-    if (!GetPoints(nullptr, p)) {
-        if (!GetFill())
-            ReportNoFill(__LINE__);
-        return false;
-    }
-    using Kesto2D::K2DGeometry::IDist;
-    return IDist(p.p0, p.p1) >= 50 && IDist(p.p0, p.p2) >= 50;
 }
 
 } // namespace KestoTool

@@ -2,8 +2,6 @@
 
 #include "gdi/CFillFractal.h"
 #include "geometry/CoordinateRange.h"
-#include "geometry/K2DGeometry.h"
-#include "kernel/VerifyReporter.h"
 
 namespace KestoTool {
 
@@ -11,30 +9,10 @@ KESTO_IMPLEMENT_DYNAMIC(FillToolPlasma, FillToolGradient)
 
 namespace {
 
-void ReportNoFill(int line)
-{
-    Kernel::VerifyFailed("KestoTool", "FillToolPlasma", line, "the tool has no fill: give it one");
-}
-
 // The colour the tile arm's handle is drawn in: it edits no stop.
 constexpr unsigned long kArmHandleColour = 0xFFFFFF;
 
 } // namespace
-
-bool FillToolPlasma::GetPoints(const CFill* fill, Points& points) const
-{
-    const auto* plasma = FillOfKind<KestoGDI::CFillFractal>(fill);
-    if (!plasma)
-        return false;
-    points = {plasma->GetControlPoint(0).Round(), plasma->GetControlPoint(1).Round(), plasma->GetControlPoint(2).Round()};
-    return true;
-}
-
-void FillToolPlasma::SetPoints(const Points& p)
-{
-    if (auto* plasma = dynamic_cast<KestoGDI::CFillFractal*>(GetWorkingFill()))
-        plasma->SetControls(K2DDblPoint(p.p0), K2DDblPoint(p.p1), K2DDblPoint(p.p2));
-}
 
 void FillToolPlasma::OnDragStart(CPoint& point, unsigned int flags)
 {
@@ -133,33 +111,6 @@ void FillToolPlasma::Draw(CRenderContext* context) const
     DrawBoxControl(context, p.p2, kArmHandleColour, GetNodeCount());
 }
 
-CRect FillToolPlasma::GetFillRect(const CFill* fill)
-{
-    Points p;
-    if (!GetPoints(fill, p)) {
-        if (!fill && !GetFill())
-            ReportNoFill(__LINE__);
-        return {};
-    }
-    return CornerParallelogram(p.p0, p.p1, p.p2).GetBBox();
-}
-
-K2DArrayPoint FillToolPlasma::GetEffectiveBBox(const CFill* fill)
-{
-    Points p;
-    if (!GetPoints(fill, p)) {
-        if (!fill && !GetFill())
-            ReportNoFill(__LINE__);
-        return {};
-    }
-    return CornerParallelogram(p.p0, p.p1, p.p2);
-}
-
-int FillToolPlasma::GetHintLine(CString* out) const
-{
-    return EmptyHint(out);
-}
-
 void FillToolPlasma::BaseGetHandles(K2DArrayPoint* handles) const
 {
     Points p;
@@ -167,35 +118,6 @@ void FillToolPlasma::BaseGetHandles(K2DArrayPoint* handles) const
         return;
     AddGradientHandles(handles, p.p0, p.p1);
     handles->Add(p.p2);
-}
-
-bool FillToolPlasma::IsPointOnLine(const CPoint& point, int tolerance) const
-{
-    Points p;
-    return GetPoints(nullptr, p) && IsPointOnNodeLine(p.p0, p.p1, point, tolerance);
-}
-
-int FillToolPlasma::GetPercentageFromPoint(CPoint point) const
-{
-    Points p;
-    if (!GetPoints(nullptr, p)) {
-        if (!GetFill())
-            ReportNoFill(__LINE__);
-        return -1;
-    }
-    return GetNodeValueFromPoints(p.p0, p.p1, point);
-}
-
-bool FillToolPlasma::CheckSize() const
-{
-    Points p;
-    if (!GetPoints(nullptr, p)) {
-        if (!GetFill())
-            ReportNoFill(__LINE__);
-        return false;
-    }
-    using Kesto2D::K2DGeometry::IDist;
-    return IDist(p.p0, p.p1) >= 50 && IDist(p.p0, p.p2) >= 50;
 }
 
 } // namespace KestoTool

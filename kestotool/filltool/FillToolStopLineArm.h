@@ -1,0 +1,41 @@
+#pragma once
+
+#include "filltool/FillToolGradient.h"
+
+namespace KestoTool {
+
+// What the plasma and bitmap tools answer alike: their fill (of class Fill) is placed by a
+// stop line P0-P1 and an arm P0-P2, which span one tile of the pattern. The rectangles are the
+// tile parallelogram's, the line is P0-P1 (positions 0..10000 along it), both arms must be at
+// least 50 long, and there is no hint. Without a fill each query reports, under the tool's own
+// class name, and answers its empty result.
+template <class Fill>
+class FillToolStopLineArm : public FillToolGradient {
+public:
+    // The bounding box of the tile parallelogram P0, P1, P1 + P2 - P0, P2.
+    CRect GetFillRect(const CFill* fill) override;
+    K2DArrayPoint GetEffectiveBBox(const CFill* fill) override;
+    int GetHintLine(CString* out) const override { return EmptyHint(out); }
+    bool IsPointOnLine(const CPoint& point, int tolerance) const override;
+    // The position along P0-P1, 0..10000; -1 without a fill or for a line of no length.
+    int GetPercentageFromPoint(CPoint point) const override;
+    bool CheckSize() const override;
+
+protected:
+    FillToolStopLineArm(const CFill* fill, IToolSite* site, const char* module)
+        : FillToolGradient(fill, site), m_module(module)
+    {
+    }
+
+    struct Points {
+        CPoint p0, p1, p2;
+    };
+    bool GetPoints(const CFill* fill, Points& points) const;
+    void SetPoints(const Points& points);
+    void ReportNoFill(int line) const;
+
+private:
+    const char* m_module;
+};
+
+} // namespace KestoTool
