@@ -76,7 +76,8 @@ struct QuadRow {
 using QuadRowFunction = void (*)(const QuadRow& row);
 
 // The bitmap kind along one row: (u, v) are tile coordinates as for the plasma; the texels are
-// the output values of the image's pixels (premultiplied words, or mask values), w x h, sampled
+// the output values of the image's pixels (premultiplied words, or mask values), w x h, padded
+// by one texel on every side as the tiling continues (stride w + 2 texels a row), sampled
 // bilinearly channel by channel (or the nearest one).
 struct BitmapRow {
     double u0, v0, du, dv;
@@ -84,6 +85,7 @@ struct BitmapRow {
     int count;
     const std::uint32_t* texels;
     int w, h;
+    int stride;
     bool mirrored;
     bool nearest;
     bool mask;

@@ -207,6 +207,7 @@ void RenderBitmapRows(const PreparedPaint& prepared, const Target& target, const
     row.texels = prepared.Texels().data();
     row.w = paint.image->width;
     row.h = paint.image->height;
+    row.stride = row.w + 2;
     row.mirrored = paint.mirroredTiles;
     row.nearest = paint.nearest;
     row.mask = target.format == Output::Mask8;
@@ -248,20 +249,16 @@ PreparedPaint::PreparedPaint(const Paint& paint, const Affine& paintToDevice, Ou
     const bool sameColours = previous && previous->m_output == output && previous->m_paint->stops == paint.stops &&
                              previous->m_paint->transparency == paint.transparency &&
                              previous->m_paint->kind == paint.kind && previous->m_paint->plasma == paint.plasma &&
-                             sameImage(previous->m_paint->image, paint.image) && previous->m_paint->recolour == paint.recolour;
+                             sameImage(previous->m_paint->image, paint.image) && previous->m_paint->recolour == paint.recolour &&
+                             previous->m_paint->mirroredTiles == paint.mirroredTiles;
     if (sameColours) {
         m_table = previous->m_table;
         m_plasmaTile = previous->m_plasmaTile;
         m_texels = previous->m_texels;
         return;
     }
-    auto texels = std::make_shared<std::vector<std::uint32_t>>();
-    if (paint.kind == Paint::Kind::Bitmap && HasImage(paint)) {
-        texels->reserve(paint.image->argb.size());
-        for (const std::uint32_t pixel : paint.image->argb)
-            texels->push_back(TexelOutput(paint, pixel, output));
-    }
-    m_texels = std::move(texels);
+    m_texels = std::make_shared<const std::vector<std::uint32_t>>(
+        paint.kind == Paint::Kind::Bitmap ? PaddedTexels(paint, output) : std::vector<std::uint32_t>());
     if (paint.kind == Paint::Kind::Plasma) {
         const bool same = previous && previous->m_paint->kind == Paint::Kind::Plasma &&
                           previous->m_paint->plasma == paint.plasma;

@@ -33,7 +33,8 @@ public:
     bool SharesTexelsWith(const PreparedPaint& other) const { return m_texels == other.m_texels; }
     // The plasma kind's tile; empty for other kinds.
     const std::vector<float>& PlasmaTile() const;
-    // The bitmap kind's pixels as output values; empty for other kinds or without an image.
+    // The bitmap kind's pixels as output values, padded by one texel on every side as the tiling
+    // continues ((w + 2) x (h + 2)); empty for other kinds or without an image.
     const std::vector<std::uint32_t>& Texels() const { return *m_texels; }
 
 private:

@@ -260,6 +260,22 @@ bool HasImage(const Paint& paint)
            image->argb.size() >= static_cast<std::size_t>(image->width) * static_cast<std::size_t>(image->height);
 }
 
+std::vector<std::uint32_t> PaddedTexels(const Paint& paint, Output output)
+{
+    if (!HasImage(paint))
+        return {};
+    const Paint::Image& image = *paint.image;
+    const int w = image.width, h = image.height;
+    std::vector<std::uint32_t> texels;
+    texels.reserve(static_cast<std::size_t>(w + 2) * static_cast<std::size_t>(h + 2));
+    for (int y = -1; y <= h; ++y) {
+        const std::size_t row = static_cast<std::size_t>(TileIndex(y, h, paint.mirroredTiles)) * w;
+        for (int x = -1; x <= w; ++x)
+            texels.push_back(TexelOutput(paint, image.argb[row + TileIndex(x, w, paint.mirroredTiles)], output));
+    }
+    return texels;
+}
+
 std::uint32_t BitmapSample(const Paint& paint, Point uv, Output output)
 {
     if (!HasImage(paint))

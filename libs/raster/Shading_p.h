@@ -39,6 +39,10 @@ double PlasmaValue(const std::vector<float>& tile, int resolution, Point uv, boo
 // One of a bitmap paint's image pixels (straight 0xAARRGGBB) as output: recoloured when asked,
 // then the premultiplied word or the mask value.
 std::uint32_t TexelOutput(const Paint& paint, std::uint32_t argb, Output output);
+// A bitmap paint's texels as output values, (w + 2) x (h + 2): the image with one more row and
+// column on every side as the tiling continues past its edges (repeated, or mirrored), so that
+// the two samples a bilinear step blends always sit side by side.
+std::vector<std::uint32_t> PaddedTexels(const Paint& paint, Output output);
 // Whether a bitmap paint has an image to show (one that holds all its pixels).
 bool HasImage(const Paint& paint);
 // A bitmap paint's output at tile coordinates (see Paint), for either output: the texels'
