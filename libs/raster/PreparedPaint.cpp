@@ -164,8 +164,8 @@ void RenderPlasmaRows(const PreparedPaint& prepared, const Target& target, const
     const Paint& paint = prepared.GetPaint();
     const Geometry& g = prepared.GetGeometry();
     Kernels::PlasmaRow row{};
-    row.tile = prepared.PlasmaTile().data();
-    row.n = std::clamp(paint.plasma.resolution, 2, 1024);
+    row.tile = prepared.PaddedPlasmaTile().data();
+    row.n = Shading::PlasmaResolution(paint.plasma);
     row.mirrored = paint.mirroredTiles;
     row.table = prepared.Table().data();
     row.mask = target.format == Output::Mask8;
@@ -254,6 +254,7 @@ PreparedPaint::PreparedPaint(const Paint& paint, const Affine& paintToDevice, Ou
     if (sameColours) {
         m_table = previous->m_table;
         m_plasmaTile = previous->m_plasmaTile;
+        m_paddedPlasmaTile = previous->m_paddedPlasmaTile;
         m_texels = previous->m_texels;
         return;
     }
@@ -264,6 +265,9 @@ PreparedPaint::PreparedPaint(const Paint& paint, const Affine& paintToDevice, Ou
                           previous->m_paint->plasma == paint.plasma;
         m_plasmaTile = same ? previous->m_plasmaTile
                             : std::make_shared<const std::vector<float>>(Shading::PlasmaTile(paint.plasma));
+        const int n = Shading::PlasmaResolution(paint.plasma);
+        m_paddedPlasmaTile =
+            std::make_shared<const std::vector<float>>(Shading::PadTile(*m_plasmaTile, n, n, paint.mirroredTiles));
     }
     auto table = std::make_shared<std::vector<std::uint32_t>>();
     if (IsRamp()) {
@@ -278,6 +282,12 @@ const std::vector<float>& PreparedPaint::PlasmaTile() const
 {
     static const std::vector<float> none;
     return m_plasmaTile ? *m_plasmaTile : none;
+}
+
+const std::vector<float>& PreparedPaint::PaddedPlasmaTile() const
+{
+    static const std::vector<float> none;
+    return m_paddedPlasmaTile ? *m_paddedPlasmaTile : none;
 }
 
 bool PreparedPaint::IsRamp() const

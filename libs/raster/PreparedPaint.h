@@ -33,6 +33,9 @@ public:
     bool SharesTexelsWith(const PreparedPaint& other) const { return m_texels == other.m_texels; }
     // The plasma kind's tile; empty for other kinds.
     const std::vector<float>& PlasmaTile() const;
+    // The same padded by one sample on every side as the tiling continues (see the bitmap's
+    // texels); empty for other kinds.
+    const std::vector<float>& PaddedPlasmaTile() const;
     // The bitmap kind's pixels as output values, padded by one texel on every side as the tiling
     // continues ((w + 2) x (h + 2)); empty for other kinds or without an image.
     const std::vector<std::uint32_t>& Texels() const { return *m_texels; }
@@ -44,6 +47,7 @@ private:
     Shading::Geometry m_geometry;
     std::shared_ptr<const std::vector<std::uint32_t>> m_table;
     std::shared_ptr<const std::vector<float>> m_plasmaTile;
+    std::shared_ptr<const std::vector<float>> m_paddedPlasmaTile;
     std::shared_ptr<const std::vector<std::uint32_t>> m_texels;
 };
 

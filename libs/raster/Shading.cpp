@@ -191,9 +191,14 @@ Point TileCoordinates(const Geometry& g, Point p, bool mirrored)
     return {Wrap(dx * g.iux + dy * g.iuy, mirrored), Wrap(dx * g.ivx + dy * g.ivy, mirrored)};
 }
 
+int PlasmaResolution(const Paint::Plasma& plasma)
+{
+    return std::clamp(plasma.resolution, 2, 1024);
+}
+
 std::vector<float> PlasmaTile(const Paint::Plasma& plasma)
 {
-    const int n = std::clamp(plasma.resolution, 2, 1024);
+    const int n = PlasmaResolution(plasma);
     const double persistence = 0.35 + 0.5 * std::clamp(plasma.grain, 0, 100) / 100.0;
     std::vector<double> sum(static_cast<std::size_t>(n) * n, 0.0);
     std::uint64_t state = plasma.seed;
@@ -260,20 +265,43 @@ bool HasImage(const Paint& paint)
            image->argb.size() >= static_cast<std::size_t>(image->width) * static_cast<std::size_t>(image->height);
 }
 
+namespace {
+
+template <class Sample>
+std::vector<Sample> Padded(const std::vector<Sample>& samples, int w, int h, bool mirrored)
+{
+    std::vector<Sample> padded;
+    padded.reserve(static_cast<std::size_t>(w + 2) * static_cast<std::size_t>(h + 2));
+    for (int y = -1; y <= h; ++y) {
+        const std::size_t row = static_cast<std::size_t>(TileIndex(y, h, mirrored)) * w;
+        for (int x = -1; x <= w; ++x)
+            padded.push_back(samples[row + TileIndex(x, w, mirrored)]);
+    }
+    return padded;
+}
+
+} // namespace
+
+std::vector<std::uint32_t> PadTile(const std::vector<std::uint32_t>& samples, int w, int h, bool mirrored)
+{
+    return Padded(samples, w, h, mirrored);
+}
+
+std::vector<float> PadTile(const std::vector<float>& samples, int w, int h, bool mirrored)
+{
+    return Padded(samples, w, h, mirrored);
+}
+
 std::vector<std::uint32_t> PaddedTexels(const Paint& paint, Output output)
 {
     if (!HasImage(paint))
         return {};
     const Paint::Image& image = *paint.image;
-    const int w = image.width, h = image.height;
     std::vector<std::uint32_t> texels;
-    texels.reserve(static_cast<std::size_t>(w + 2) * static_cast<std::size_t>(h + 2));
-    for (int y = -1; y <= h; ++y) {
-        const std::size_t row = static_cast<std::size_t>(TileIndex(y, h, paint.mirroredTiles)) * w;
-        for (int x = -1; x <= w; ++x)
-            texels.push_back(TexelOutput(paint, image.argb[row + TileIndex(x, w, paint.mirroredTiles)], output));
-    }
-    return texels;
+    texels.reserve(static_cast<std::size_t>(image.width) * image.height);
+    for (std::size_t i = 0; i < static_cast<std::size_t>(image.width) * image.height; ++i)
+        texels.push_back(TexelOutput(paint, image.argb[i], output));
+    return PadTile(texels, image.width, image.height, paint.mirroredTiles);
 }
 
 std::uint32_t BitmapSample(const Paint& paint, Point uv, Output output)

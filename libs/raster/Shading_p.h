@@ -34,14 +34,19 @@ Point TileCoordinates(const Geometry& g, Point p, bool mirrored);
 // seeded value noise (the seed drives a splitmix64 stream), each octave's weight the previous
 // one's times 0.35 + 0.5 x grain / 100, stretched to span 0..1.
 std::vector<float> PlasmaTile(const Paint::Plasma& plasma);
+// The tile's samples along each side: the resolution kept to 2 .. 1024.
+int PlasmaResolution(const Paint::Plasma& plasma);
 // The tile's intensity at tile coordinates, bilinear between sample centres.
 double PlasmaValue(const std::vector<float>& tile, int resolution, Point uv, bool mirrored);
 // One of a bitmap paint's image pixels (straight 0xAARRGGBB) as output: recoloured when asked,
 // then the premultiplied word or the mask value.
 std::uint32_t TexelOutput(const Paint& paint, std::uint32_t argb, Output output);
-// A bitmap paint's texels as output values, (w + 2) x (h + 2): the image with one more row and
-// column on every side as the tiling continues past its edges (repeated, or mirrored), so that
-// the two samples a bilinear step blends always sit side by side.
+// A w x h grid of samples with one more row and column on every side as the tiling continues
+// past its edges (repeated, or mirrored): (w + 2) x (h + 2), so that the two samples a bilinear
+// step blends always sit side by side.
+std::vector<std::uint32_t> PadTile(const std::vector<std::uint32_t>& samples, int w, int h, bool mirrored);
+std::vector<float> PadTile(const std::vector<float>& samples, int w, int h, bool mirrored);
+// A bitmap paint's texels as output values, padded as PadTile does.
 std::vector<std::uint32_t> PaddedTexels(const Paint& paint, Output output);
 // Whether a bitmap paint has an image to show (one that holds all its pixels).
 bool HasImage(const Paint& paint);
