@@ -8,22 +8,29 @@ namespace KestoRaster {
 
 void Path::MoveTo(Point p)
 {
+    m_pieceStart = m_points.size();
     m_verbs.push_back(Verb::Move);
     m_points.push_back(p);
 }
 
+void Path::StartPiece(Point first)
+{
+    if (m_verbs.empty())
+        MoveTo(first);
+    else if (m_verbs.back() == Verb::Close)
+        MoveTo(m_points[m_pieceStart]);
+}
+
 void Path::LineTo(Point p)
 {
-    if (m_verbs.empty() || m_verbs.back() == Verb::Close)
-        MoveTo(m_points.empty() ? Point{} : p);
+    StartPiece(p);
     m_verbs.push_back(Verb::Line);
     m_points.push_back(p);
 }
 
 void Path::CubicTo(Point c1, Point c2, Point end)
 {
-    if (m_verbs.empty() || m_verbs.back() == Verb::Close)
-        MoveTo(c1);
+    StartPiece(c1);
     m_verbs.push_back(Verb::Cubic);
     m_points.insert(m_points.end(), {c1, c2, end});
 }

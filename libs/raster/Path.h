@@ -7,7 +7,8 @@
 namespace KestoRaster {
 
 // An outline of straight and cubic Bezier pieces in paint space: the shapes of a small drawing
-// that a vector fill repeats. Each piece started by MoveTo is closed when it is filled.
+// that a vector fill repeats. Each piece started by MoveTo is closed when it is filled; a path
+// that does not begin with MoveTo begins at the first point given.
 class Path {
 public:
     void MoveTo(Point p);
@@ -24,8 +25,12 @@ public:
 
 private:
     enum class Verb { Move, Line, Cubic, Close };
+    // Starts a piece where a line or curve needs one: at first on an empty path, after Close at
+    // the closed piece's first point.
+    void StartPiece(Point first);
     std::vector<Verb> m_verbs;
     std::vector<Point> m_points;
+    std::size_t m_pieceStart = 0;
 };
 
 // Writes into mask (a Mask8 target) the coverage of the filled path under toDevice, 0..255, at

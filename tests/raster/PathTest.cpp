@@ -102,6 +102,13 @@ TEST(Path, WindingDecidesHolesAndOverlaps)
     twice.LineTo({6, 14});
     twice.Close();
     EXPECT_EQ(Covered(twice).At(10, 10), 255);  // the same way round: still just covered
+    // After Close a line starts again from the closed piece's first point.
+    Path again = Polygon({{2, 2}, {10, 2}, {10, 10}});
+    again.LineTo({10, 10});
+    again.LineTo({2, 10});
+    const Mask both = Covered(again);
+    EXPECT_EQ(both.At(8, 4), 255);  // the first triangle
+    EXPECT_EQ(both.At(3, 8), 255);  // the second, from (2, 2) to (10, 10) and (2, 10)
 }
 
 TEST(Path, AClipWritesOnlyItsPixelsAndMatchesTheFullRender)
