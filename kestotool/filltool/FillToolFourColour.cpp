@@ -147,8 +147,7 @@ void FillToolFourColour::Draw(IRenderTarget* target, bool outlineOnly, const K2D
         return;
     }
     FillTool::Draw(target, outlineOnly, view);
-    DrawHandleOutline(target, outlineOnly);
-    DrawNodeBoxes(target, outlineOnly);
+    DrawCorners(target, outlineOnly);
 }
 
 void FillToolFourColour::Draw(CRenderContext* context) const
@@ -157,8 +156,7 @@ void FillToolFourColour::Draw(CRenderContext* context) const
         ReportNoFill(__LINE__);
         return;
     }
-    DrawHandleOutline(context);
-    DrawNodeBoxes(context);
+    DrawCorners(context);
 }
 
 CRect FillToolFourColour::GetFillRect(const CFill* fill)

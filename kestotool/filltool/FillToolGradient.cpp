@@ -531,8 +531,9 @@ void FillToolGradient::DrawHandleOutline(CRenderContext* context) const
     DrawControlLine(context, handles, false);
 }
 
-void FillToolGradient::DrawNodeBoxes(IRenderTarget* target, bool outlineOnly) const
+void FillToolGradient::DrawCorners(IRenderTarget* target, bool outlineOnly) const
 {
+    DrawHandleOutline(target, outlineOnly);
     K2DArrayPoint handles;
     BaseGetHandles(&handles);
     const ColourIntPairs& nodes = GetGradientNodes();
@@ -540,8 +541,9 @@ void FillToolGradient::DrawNodeBoxes(IRenderTarget* target, bool outlineOnly) co
         DrawBoxControl(target, outlineOnly, handles.GetAt(i), &nodes.GetAt(i)->GetColour(), i);
 }
 
-void FillToolGradient::DrawNodeBoxes(CRenderContext* context) const
+void FillToolGradient::DrawCorners(CRenderContext* context) const
 {
+    DrawHandleOutline(context);
     K2DArrayPoint handles;
     BaseGetHandles(&handles);
     const ColourIntPairs& nodes = GetGradientNodes();

@@ -62,10 +62,10 @@ public:
     // A closed control line through the handles in handle order.
     void DrawHandleOutline(IRenderTarget* target, bool outlineOnly) const;
     void DrawHandleOutline(CRenderContext* context) const;
-    // A box per node-list entry i at handle i, in entry i's colour: the corner tools' handles,
-    // whose node list holds one colour per corner.
-    void DrawNodeBoxes(IRenderTarget* target, bool outlineOnly) const;
-    void DrawNodeBoxes(CRenderContext* context) const;
+    // The corner tools' handles: the closed line through them, then a box per node-list entry i
+    // at handle i in entry i's colour (their node list holds one colour per corner).
+    void DrawCorners(IRenderTarget* target, bool outlineOnly) const;
+    void DrawCorners(CRenderContext* context) const;
     // Gives the fill its default placement over the object; with max, a bitmap fill grows the
     // box to the bitmap's proportions so that it still covers the object.
     void FitToShape(bool max);

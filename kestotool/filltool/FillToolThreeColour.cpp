@@ -107,8 +107,7 @@ void FillToolThreeColour::Draw(IRenderTarget* target, bool outlineOnly, const K2
         return;
     }
     FillTool::Draw(target, outlineOnly, view);
-    DrawHandleOutline(target, outlineOnly);
-    DrawNodeBoxes(target, outlineOnly);
+    DrawCorners(target, outlineOnly);
 }
 
 void FillToolThreeColour::Draw(CRenderContext* context) const
@@ -117,8 +116,7 @@ void FillToolThreeColour::Draw(CRenderContext* context) const
         ReportNoFill(__LINE__);
         return;
     }
-    DrawHandleOutline(context);
-    DrawNodeBoxes(context);
+    DrawCorners(context);
 }
 
 CRect FillToolThreeColour::GetFillRect(const CFill* fill)
