@@ -85,7 +85,7 @@ void FillToolBitmap::OnDragChange(CPoint& point, unsigned int flags)
         if (node > 0 && node < n - 1) {
             Points now;
             GetPoints(nullptr, now);
-            SetCurrentNode(SetGradientValue(node, GetNodeValueFromPoints(now.p0, now.p1, point)));
+            SlideStopFollowing(node, now.p0, now.p1, point);
         }
         return;
     }

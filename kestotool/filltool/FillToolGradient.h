@@ -89,6 +89,13 @@ public:
     // Sets stop index (-1: the current node) to a grey level and commits the transparency.
     void SetLevel(int level, int index, bool commit);
     bool IsLockRatio() const { return m_bLockRatio; }
+    // Moves stop index to the position of point on the segment from-to (0..10000) and keeps it
+    // current wherever sorting puts it: the stop drag of the tools whose stop follows the pointer
+    // past its neighbours.
+    void SlideStopFollowing(int index, CPoint from, CPoint to, CPoint point)
+    {
+        SetCurrentNode(SetGradientValue(index, GetNodeValueFromPoints(from, to, point)));
+    }
     // The hint of the tools that have none of their own: the text made empty; answers 1.
     static int EmptyHint(CString* out);
     // Where the ends of a corner's two arms go when one end is dragged from draggedStart by the

@@ -79,7 +79,7 @@ void FillToolPlasma::OnDragChange(CPoint& point, unsigned int flags)
         if (node > 0 && node < count - 1) {
             Points now;
             GetPoints(nullptr, now);
-            SetCurrentNode(SetGradientValue(node, GetNodeValueFromPoints(now.p0, now.p1, point)));
+            SlideStopFollowing(node, now.p0, now.p1, point);
         }
         return;
     }

@@ -96,7 +96,7 @@ void FillToolSquare::OnDragChange(CPoint& point, unsigned int flags)
         // Measured on the axis as it was at the press, and the stop stays current when it
         // overtakes a neighbour.
         if (c > 0 && c < n - 1)
-            SetCurrentNode(SetGradientValue(c, GetNodeValueFromPoints(start.centre, start.end, point)));
+            SlideStopFollowing(c, start.centre, start.end, point);
         return;
     }
     SetAxes(moved);
