@@ -23,6 +23,10 @@ public:
     // While the P2 handle is current, every handle edits the last stop.
     int GradientIndex(int handle) const override;
 
+protected:
+    // For tools built on this one, which report under their own class name.
+    FillToolBitmap(const CFill* fill, IToolSite* site, const char* module) : FillToolStopLineArm(fill, site, module) {}
+
 private:
     Points m_atPress{};
 };

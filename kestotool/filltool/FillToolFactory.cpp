@@ -9,6 +9,7 @@
 #include "filltool/FillToolRadial.h"
 #include "filltool/FillToolSquare.h"
 #include "filltool/FillToolThreeColour.h"
+#include "filltool/FillToolVector.h"
 #include "gdi/CFillConical.h"
 #include "gdi/CFillBitmap.h"
 #include "gdi/CFillEllipse.h"
@@ -45,7 +46,7 @@ public:
     void Visit(const CFillFractal& fill) override { Make<FillToolPlasma>(fill); }
     void Visit(const CFillBitmap& fill) override { Make<FillToolBitmap>(fill); }
     void Visit(const CFillDiscreteMesh&) override {}
-    void Visit(const CFillVector&) override {}
+    void Visit(const CFillVector& fill) override { Make<FillToolVector>(fill); }
 
 private:
     template <class Tool>

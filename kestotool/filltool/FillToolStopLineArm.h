@@ -30,7 +30,9 @@ protected:
     struct Points {
         CPoint p0, p1, p2;
     };
-    bool GetPoints(const CFill* fill, Points& points) const;
+    // The tile's three points as the tool shows them (the control points unless a tool places
+    // them otherwise); false without a fill of the kind.
+    virtual bool GetPoints(const CFill* fill, Points& points) const;
     void SetPoints(const Points& points);
     void ReportNoFill(int line) const;
 

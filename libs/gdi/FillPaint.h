@@ -15,10 +15,11 @@ class FillPaint {
 public:
     FillPaint() = delete;
 
-    // The paint of fill. None answers a clear solid paint, a bitmap fill without a bitmap a
-    // clear bitmap paint. The kinds the renderer does not paint yet (vector, discrete mesh)
-    // answer nothing.
-    static std::optional<KestoRaster::Paint> From(const CFill& fill);
+    // The paint of fill. None answers a clear solid paint, a bitmap fill without a bitmap (or a
+    // vector fill without a drawing) a clear bitmap paint. A vector fill is painted as a bitmap
+    // tile of its grid's cell, drawn at pixelsPerUnit device pixels per unit of the fill's
+    // space. The discrete mesh, which the renderer does not paint, answers nothing.
+    static std::optional<KestoRaster::Paint> From(const CFill& fill, double pixelsPerUnit = 1);
 };
 
 } // namespace KestoGDI

@@ -8,6 +8,7 @@
 
 #include <map>
 #include <mutex>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -38,17 +39,24 @@ public:
     // per size, so that a fill drawn again at the same scale reuses its tile; null for a scale
     // that is not finite and positive.
     RefPtr<const CLtBitmap> Tile(double scaleX, double scaleY) const;
+    // A width x height tile of a grid whose cell holds several instances of the drawing, each
+    // under its own map from the drawing's coordinates to tile pixels (in order, later over
+    // earlier). What an instance puts outside the tile comes in again from the other side, so
+    // that the tile repeats without seams. Kept per size and maps like the tiles above; null
+    // for a side outside 1..CLtBitmap::MaxSide or a map that is not finite.
+    RefPtr<const CLtBitmap> Tile(int width, int height, std::span<const KestoRaster::Affine> instances) const;
 
     std::size_t Measure() const override;
 
 private:
-    RefPtr<const CLtBitmap> Paint(int width, int height) const;
+    RefPtr<const CLtBitmap> Paint(int width, int height, std::span<const KestoRaster::Affine> instances) const;
 
     int m_width;
     int m_height;
     std::vector<Shape> m_shapes;
     mutable std::mutex m_tilesLock;
-    mutable std::map<std::pair<int, int>, RefPtr<const CLtBitmap>> m_tiles;
+    // Keyed by the tile's size and its instances' maps.
+    mutable std::map<std::vector<double>, RefPtr<const CLtBitmap>> m_tiles;
 };
 
 } // namespace KestoGDI

@@ -9,6 +9,7 @@
 #include "filltool/FillToolRadial.h"
 #include "filltool/FillToolSquare.h"
 #include "filltool/FillToolThreeColour.h"
+#include "filltool/FillToolVector.h"
 #include "gdi/FillKinds.h"
 #include "support/TestToolSite.h"
 
@@ -32,6 +33,7 @@ TEST(FillToolFactory, EachKindGetsItsToolOrNone)
         {KestoGDI::FillType::FourColour, &typeid(FillToolFourColour)},
         {KestoGDI::FillType::Plasma, &typeid(FillToolPlasma)},
         {KestoGDI::FillType::Bitmap, &typeid(FillToolBitmap)},
+        {KestoGDI::FillType::Vector, &typeid(FillToolVector)},
     };
     KestoTest::TestToolSite site;
     for (const KestoGDI::FillKind& kind : KestoGDI::FillKinds::All()) {

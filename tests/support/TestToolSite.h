@@ -46,6 +46,7 @@ public:
     // then records the geometry the tool holds as the gesture's commit.
     void Drag(KestoTool::FillTool& dragged, CPoint from, std::initializer_list<CPoint> moves, unsigned flags = 0);
     std::vector<int> contextItems;
+    int handlesResets = 0;
     std::vector<const Platform::CRuntimeClass*> typeRequests;
 
     unsigned long GetToolColour() override { return toolColour; }
@@ -69,7 +70,7 @@ public:
     }
     void SetFillType(const Platform::CRuntimeClass* c) override { typeRequests.push_back(c); }
     void SetTransparencyType(const Platform::CRuntimeClass* c) override { typeRequests.push_back(c); }
-    void NotifyHandlesReset() override {}
+    void NotifyHandlesReset() override { ++handlesResets; }
     double GetAngleSnapTolerance() override { return angleSnapTolerance; }
 
 private:
