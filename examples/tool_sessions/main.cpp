@@ -8,14 +8,18 @@
 #include "SessionPicture.h"
 
 #include "filltool/FillToolFactory.h"
+#include "filltool/FillToolVector.h"
 #include "gdi/CFillBitmap.h"
 #include "gdi/CFillConical.h"
 #include "gdi/CFillEllipse.h"
 #include "gdi/CFillFourColour.h"
 #include "gdi/CFillFractal.h"
+#include "gdi/CFillLinear.h"
 #include "gdi/CFillRadial.h"
+#include "gdi/CFillSolid.h"
 #include "gdi/CFillSquare.h"
 #include "gdi/CFillThreeColour.h"
+#include "gdi/CFillVector.h"
 #include "gdi/CRGBColour.h"
 #include "gdi/PngFile.h"
 #include "geometry/K2DLtRotate.h"
@@ -37,7 +41,8 @@ const Platform::CRect kObject(0, 0, 400, 240);
 // One session's host and tool, and the steps a script plays on them.
 class Player {
 public:
-    explicit Player(Kernel::RefPtr<CFill> fill) : m_host(kObject)
+    explicit Player(Kernel::RefPtr<CFill> fill, const Platform::CRect& object = kObject, double unitsPerPixel = 1)
+        : m_host(object), m_unitsPerPixel(unitsPerPixel)
     {
         m_host.fill = std::move(fill);
         m_tool = FillToolFactory::Create(m_host.fill.get(), &m_host);
@@ -58,6 +63,7 @@ public:
         return handles.GetSize();
     }
     const CFill& Fill() const { return *m_host.fill; }
+    FillTool& Tool() { return *m_tool; }
 
     void Create(const char* what)
     {
@@ -93,7 +99,7 @@ public:
     }
     bool Picture(const std::string& path) const
     {
-        if (!WriteSessionPicture(path, kObject, *m_host.fill, *m_tool)) {
+        if (!WriteSessionPicture(path, m_host.Object(), *m_host.fill, *m_tool, 90, m_unitsPerPixel)) {
             std::cerr << "cannot write " << path << '\n';
             return false;
         }
@@ -103,6 +109,7 @@ public:
 
 private:
     DemoHost m_host;
+    double m_unitsPerPixel;
     std::unique_ptr<FillTool> m_tool;
 };
 
@@ -173,6 +180,67 @@ bool Run(const char* name, Kernel::RefPtr<CFill> fill, const std::function<void(
     return player.Picture(directory + "/" + name + "-session.png");
 }
 
+// A motif of our own for the vector fill, 40000 units square: a gold-to-orange disc, a navy
+// diamond over it and a teal corner that shows which way up the tile is.
+Kernel::RefPtr<const KestoGDI::VectorDrawing> Motif()
+{
+    using KestoRaster::Path;
+    auto drawing = Kernel::MakeRef<KestoGDI::VectorDrawing>(40000, 40000);
+    const auto solid = [](Platform::COLORREF c) {
+        return Kernel::MakeRef<KestoGDI::CFillSolid>(KestoGDI::CRGBColour(c), true);
+    };
+    constexpr double c = 20000, r = 16000, k = 0.5523 * r;
+    Path disc;
+    disc.MoveTo({c + r, c});
+    disc.CubicTo({c + r, c + k}, {c + k, c + r}, {c, c + r});
+    disc.CubicTo({c - k, c + r}, {c - r, c + k}, {c - r, c});
+    disc.CubicTo({c - r, c - k}, {c - k, c - r}, {c, c - r});
+    disc.CubicTo({c + k, c - r}, {c + r, c - k}, {c + r, c});
+    auto glow = Kernel::MakeRef<KestoGDI::CFillLinear>();
+    glow->SetControls({4000, 4000}, {36000, 36000});
+    KestoGDI::ColourIntPairs stops;
+    stops.Add(KestoGDI::CRGBColour(kGold), 0);
+    stops.Add(KestoGDI::CRGBColour(kOrange), 10000);
+    glow->SetColourIntPairs(stops);
+    drawing->AddShape(disc, glow);
+    Path diamond;
+    diamond.MoveTo({20000, 9000});
+    diamond.LineTo({31000, 20000});
+    diamond.LineTo({20000, 31000});
+    diamond.LineTo({9000, 20000});
+    diamond.Close();
+    drawing->AddShape(diamond, solid(kNavy));
+    Path corner;
+    corner.MoveTo({1000, 1000});
+    corner.LineTo({11000, 1000});
+    corner.LineTo({1000, 11000});
+    corner.Close();
+    drawing->AddShape(corner, solid(kTeal));
+    return drawing;
+}
+
+// The vector fill in both modes on a 200000 x 120000 rectangle, drawn at 500 units a pixel.
+bool RunVector(const std::string& directory)
+{
+    std::cout << "\n#### vector fill session on a 200000 x 120000 rectangle (500 units a pixel)\n";
+    KestoGDI::CFillVector start{Motif()};
+    start.SetRawBox({{10000, 50000}, {50000, 50000}, {10000, 10000}}, true);
+    Player p(start.Clone(), Platform::CRect(0, 0, 200000, 120000), 500);
+    auto& tool = dynamic_cast<FillToolVector&>(p.Tool());
+    p.DragHandle("scaling mode: drag the x-axis end by (8000, 6000): the tile turns and grows", 1, 8000, 6000);
+    p.DragHandle("drag the origin by (12000, 16000): the tile moves", 0, 12000, 16000);
+    p.DragHandle("drag the y-axis end with Ctrl by (6000, 0): the tile skews", 2, 6000, 0, DragFlagCtrl);
+    if (!p.Picture(directory + "/vector-scaling-session.png"))
+        return false;
+    tool.OnFillControlBoxModeClicked();
+    std::cout << "\n- press the mode button: spacing mode\n";
+    p.DragHandle("drag tile handle A by (9000, 2000): a gap opens along the x axis", 1, 9000, 2000, DragFlagShift);
+    p.DragHandle("drag tile handle B by (-6000, -5000) with Shift: no snapping", 0, -6000, -5000, DragFlagShift);
+    p.DragHandle("drag A's rotation handle with Ctrl: every second column turns in 15-degree steps", 3, 12000, 9000,
+                 DragFlagCtrl);
+    return p.Picture(directory + "/vector-session.png");
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -219,6 +287,7 @@ int main(int argc, char** argv)
                 p.DragHandle("drag P2 with Ctrl: P1 moves by the perpendicular offset", 2, -20, 10, DragFlagCtrl);
                 p.DragHandle("drag P0 by (60, 40): the tile moves", 0, 60, 40);
             },
-            directory);
+            directory) &&
+        RunVector(directory);
     return ok ? 0 : 1;
 }
