@@ -144,6 +144,19 @@ void FillToolVector::GetSnappedOffset(CPoint& offset) const
     snap(offset.y, m_ySnapOffsets);
 }
 
+void FillToolVector::TakeStartState(const CFillVector& fill)
+{
+    GetCurrentControls(&fill, m_currentControls, true);
+    ControlInstance placed;
+    GetCurrentControls(&fill, placed, false);
+    m_startOrigin = placed.origin.Round();
+    m_startXEnd = placed.xEnd.Round();
+    m_startYEnd = placed.yEnd.Round();
+    m_spacingVector1 = {fill.GetAdditionalOffset().x, fill.GetAdditionalOffset2().y};
+    m_spacingVector2 = Kesto2D::SaturatePoint(-static_cast<long long>(fill.GetAdditionalOffset2().x),
+                                              -static_cast<long long>(fill.GetAdditionalOffset().y));
+}
+
 void FillToolVector::OnDragStart(CPoint& point, unsigned int flags)
 {
     const CFillVector* fill = FillOfKind<CFillVector>(nullptr);
@@ -152,15 +165,7 @@ void FillToolVector::OnDragStart(CPoint& point, unsigned int flags)
         return;
     }
     FillToolBitmap::OnDragStart(point, flags);
-    GetCurrentControls(fill, m_currentControls, true);
-    ControlInstance placed;
-    GetCurrentControls(fill, placed, false);
-    m_startOrigin = placed.origin.Round();
-    m_startXEnd = placed.xEnd.Round();
-    m_startYEnd = placed.yEnd.Round();
-    m_spacingVector1 = {fill->GetAdditionalOffset().x, fill->GetAdditionalOffset2().y};
-    m_spacingVector2 = Kesto2D::SaturatePoint(-static_cast<long long>(fill->GetAdditionalOffset2().x),
-                                              -static_cast<long long>(fill->GetAdditionalOffset().y));
+    TakeStartState(*fill);
     SetCurrentNode(IndexFromPoint(point));
     if (m_xSnapOffsets.empty() || GetControlBoxMode() == ScalingMode)
         BuildSnapOffsets(*fill);
@@ -334,9 +339,7 @@ void FillToolVector::OnDragEnd(CPoint& point, unsigned int flags)
     m_tileRotation = CFillVector::MeasureTileRotation(placed.origin, placed.yEnd);
     m_tileRotationTransform = CFillVector::TileRotationTransform(m_tileRotation);
     // The box the handles are measured against is the one the drag left.
-    m_startOrigin = placed.origin.Round();
-    m_startXEnd = placed.xEnd.Round();
-    m_startYEnd = placed.yEnd.Round();
+    TakeStartState(*fill);
 }
 
 void FillToolVector::Draw(IRenderTarget* target, bool outlineOnly, const K2DLtGeneral& view) const
@@ -423,15 +426,7 @@ void FillToolVector::OnFillControlResetHandles()
     RefPtr<CFill> copy = fill->Clone();
     auto* reset = static_cast<CFillVector*>(copy.get());
     reset->ResetExtents();
-    GetCurrentControls(reset, m_currentControls, true);
-    ControlInstance placed;
-    GetCurrentControls(reset, placed, false);
-    m_startOrigin = placed.origin.Round();
-    m_startXEnd = placed.xEnd.Round();
-    m_startYEnd = placed.yEnd.Round();
-    m_spacingVector1 = {reset->GetAdditionalOffset().x, reset->GetAdditionalOffset2().y};
-    m_spacingVector2 = Kesto2D::SaturatePoint(-static_cast<long long>(reset->GetAdditionalOffset2().x),
-                                              -static_cast<long long>(reset->GetAdditionalOffset().y));
+    TakeStartState(*reset);
     m_tileRotation = 0;
     m_tileRotationTransform.SetToIdentity();
     UpdateFill(copy.get(), nullptr);

@@ -89,6 +89,8 @@ private:
     void OnDragChangeScaleAndRotate(CPoint& point, unsigned int flags);
     // The spacing-mode handles for a placed box: B, A and their rotation handles.
     void SpacingHandles(const CFillVector& fill, const Points& box, K2DArrayPoint* handles) const;
+    // The current controls, start points and spacing vectors from fill.
+    void TakeStartState(const CFillVector& fill);
     // Rebuilds both snap lists from the placed instance's size.
     void BuildSnapOffsets(const CFillVector& fill);
     // Commits a box edited on the page (scaled to the drawing, the yEnd axis leading when
