@@ -4,8 +4,6 @@
 
 #include "gdi/FillPaint.h"
 #include "gdi/PngFile.h"
-#include "raster/Composite.h"
-#include "raster/PreparedPaint.h"
 
 #include <vector>
 
@@ -23,13 +21,8 @@ bool WriteSessionPicture(const std::string& path, const Platform::CRect& r, cons
         for (int x = object.x0; x < object.x1; ++x)
             pixels[static_cast<std::size_t>(y) * width + x] = ((x / 10 + y / 10) % 2) ? 0xFFD0D0D0 : 0xFFFFFFFF;
     const KestoRaster::Target canvas{pixels.data(), width, height, width * 4, KestoRaster::Output::Argb32};
-    if (const auto paint = KestoGDI::FillPaint::From(fill, scale)) {
-        std::vector<std::uint32_t> layer(pixels.size(), 0);
-        const KestoRaster::Target fillLayer{layer.data(), width, height, width * 4, KestoRaster::Output::Argb32};
-        const KestoRaster::Affine place{scale, 0, 0, scale, margin - r.left * scale, margin - r.top * scale};
-        KestoRaster::Render(KestoRaster::PreparedPaint(*paint, place, KestoRaster::Output::Argb32), fillLayer, object);
-        KestoRaster::CompositeOver(canvas, fillLayer, nullptr, object);
-    }
+    const KestoRaster::Affine place{scale, 0, 0, scale, margin - r.left * scale, margin - r.top * scale};
+    KestoGDI::FillPaint::PaintOver(fill, place, scale, canvas, object);
     PixelRenderTarget target(pixels.data(), width, height);
     Kesto2D::K2DLtGeneral view;
     view += Kesto2D::K2DLtTranslate(-r.left, -r.top);

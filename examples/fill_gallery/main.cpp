@@ -146,26 +146,10 @@ bool PaintCell(Canvas& canvas, const Platform::CRuntimeClass* kind, const Clip& 
         bitmap->SetControls(K2DDblPoint(box.left, box.top), K2DDblPoint(box.left + 30, box.top),
                             K2DDblPoint(box.left, box.top + 30));
     }
-    const std::optional<Paint> paint = KestoGDI::FillPaint::From(*fill);
-    if (!paint) {
+    if (!KestoGDI::FillPaint::PaintOver(*fill, {}, 1, canvas.Argb(), cell)) {
         canvas.Text(cell.x0 + 18, cell.y0 + 30, "NOT YET");
         return false;
     }
-    std::vector<std::uint32_t> layer(canvas.Pixels().size(), 0);
-    const Target fillTarget{layer.data(), canvas.Width(), canvas.Height(), canvas.Width() * 4, Output::Argb32};
-    if (!fill->IsTransparency()) {
-        Render(PreparedPaint(*paint, {}, Output::Argb32), fillTarget, cell);
-        CompositeOver(canvas.Argb(), fillTarget, nullptr, cell);
-        return true;
-    }
-    // A transparency shapes a dark blue fill.
-    std::vector<std::uint8_t> mask(canvas.Pixels().size(), 0);
-    const Target maskTarget{mask.data(), canvas.Width(), canvas.Height(), canvas.Width(), Output::Mask8};
-    Render(PreparedPaint(*paint, {}, Output::Mask8), maskTarget, cell);
-    Paint blue;
-    blue.colours = {{30, 60, 160, 255}};
-    Render(PreparedPaint(blue, {}, Output::Argb32), fillTarget, cell);
-    CompositeOver(canvas.Argb(), fillTarget, &maskTarget, cell);
     return true;
 }
 

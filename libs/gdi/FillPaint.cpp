@@ -13,6 +13,8 @@
 #include "gdi/CFillSquare.h"
 #include "gdi/CFillThreeColour.h"
 #include "gdi/CFillVector.h"
+#include "raster/Composite.h"
+#include "raster/PreparedPaint.h"
 
 #include <algorithm>
 #include <cmath>
@@ -174,6 +176,31 @@ std::optional<KestoRaster::Paint> FillPaint::From(const CFill& fill, double pixe
     PaintOfKind visitor(pixelsPerUnit);
     fill.Accept(visitor);
     return std::move(visitor.paint);
+}
+
+bool FillPaint::PaintOver(const CFill& fill, const KestoRaster::Affine& fillToDevice, double pixelsPerUnit,
+                          const KestoRaster::Target& canvas, const KestoRaster::Clip& clip)
+{
+    using namespace KestoRaster;
+    const std::optional<Paint> paint = From(fill, pixelsPerUnit);
+    if (!paint)
+        return false;
+    const auto pixelCount = static_cast<std::size_t>(canvas.width) * static_cast<std::size_t>(canvas.height);
+    std::vector<std::uint32_t> layer(pixelCount, 0);
+    const Target fillTarget{layer.data(), canvas.width, canvas.height, canvas.width * 4, Output::Argb32};
+    if (!fill.IsTransparency()) {
+        Render(PreparedPaint(*paint, fillToDevice, Output::Argb32), fillTarget, clip);
+        CompositeOver(canvas, fillTarget, nullptr, clip);
+        return true;
+    }
+    std::vector<std::uint8_t> mask(pixelCount, 0);
+    const Target maskTarget{mask.data(), canvas.width, canvas.height, canvas.width, Output::Mask8};
+    Render(PreparedPaint(*paint, fillToDevice, Output::Mask8), maskTarget, clip);
+    Paint shaped;
+    shaped.colours = {{30, 60, 160, 255}};
+    Render(PreparedPaint(shaped, {}, Output::Argb32), fillTarget, clip);
+    CompositeOver(canvas, fillTarget, &maskTarget, clip);
+    return true;
 }
 
 } // namespace KestoGDI

@@ -20,6 +20,12 @@ public:
     // tile of its grid's cell, drawn at pixelsPerUnit device pixels per unit of the fill's
     // space. The discrete mesh, which the renderer does not paint, answers nothing.
     static std::optional<KestoRaster::Paint> From(const CFill& fill, double pixelsPerUnit = 1);
+
+    // Shows fill over what canvas (an Argb32 target) holds inside clip, placed by fillToDevice
+    // at pixelsPerUnit: a fill composited over it, a transparency as the dark blue it would let
+    // through. False, painting nothing, for a fill the renderer does not paint.
+    static bool PaintOver(const CFill& fill, const KestoRaster::Affine& fillToDevice, double pixelsPerUnit,
+                          const KestoRaster::Target& canvas, const KestoRaster::Clip& clip);
 };
 
 } // namespace KestoGDI

@@ -10,6 +10,7 @@ class CComboBox : public CWnd, public CListItems {
     KESTO_DECLARE_DYNAMIC(CComboBox)
 protected:
     WindowKind GetWindowKind() const override { return WindowKind::ComboBox; }
+    void OnItemsChanged() override { StateChanged(); }
 };
 
 } // namespace Platform

@@ -5,6 +5,7 @@
 #include "platform/CEdit.h"
 #include "platform/CSliderCtrl.h"
 #include "platform/CSpinButtonCtrl.h"
+#include "platform/CStatic.h"
 #include "platform/WindowBackend.h"
 
 namespace Platform {
@@ -25,6 +26,8 @@ std::unique_ptr<CWnd> MakeControl(const std::string& className)
         return std::make_unique<CComboBox>();
     if (className == "Button")
         return std::make_unique<CButton>();
+    if (className == "Static")
+        return std::make_unique<CStatic>();
     return std::make_unique<CWnd>();
 }
 

@@ -11,6 +11,7 @@ void CEdit::SetSel(int start, int end)
     const int length = GetWindowText().GetLength();
     m_selStart = std::clamp(start, 0, length);
     m_selEnd = end < 0 ? length : std::clamp(end, m_selStart, length);
+    StateChanged();
 }
 
 void CEdit::GetSel(int& start, int& end) const

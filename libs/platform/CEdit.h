@@ -15,7 +15,7 @@ public:
     // 0 for no limit.
     void LimitText(int maximum) { m_limit = maximum; }
     int GetLimitText() const { return m_limit; }
-    // Selects [start, end); an end of -1 means the end of the text.
+    // Selects [start, end); an end of -1 means the end of the text. The widget shows it.
     void SetSel(int start, int end);
     void GetSel(int& start, int& end) const;
     // Replaces the selection with text, as far as the limit allows.

@@ -5,6 +5,7 @@ namespace Platform {
 int CListItems::AddString(const CString& text)
 {
     m_items.push_back({text, 0});
+    OnItemsChanged();
     return GetCount() - 1;
 }
 
@@ -12,6 +13,7 @@ void CListItems::ResetContent()
 {
     m_items.clear();
     m_current = -1;
+    OnItemsChanged();
 }
 
 CString CListItems::GetLBText(int index) const
@@ -33,6 +35,7 @@ void CListItems::SetItemData(int index, std::intptr_t data)
 void CListItems::SetCurSel(int index)
 {
     m_current = Valid(index) ? index : -1;
+    OnItemsChanged();
 }
 
 } // namespace Platform

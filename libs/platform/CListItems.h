@@ -11,6 +11,7 @@ namespace Platform {
 // (-1 for none). Shared by the window combo box and the command-bar combo.
 class CListItems {
 public:
+    virtual ~CListItems() = default;
     int GetCount() const { return static_cast<int>(m_items.size()); }
     // Appends an item and answers its index.
     int AddString(const CString& text);
@@ -23,6 +24,10 @@ public:
     int GetCurSel() const { return m_current; }
     // Selects an item; any index out of range selects none (-1).
     void SetCurSel(int index);
+
+protected:
+    // The items or the selection changed (a window shows them again).
+    virtual void OnItemsChanged() {}
 
 private:
     struct Item {

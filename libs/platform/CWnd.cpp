@@ -88,9 +88,15 @@ bool CWnd::SubclassDlgItem(int id, CWnd* parent)
     m_rect = item->m_rect;
     m_parent = parent;
     m_created = true;
-    m_peer = std::move(item->m_peer);
-    if (m_peer)
+    // The item's widget stays when it is already the right kind of widget (an edit box taken
+    // over by a special edit); a custom control's plain window gets the widget of its class.
+    if (item->m_peer && item->GetWindowKind() == GetWindowKind()) {
+        m_peer = std::move(item->m_peer);
         m_peer->Retarget(*this);
+    } else {
+        m_peer = Backend().CreatePeer(*this, GetWindowKind());
+        item->m_peer.reset();
+    }
     *std::find(parent->m_children.begin(), parent->m_children.end(), item) = this;
     item->m_parent = nullptr;
     Backend().WindowDestroyed(item);

@@ -6,8 +6,6 @@
 #include "platform/CSliderCtrl.h"
 #include "platform/CSpinButtonCtrl.h"
 
-#include <algorithm>
-
 namespace Platform {
 
 HeadlessBackend& Headless()
@@ -51,19 +49,17 @@ std::unique_ptr<WindowPeer> HeadlessBackend::CreatePeer(CWnd& window, WindowKind
 
 void HeadlessBackend::SetTimer(CWnd* window, int id, int milliseconds)
 {
-    KillTimer(window, id);
-    const int period = std::max(milliseconds, 1);
-    m_timers.push_back({window, id, period, m_now + period});
+    m_clock.SetTimer(window, id, milliseconds);
 }
 
 void HeadlessBackend::KillTimer(CWnd* window, int id)
 {
-    std::erase_if(m_timers, [&](const Timer& t) { return t.window == window && t.id == id; });
+    m_clock.KillTimer(window, id);
 }
 
 void HeadlessBackend::WindowDestroyed(CWnd* window)
 {
-    std::erase_if(m_timers, [&](const Timer& t) { return t.window == window; });
+    m_clock.Forget(window);
     if (m_focus == window)
         m_focus = nullptr;
 }
@@ -73,24 +69,6 @@ int HeadlessBackend::RunModal(CDialog& dialog)
     if (m_script)
         m_script(dialog);
     return IDCANCEL;
-}
-
-void HeadlessBackend::AdvanceClock(int milliseconds)
-{
-    const long long until = m_now + std::max(milliseconds, 0);
-    for (;;) {
-        const auto next = std::min_element(m_timers.begin(), m_timers.end(),
-                                           [](const Timer& a, const Timer& b) { return a.due < b.due; });
-        if (next == m_timers.end() || next->due > until)
-            break;
-        m_now = next->due;
-        next->due += next->period;
-        CWnd* window = next->window;
-        const int id = next->id;
-        // The handler may kill or restart timers, so the entry is not used after this call.
-        window->OnTimer(id);
-    }
-    m_now = until;
 }
 
 void HeadlessBackend::Type(const CString& text)

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "platform/ManualClock.h"
 #include "platform/WindowBackend.h"
 
 #include <functional>
-#include <vector>
 
 namespace Platform {
 
@@ -33,11 +33,11 @@ public:
     // The script the next modal runs play; it stays until replaced.
     void SetModalScript(ModalScript script) { m_script = std::move(script); }
 
-    long long Now() const { return m_now; }
+    long long Now() const { return m_clock.Now(); }
     // Moves the clock on, firing every timer that falls due, in time order (a timer repeats
     // until it is killed).
-    void AdvanceClock(int milliseconds);
-    int PendingTimers() const { return static_cast<int>(m_timers.size()); }
+    void AdvanceClock(int milliseconds) { m_clock.Advance(milliseconds); }
+    int PendingTimers() const { return m_clock.PendingTimers(); }
     // How many state changes windows have reported.
     long long ChangeCount() const { return m_changes; }
 
@@ -54,17 +54,9 @@ public:
     void ClickButton(CWnd& dialog, int id);
 
 private:
-    struct Timer {
-        CWnd* window;
-        int id;
-        int period;
-        long long due;
-    };
-
-    long long m_now = 0;
+    ManualClock m_clock;
     long long m_changes = 0;
     CWnd* m_focus = nullptr;
-    std::vector<Timer> m_timers;
     ModalScript m_script;
 };
 

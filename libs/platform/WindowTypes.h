@@ -23,6 +23,7 @@ constexpr unsigned VK_RETURN = 13;
 constexpr unsigned VK_DELETE = 46;
 
 constexpr int BN_CLICKED = 0;
+constexpr int CBN_SELCHANGE = 1;
 constexpr int EN_SETFOCUS = 0x0100;
 constexpr int EN_KILLFOCUS = 0x0200;
 constexpr int EN_CHANGE = 0x0300;

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "platform/ManualClock.h"
+#include "platform/WindowBackend.h"
+
+#include <QObject>
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <utility>
+
+class QTimer;
+class QWidget;
+
+namespace KestoToolQt {
+
+class QtWindowPeer;
+
+// The window back end on Qt widgets: each window of the library's window tree gets a widget
+// (a QDialog, QLineEdit, QSlider, arrow buttons, QComboBox, QPushButton, QLabel or a fill
+// preview), placed by its rectangle in dialog units scaled to the screen's dpi. Timers run on
+// QTimer, or on a manual clock for tests and scripted sessions; the keyboard focus follows
+// both ways; a modal run is QDialog::exec.
+//
+// Construct it after the QApplication and install it with Platform::SetBackend; uninstall it
+// before it goes. It sets the screen's pixels per inch from the primary screen.
+class QtBackend : public Platform::WindowBackend {
+public:
+    using ModalScript = std::function<void(Platform::CDialog&)>;
+
+    QtBackend();
+    ~QtBackend() override;
+
+    std::unique_ptr<Platform::WindowPeer> CreatePeer(Platform::CWnd& window, Platform::WindowKind kind) override;
+    void SetTimer(Platform::CWnd* window, int id, int milliseconds) override;
+    void KillTimer(Platform::CWnd* window, int id) override;
+    Platform::CWnd* GetFocus() const override { return m_focus; }
+    void SetFocus(Platform::CWnd* window) override;
+    int RunModal(Platform::CDialog& dialog) override;
+    void EndModal(Platform::CDialog& dialog, int result) override;
+    void WindowDestroyed(Platform::CWnd* window) override;
+
+    // A script that each modal run plays once its dialog is showing, from the dialog's event
+    // loop; a dialog the script leaves open is cancelled. Null runs the dialog for the user.
+    void SetModalScript(ModalScript script) { m_script = std::move(script); }
+
+    // Timers from now on wait for AdvanceClock instead of the wall clock (or go back to it).
+    void UseManualClock(bool manual);
+    void AdvanceClock(int milliseconds) { m_clock.Advance(milliseconds); }
+
+    // The widget that shows a window; null for a window that is not live on this back end.
+    static QWidget* WidgetOf(const Platform::CWnd& window);
+    // The window a widget (or a part of it) shows; null for a widget of no window.
+    Platform::CWnd* WindowOf(const QWidget* widget) const;
+
+    // Widget pixels per dialog unit: the screen's pixels per inch over 96.
+    static double PixelsPerUnit();
+
+private:
+    friend class QtWindowPeer;
+    void Register(QWidget* widget, QtWindowPeer* peer) { m_peers[widget] = peer; }
+    void Unregister(const QWidget* widget) { m_peers.erase(widget); }
+    void FocusChangedByUser(QWidget* now);
+
+    QObject m_context;  // owns the connections to the application
+    std::map<const QWidget*, QtWindowPeer*> m_peers;
+    std::map<std::pair<Platform::CWnd*, int>, std::unique_ptr<QTimer>> m_timers;
+    Platform::ManualClock m_clock;
+    bool m_manualClock = false;
+    Platform::CWnd* m_focus = nullptr;
+    bool m_settingFocus = false;
+    ModalScript m_script;
+};
+
+} // namespace KestoToolQt

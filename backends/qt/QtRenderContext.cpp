@@ -1,0 +1,53 @@
+#include "qt/QtRenderContext.h"
+
+#include "qt/QtConvert.h"
+
+#include <QPainter>
+#include <QPolygonF>
+
+namespace KestoToolQt {
+
+QtRenderContext::QtRenderContext(QPainter& painter, double pixelScale) : m_painter(painter), m_scale(pixelScale)
+{
+    m_painter.setRenderHint(QPainter::Antialiasing);
+}
+
+void QtRenderContext::Select()
+{
+    m_painter.setPen(GetPen() ? ToQPen(*GetPen()) : QPen(Qt::NoPen));
+    m_painter.setBrush(GetBrush() ? QBrush(ToQColor(*GetBrush())) : QBrush(Qt::NoBrush));
+}
+
+void QtRenderContext::Rectangle(const Platform::CRect& r)
+{
+    Select();
+    m_painter.drawRect(QRectF(r.left, r.top, r.Width(), r.Height()));
+}
+
+void QtRenderContext::Line(const Platform::CPoint& a, const Platform::CPoint& b)
+{
+    Select();
+    m_painter.drawLine(QPointF(a.x, a.y), QPointF(b.x, b.y));
+}
+
+void QtRenderContext::Polyline(const Kesto2D::K2DArrayPoint& points)
+{
+    QPolygonF polygon;
+    for (const Platform::CPoint& p : points)
+        polygon << QPointF(p.x, p.y);
+    Select();
+    m_painter.drawPolyline(polygon);
+}
+
+void QtRenderContext::Curve(const Kesto2D::K2DCurve& curve)
+{
+    Select();
+    for (const auto& line : curve.Flatten(ScalePixels(0.25))) {
+        QPolygonF polygon;
+        for (const auto& p : line)
+            polygon << QPointF(p.x, p.y);
+        m_painter.drawPolyline(polygon);
+    }
+}
+
+} // namespace KestoToolQt
