@@ -121,6 +121,11 @@ int QtBackend::RunModal(Platform::CDialog& dialog)
             QWidget::setTabOrder(previous, child);
         previous = child;
     }
+    // Shown and made the active window before anything runs in it, so that the keyboard focus
+    // is the dialog's from the start (a script's first keys go where the user's would).
+    widget->show();
+    widget->activateWindow();
+    QApplication::setActiveWindow(widget);
     if (m_script) {
         QTimer::singleShot(0, widget, [widget, &dialog, script = m_script] {
             script(dialog);

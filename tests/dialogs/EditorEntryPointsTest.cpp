@@ -17,9 +17,9 @@
 #include "gdi/CTransparencyNone.h"
 #include "gdi/CTransparencyThreePoint.h"
 #include "platform/CXTPControlComboBox.h"
-#include "platform/HeadlessBackend.h"
 #include "resources/ResourceIds.h"
 #include "support/TestDocument.h"
+#include "support/UserInput.h"
 #include "ui/KCResourceDialog.h"
 
 #include <gtest/gtest.h>
@@ -28,14 +28,16 @@
 
 using namespace KestoTool;
 using namespace KestoGDI;
-using Platform::Headless;
+using KestoTest::UserInput;
 
 namespace {
 
 constexpr int kChooser = -2;  // the host's colour chooser rather than a dialog
 constexpr int kNothing = -3;  // no editor at all
 
-struct EditorTest : testing::Test {
+// Runs on every window back end.
+struct EditorTest : testing::TestWithParam<UserInput*> {
+    UserInput& input = *GetParam();
     KestoTest::TestDocument document;
     int opened = kNothing;
     Platform::CWnd* openedParent = reinterpret_cast<Platform::CWnd*>(1);
@@ -44,15 +46,16 @@ struct EditorTest : testing::Test {
     // Each modal run records which template it showed, then confirms (or cancels).
     void Script(bool confirm)
     {
-        Headless().SetModalScript([this, confirm](Platform::CDialog& d) {
+        input.SetModalScript([this, confirm](Platform::CDialog& d) {
             opened = static_cast<KestoUI::KCResourceDialog&>(d).GetTemplateId();
             openedParent = d.GetParent();
             if (Platform::CWnd* third = d.GetDlgItem(IDC_PREVIEW_EXPAND))
                 thirdButtonShown = third->IsWindowVisible();
-            Headless().ClickButton(d, confirm ? Platform::IDOK : Platform::IDCANCEL);
+            input.ClickButton(d, confirm ? Platform::IDOK : Platform::IDCANCEL);
         });
     }
-    void TearDown() override { Headless().SetModalScript(nullptr); }
+    void SetUp() override { input.Install(); }
+    void TearDown() override { input.Uninstall(); }
 
     RefPtr<CFill> Edit(const CFill& fill)
     {
@@ -72,7 +75,7 @@ struct RouteRow {
 
 } // namespace
 
-TEST_F(EditorTest, EachFillReachesItsEditorAndComesBackAsANewEqualFill)
+TEST_P(EditorTest, EachFillReachesItsEditorAndComesBackAsANewEqualFill)
 {
     Script(true);
     const RouteRow rows[] = {
@@ -99,7 +102,7 @@ TEST_F(EditorTest, EachFillReachesItsEditorAndComesBackAsANewEqualFill)
     }
 }
 
-TEST_F(EditorTest, CancelGivesNothingAndTheHelperSettingReachesTheDialog)
+TEST_P(EditorTest, CancelGivesNothingAndTheHelperSettingReachesTheDialog)
 {
     Script(false);
     document.helper.dialogSetting = false;
@@ -112,7 +115,7 @@ TEST_F(EditorTest, CancelGivesNothingAndTheHelperSettingReachesTheDialog)
     EXPECT_TRUE(thirdButtonShown);
 }
 
-TEST_F(EditorTest, SolidAndNoneFillsGoToTheColourChooser)
+TEST_P(EditorTest, SolidAndNoneFillsGoToTheColourChooser)
 {
     CFillSolid solid(CRGBColour(0x0000FF), true);
     solid.SetBlendMode(BlendMode::Multiply);
@@ -137,7 +140,7 @@ TEST_F(EditorTest, SolidAndNoneFillsGoToTheColourChooser)
     EXPECT_FALSE(Edit(solid));
 }
 
-TEST_F(EditorTest, TransparenciesReachTheirEditorsWithOrWithoutADocument)
+TEST_P(EditorTest, TransparenciesReachTheirEditorsWithOrWithoutADocument)
 {
     Script(true);
     const RouteRow rows[] = {
@@ -163,6 +166,8 @@ TEST_F(EditorTest, TransparenciesReachTheirEditorsWithOrWithoutADocument)
         }
     }
 }
+
+INSTANTIATE_TEST_SUITE_P(Backends, EditorTest, testing::ValuesIn(KestoTest::UserInputs()), KestoTest::UserInputName());
 
 TEST(TypeCombos, FilledOnceWithTheOfferedKindsAndKeptInStep)
 {

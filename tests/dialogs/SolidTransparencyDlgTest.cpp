@@ -1,8 +1,8 @@
 #include "dialogs/SolidTransparencyDlg.h"
 
 #include "gdi/CMonoColour.h"
-#include "platform/HeadlessBackend.h"
 #include "resources/ResourceIds.h"
+#include "support/UserInput.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@ using namespace KestoTool;
 using KestoGDI::CMonoColour;
 using KestoGDI::CTransparencyFlat;
 using Platform::CString;
-using Platform::Headless;
+using KestoTest::UserInput;
 
 namespace {
 
@@ -27,9 +27,12 @@ CTransparencyFlat Flat(int level)
     return t;
 }
 
-class SolidTransparencyDlgTest : public testing::Test {
+// Runs on every window back end.
+class SolidTransparencyDlgTest : public testing::TestWithParam<UserInput*> {
 protected:
-    void TearDown() override { Headless().SetModalScript(nullptr); }
+    void SetUp() override { input.Install(); }
+    void TearDown() override { input.Uninstall(); }
+    UserInput& input = *GetParam();
 };
 
 } // namespace
@@ -50,12 +53,12 @@ TEST(SolidTransparencyDlgConversions, PercentAndValueRoundHalvesUp)
         EXPECT_EQ(CSolidTransparencyDlg::FromPercentage(row.percent), row.value) << row.percent;
 }
 
-TEST_F(SolidTransparencyDlgTest, UserDrivesSliderEditAndSpinThenConfirms)
+TEST_P(SolidTransparencyDlgTest, UserDrivesSliderEditAndSpinThenConfirms)
 {
     const CTransparencyFlat original = Flat(128);
     CSolidTransparencyDlg dialog(&original, nullptr);
     EXPECT_EQ(dialog.GetBBox(), CRect(0, 0, 1000, 1000));
-    Headless().SetModalScript([](Platform::CDialog& d) {
+    input.SetModalScript([this](Platform::CDialog& d) {
         auto& dlg = static_cast<CSolidTransparencyDlg&>(d);
         // Opened at 50 percent everywhere, the preview showing the transparency.
         EXPECT_EQ(dlg.GetEdit().GetWindowText(), CString(L"50"));
@@ -65,7 +68,7 @@ TEST_F(SolidTransparencyDlgTest, UserDrivesSliderEditAndSpinThenConfirms)
         EXPECT_EQ(dlg.GetPreview().GetBounds(), CRect(0, 0, 1000, 1000));
         EXPECT_EQ(LevelOf(dlg.GetPreview().GetFill()), 128);
 
-        Headless().DragSlider(dlg.GetSlider(), 20);
+        input.DragSlider(dlg.GetSlider(), 20);
         EXPECT_EQ(dlg.GetEdit().GetWindowText(), CString(L"20"));
         EXPECT_EQ(LevelOf(dlg.GetPreview().GetFill()), 51);
         EXPECT_EQ(LevelOf(dlg.GetTrans().get()), 51);
@@ -73,15 +76,15 @@ TEST_F(SolidTransparencyDlgTest, UserDrivesSliderEditAndSpinThenConfirms)
         // Typing 250 and moving on clamps to 100.
         dlg.GetEdit().SetFocus();
         dlg.GetEdit().SetSel(0, -1);
-        Headless().Type(L"250");
+        input.Type(L"250");
         EXPECT_EQ(LevelOf(dlg.GetPreview().GetFill()), 51);  // nothing happens while typing
-        Headless().MoveFocus(&dlg.GetSlider());
+        input.MoveFocus(&dlg.GetSlider());
         EXPECT_EQ(dlg.GetEdit().GetWindowText(), CString(L"100"));
         EXPECT_EQ(dlg.GetSlider().GetPos(), 100);
         EXPECT_EQ(LevelOf(dlg.GetPreview().GetFill()), 255);
 
         // A spin step down from what the edit shows.
-        Headless().ClickSpin(dlg.GetSpin(), false);
+        input.ClickSpin(dlg.GetSpin(), false);
         EXPECT_EQ(dlg.GetEdit().GetWindowText(), CString(L"99"));
         EXPECT_EQ(dlg.GetSlider().GetPos(), 99);
         EXPECT_EQ(LevelOf(dlg.GetPreview().GetFill()), 252);
@@ -89,27 +92,27 @@ TEST_F(SolidTransparencyDlgTest, UserDrivesSliderEditAndSpinThenConfirms)
         // A typed value is taken when OK takes the focus.
         dlg.GetEdit().SetFocus();
         dlg.GetEdit().SetSel(0, -1);
-        Headless().Type(L"10");
-        Headless().ClickButton(dlg, Platform::IDOK);
+        input.Type(L"10");
+        input.ClickButton(dlg, Platform::IDOK);
     });
     ASSERT_EQ(dialog.DoModal(), Platform::IDOK);
     EXPECT_EQ(LevelOf(dialog.GetTrans().get()), 26);
     EXPECT_EQ(LevelOf(&original), 128);  // the caller's transparency is never touched
 }
 
-TEST_F(SolidTransparencyDlgTest, WithoutATransparencyItStartsFullyTransparent)
+TEST_P(SolidTransparencyDlgTest, WithoutATransparencyItStartsFullyTransparent)
 {
     CSolidTransparencyDlg dialog(nullptr, nullptr);
     EXPECT_EQ(LevelOf(dialog.GetTrans().get()), 255);
-    Headless().SetModalScript([](Platform::CDialog& d) {
+    input.SetModalScript([this](Platform::CDialog& d) {
         auto& dlg = static_cast<CSolidTransparencyDlg&>(d);
         EXPECT_EQ(dlg.GetEdit().GetWindowText(), CString(L"100"));
-        Headless().ClickButton(dlg, Platform::IDCANCEL);
+        input.ClickButton(dlg, Platform::IDCANCEL);
     });
     EXPECT_EQ(dialog.DoModal(), Platform::IDCANCEL);
 }
 
-TEST_F(SolidTransparencyDlgTest, SetTransHoldsACopyAndOnlyUpdateTransShowsIt)
+TEST_P(SolidTransparencyDlgTest, SetTransHoldsACopyAndOnlyUpdateTransShowsIt)
 {
     CSolidTransparencyDlg dialog(nullptr, nullptr);
     const CTransparencyFlat quarter = Flat(64);
@@ -120,3 +123,6 @@ TEST_F(SolidTransparencyDlgTest, SetTransHoldsACopyAndOnlyUpdateTransShowsIt)
     EXPECT_EQ(LevelOf(dialog.GetPreview().GetFill()), 64);
     EXPECT_NE(dialog.GetTrans().get(), dialog.GetTrans().get());  // each call a new copy
 }
+
+INSTANTIATE_TEST_SUITE_P(Backends, SolidTransparencyDlgTest, testing::ValuesIn(KestoTest::UserInputs()),
+                         KestoTest::UserInputName());

@@ -3,7 +3,7 @@
 #include "kernel/VerifyReporter.h"
 #include "platform/CDialog.h"
 #include "platform/CSpinButtonCtrl.h"
-#include "platform/HeadlessBackend.h"
+#include "support/UserInput.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +12,7 @@
 
 using namespace KestoTool;
 using Platform::CString;
-using Platform::Headless;
+using KestoTest::UserInput;
 
 namespace {
 
@@ -57,12 +57,21 @@ private:
 
 using Script = std::function<void(TintDialog&)>;
 
-void RunModal(TintDialog& dialog, const Script& script)
-{
-    Headless().SetModalScript([&](Platform::CDialog& d) { script(static_cast<TintDialog&>(d)); });
-    dialog.DoModal();
-    Headless().SetModalScript(nullptr);
-}
+// Runs on every window back end.
+class TintEditSpinCtrl : public testing::TestWithParam<UserInput*> {
+protected:
+    void SetUp() override { input.Install(); }
+    void TearDown() override { input.Uninstall(); }
+
+    void RunModal(TintDialog& dialog, const Script& script)
+    {
+        input.SetModalScript([&](Platform::CDialog& d) { script(static_cast<TintDialog&>(d)); });
+        dialog.DoModal();
+        input.SetModalScript(nullptr);
+    }
+
+    UserInput& input = *GetParam();
+};
 
 using Commands = std::vector<std::string>;
 
@@ -89,54 +98,54 @@ TEST(TintEditSpinCtrlText, TextFormsAndParsing)
         EXPECT_EQ(CTintEditSpinCtrl::ParseTint(row.text), row.tint) << CString(row.text).ToUtf8();
 }
 
-TEST(TintEditSpinCtrl, ParsedValuesAreClampedToTheRange)
+TEST_P(TintEditSpinCtrl, ParsedValuesAreClampedToTheRange)
 {
     TintDialog dialog(false);
     dialog.tint.SetRange(-50, 50);
-    RunModal(dialog, [](TintDialog& d) {
+    RunModal(dialog, [this](TintDialog& d) {
         d.tint.SetWindowText(L"10");  // tint 90
         d.tint.UpdateDataFromControl();
         EXPECT_EQ(d.tint.GetTint(), 50);
     });
 }
 
-TEST(TintEditSpinCtrl, TypingWithUpdateWhileTypingNotifiesAfterHalfASecondOfQuiet)
+TEST_P(TintEditSpinCtrl, TypingWithUpdateWhileTypingNotifiesAfterHalfASecondOfQuiet)
 {
     TintDialog dialog(true);
-    RunModal(dialog, [](TintDialog& d) {
+    RunModal(dialog, [this](TintDialog& d) {
         d.tint.SetFocus();
         d.tint.SetSel(0, -1);
-        Headless().Type(L"8");
-        Headless().AdvanceClock(400);
-        Headless().Type(L"0");  // restarts the timer
-        Headless().AdvanceClock(499);
+        input.Type(L"8");
+        input.AdvanceClock(400);
+        input.Type(L"0");  // restarts the timer
+        input.AdvanceClock(499);
         EXPECT_TRUE(d.commands.empty());
-        Headless().AdvanceClock(1);
+        input.AdvanceClock(1);
         EXPECT_EQ(d.commands, Commands{"changed"});
         EXPECT_EQ(d.tint.GetTint(), 20);
         EXPECT_EQ(d.tint.GetWindowText(), CString(L"+80%"));
-        Headless().AdvanceClock(5000);  // the timer stopped itself
+        input.AdvanceClock(5000);  // the timer stopped itself
         EXPECT_EQ(d.commands.size(), 1u);
     });
 }
 
-TEST(TintEditSpinCtrl, AWholeTextFromTheBackEndActsAsTypingItKeyByKey)
+TEST_P(TintEditSpinCtrl, AWholeTextFromTheBackEndActsAsTypingItKeyByKey)
 {
     // A back end whose widget edits the text itself hands over the whole new text at once.
-    const auto play = [](bool wholeText) {
+    const auto play = [this](bool wholeText) {
         TintDialog dialog(true);
         Commands seen;
         int tint = 0;
-        RunModal(dialog, [&](TintDialog& d) {
+        RunModal(dialog, [&, this](TintDialog& d) {
             d.tint.SetFocus();
             d.tint.SetSel(0, -1);
             if (wholeText)
-                Headless().EnterText(L"80");
+                input.EnterText(L"80");
             else
-                Headless().Type(L"80");
-            Headless().AdvanceClock(499);
+                input.Type(L"80");
+            input.AdvanceClock(499);
             EXPECT_TRUE(d.commands.empty());
-            Headless().AdvanceClock(1);
+            input.AdvanceClock(1);
             seen = d.commands;
             tint = d.tint.GetTint();
         });
@@ -146,34 +155,34 @@ TEST(TintEditSpinCtrl, AWholeTextFromTheBackEndActsAsTypingItKeyByKey)
     EXPECT_EQ(play(true), std::make_pair(Commands{"changed"}, 20));
 }
 
-TEST(TintEditSpinCtrl, TypingWithoutUpdateWaitsForEnterOrFocusLoss)
+TEST_P(TintEditSpinCtrl, TypingWithoutUpdateWaitsForEnterOrFocusLoss)
 {
     TintDialog dialog(false);
-    RunModal(dialog, [](TintDialog& d) {
+    RunModal(dialog, [this](TintDialog& d) {
         d.tint.SetFocus();
         d.tint.SetSel(0, -1);
-        Headless().Type(L"-40");
-        Headless().AdvanceClock(1000);
+        input.Type(L"-40");
+        input.AdvanceClock(1000);
         EXPECT_EQ(d.tint.GetTint(), 0);
-        Headless().PressKey(Platform::VK_RETURN);  // parses, but neither redraws nor notifies
+        input.PressKey(Platform::VK_RETURN);  // parses, but neither redraws nor notifies
         EXPECT_EQ(d.tint.GetTint(), -60);
         EXPECT_EQ(d.tint.GetWindowText(), CString(L"-40"));
         EXPECT_TRUE(d.commands.empty());
-        Headless().MoveFocus(d.GetDlgItem(kOtherId));
+        input.MoveFocus(d.GetDlgItem(kOtherId));
         EXPECT_EQ(d.tint.GetWindowText(), CString(L"-40%"));
         EXPECT_EQ(d.commands, (Commands{"other", "changed", "finished"}));  // EN_KILLFOCUS first
     });
 }
 
-TEST(TintEditSpinCtrl, SpinStepsStopAtTheRangeEndsAndEndOfScrollFinishes)
+TEST_P(TintEditSpinCtrl, SpinStepsStopAtTheRangeEndsAndEndOfScrollFinishes)
 {
     TintDialog dialog(false);
     dialog.tint.SetRange(-2, 2);
-    RunModal(dialog, [](TintDialog& d) {
+    RunModal(dialog, [this](TintDialog& d) {
         d.tint.SetTint(1);
-        Headless().ClickSpin(d.Spin(), true);
+        input.ClickSpin(d.Spin(), true);
         EXPECT_EQ(d.tint.GetTint(), 2);
-        Headless().ClickSpin(d.Spin(), true);
+        input.ClickSpin(d.Spin(), true);
         EXPECT_EQ(d.tint.GetTint(), 2);
         EXPECT_EQ(d.tint.GetWindowText(), CString(L"+98%"));
         EXPECT_EQ(d.commands, (Commands{"changed", "changed", "finished", "changed", "changed", "finished"}));
@@ -183,21 +192,21 @@ TEST(TintEditSpinCtrl, SpinStepsStopAtTheRangeEndsAndEndOfScrollFinishes)
         d.tint.OnVScroll(Platform::SB_ENDSCROLL, 0, nullptr);
         EXPECT_EQ(d.tint.GetTint(), 2);
         EXPECT_EQ(d.commands, (Commands{"changed", "finished"}));
-        Headless().ClickSpin(d.Spin(), false);
+        input.ClickSpin(d.Spin(), false);
         // "junk 5" has a digit but no leading number: it reads as 0, tint 100, clamped to 2,
         // then stepped down.
         EXPECT_EQ(d.tint.GetTint(), 1);
         d.tint.SetTint(-2);
-        Headless().ClickSpin(d.Spin(), false);
+        input.ClickSpin(d.Spin(), false);
         EXPECT_EQ(d.tint.GetTint(), -2);
         EXPECT_EQ(d.tint.GetWindowText(), CString(L"-98%"));
     });
 }
 
-TEST(TintEditSpinCtrl, SpinFollowsTheEditBoxWhenShownEnabledOrMoved)
+TEST_P(TintEditSpinCtrl, SpinFollowsTheEditBoxWhenShownEnabledOrMoved)
 {
     TintDialog dialog(false);
-    RunModal(dialog, [](TintDialog& d) {
+    RunModal(dialog, [this](TintDialog& d) {
         ASSERT_NE(d.tint.GetSpinCtrl(), nullptr);
         EXPECT_EQ(d.tint.GetSpinCtrl()->GetWindow(), &d.Spin());
         d.tint.ShowWindow(Platform::SW_HIDE);
@@ -213,24 +222,24 @@ TEST(TintEditSpinCtrl, SpinFollowsTheEditBoxWhenShownEnabledOrMoved)
     });
 }
 
-TEST(TintEditSpinCtrl, AfterTheDialogClosesTheControlLeavesItsSpinAloneAndBindsAgain)
+TEST_P(TintEditSpinCtrl, AfterTheDialogClosesTheControlLeavesItsSpinAloneAndBindsAgain)
 {
     TintDialog dialog(false);
     RunModal(dialog, [](TintDialog&) {});
     dialog.tint.ShowWindow(Platform::SW_HIDE);  // the spin window is gone: nothing to touch
     dialog.tint.EnableWindow(false);
-    RunModal(dialog, [](TintDialog& d) {
+    RunModal(dialog, [this](TintDialog& d) {
         ASSERT_TRUE(d.tint.IsWindow());
         EXPECT_EQ(d.tint.GetSpinCtrl()->GetWindow(), &d.Spin());
     });
 }
 
-TEST(TintEditSpinCtrl, BindingToAMissingItemIsReported)
+TEST_P(TintEditSpinCtrl, BindingToAMissingItemIsReported)
 {
     std::vector<Kernel::VerifyReport> reports;
     Kernel::ScopedVerifyHandler handler([&](const Kernel::VerifyReport& r) { reports.push_back(r); });
     TintDialog dialog(false, 999);
-    RunModal(dialog, [](TintDialog& d) {
+    RunModal(dialog, [this](TintDialog& d) {
         EXPECT_FALSE(d.tint.IsWindow());
         EXPECT_EQ(d.tint.GetSpinCtrl(), nullptr);
     });
@@ -239,3 +248,6 @@ TEST(TintEditSpinCtrl, BindingToAMissingItemIsReported)
     EXPECT_EQ(reports[0].file, "TintEditSpinCtrl");
     EXPECT_EQ(reports[0].line, 73);
 }
+
+INSTANTIATE_TEST_SUITE_P(Backends, TintEditSpinCtrl, testing::ValuesIn(KestoTest::UserInputs()),
+                         KestoTest::UserInputName());

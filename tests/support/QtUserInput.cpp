@@ -1,0 +1,141 @@
+// The user's input through real Qt widgets: key events into the focused widget, an input
+// method's commit, mouse clicks on buttons, the slider's thumb pressed, moved and let go.
+#include "support/UserInput.h"
+
+#include "qt/QtBackend.h"
+#include "qt/QtConvert.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QInputMethodEvent>
+#include <QLineEdit>
+#include <QSlider>
+#include <QTest>
+#include <QToolButton>
+
+#include <cstdlib>
+
+namespace KestoTest {
+
+namespace {
+
+using KestoToolQt::QtBackend;
+using KestoToolQt::ToQString;
+
+// The application for every Qt test of the process; without a display it draws offscreen.
+void EnsureApplication()
+{
+    if (qApp)
+        return;
+    if (!std::getenv("QT_QPA_PLATFORM"))
+        setenv("QT_QPA_PLATFORM", "offscreen", 0);
+    static int argc = 1;
+    static char name[] = "KestoToolTests";
+    static char* argv[] = {name, nullptr};
+    // Lives as long as the process: widgets may still be going away when tests end.
+    new QApplication(argc, argv);
+}
+
+Qt::Key QtKey(unsigned key)
+{
+    switch (key) {
+    case Platform::VK_RETURN:
+        return Qt::Key_Return;
+    case Platform::VK_BACK:
+        return Qt::Key_Backspace;
+    case Platform::VK_DELETE:
+        return Qt::Key_Delete;
+    default:
+        return Qt::Key_unknown;
+    }
+}
+
+class QtInput final : public UserInput {
+public:
+    std::string Name() const override { return "Qt"; }
+    void Install() override
+    {
+        EnsureApplication();
+        if (!m_backend) {
+            m_backend = std::make_unique<QtBackend>();
+            m_backend->UseManualClock(true);
+        }
+        Platform::SetBackend(m_backend.get());
+    }
+    void Uninstall() override
+    {
+        m_backend->SetModalScript(nullptr);
+        Platform::SetBackend(nullptr);
+    }
+    void SetModalScript(std::function<void(Platform::CDialog&)> script) override
+    {
+        m_backend->SetModalScript(std::move(script));
+    }
+    void Type(const Platform::CString& text) override
+    {
+        if (QWidget* widget = Focused())
+            QTest::keyClicks(widget, ToQString(text));
+    }
+    void EnterText(const Platform::CString& text) override
+    {
+        auto* line = qobject_cast<QLineEdit*>(Focused());
+        if (!line)
+            return;
+        line->selectAll();
+        QInputMethodEvent commit;
+        commit.setCommitString(ToQString(text));
+        QApplication::sendEvent(line, &commit);
+    }
+    void PressKey(unsigned key) override
+    {
+        if (QWidget* widget = Focused())
+            QTest::keyClick(widget, QtKey(key));
+    }
+    void MoveFocus(Platform::CWnd* window) override
+    {
+        if (QWidget* widget = window ? QtBackend::WidgetOf(*window) : nullptr)
+            widget->setFocus(Qt::TabFocusReason);
+    }
+    void DragSlider(Platform::CSliderCtrl& slider, int pos) override
+    {
+        auto* widget = qobject_cast<QSlider*>(QtBackend::WidgetOf(slider));
+        if (!widget)
+            return;
+        widget->setSliderDown(true);
+        widget->setSliderPosition(pos);
+        widget->setSliderDown(false);
+    }
+    void ClickSpin(Platform::CSpinButtonCtrl& spin, bool up) override
+    {
+        QWidget* widget = QtBackend::WidgetOf(spin);
+        if (auto* arrow = widget ? widget->findChild<QToolButton*>(up ? "up" : "down") : nullptr)
+            QTest::mouseClick(arrow, Qt::LeftButton);
+    }
+    void ClickButton(Platform::CWnd& dialog, int id) override
+    {
+        Platform::CWnd* item = dialog.GetDlgItem(id);
+        if (auto* button = item ? qobject_cast<QAbstractButton*>(QtBackend::WidgetOf(*item)) : nullptr)
+            QTest::mouseClick(button, Qt::LeftButton);
+    }
+    void AdvanceClock(int milliseconds) override { m_backend->AdvanceClock(milliseconds); }
+
+private:
+    // The widget of the window that has the focus: where the user's keys go.
+    QWidget* Focused() const
+    {
+        Platform::CWnd* focus = m_backend->GetFocus();
+        return focus ? QtBackend::WidgetOf(*focus) : nullptr;
+    }
+
+    std::unique_ptr<QtBackend> m_backend;
+};
+
+} // namespace
+
+UserInput& QtUserInput()
+{
+    static QtInput input;
+    return input;
+}
+
+} // namespace KestoTest

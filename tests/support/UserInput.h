@@ -1,0 +1,58 @@
+#pragma once
+
+#include "platform/CDialog.h"
+#include "platform/CSliderCtrl.h"
+#include "platform/CSpinButtonCtrl.h"
+
+#include <functional>
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace KestoTest {
+
+// What a user does to the library's dialogs, played on one window back end: the same dialog
+// test runs on every back end the build has. Keys and clicks go where the user's would (the
+// focused window, the button under the pointer); time moves only when told.
+class UserInput {
+public:
+    virtual ~UserInput() = default;
+    virtual std::string Name() const = 0;
+
+    // Makes this back end the one that windows are created on; Uninstall puts back the headless
+    // one and forgets the modal script.
+    virtual void Install() = 0;
+    virtual void Uninstall() = 0;
+
+    // The script that the next modal runs play once their dialog is showing; a dialog the
+    // script leaves open is cancelled.
+    virtual void SetModalScript(std::function<void(Platform::CDialog&)> script) = 0;
+    // Keystrokes into the focused window.
+    virtual void Type(const Platform::CString& text) = 0;
+    // A whole new text into the focused edit box at once, as an input method commits it.
+    virtual void EnterText(const Platform::CString& text) = 0;
+    virtual void PressKey(unsigned key) = 0;
+    virtual void MoveFocus(Platform::CWnd* window) = 0;
+    // Drags the slider's thumb to pos and lets go.
+    virtual void DragSlider(Platform::CSliderCtrl& slider, int pos) = 0;
+    virtual void ClickSpin(Platform::CSpinButtonCtrl& spin, bool up) = 0;
+    // Clicks the button with that id in the dialog.
+    virtual void ClickButton(Platform::CWnd& dialog, int id) = 0;
+    virtual void AdvanceClock(int milliseconds) = 0;
+};
+
+// Every back end of this build: headless always, Qt when the build has it.
+std::vector<UserInput*> UserInputs();
+
+// In test names and messages: the back end's name.
+inline void PrintTo(UserInput* input, std::ostream* os)
+{
+    *os << input->Name();
+}
+
+struct UserInputName {
+    template <class Info>
+    std::string operator()(const Info& info) const { return info.param->Name(); }
+};
+
+} // namespace KestoTest
