@@ -4,10 +4,6 @@
 
 namespace KestoTest {
 
-#ifdef KESTO_TEST_QT
-UserInput& QtUserInput();
-#endif
-
 namespace {
 
 using Platform::Headless;

@@ -43,6 +43,10 @@ public:
 
 // Every back end of this build: headless always, Qt when the build has it.
 std::vector<UserInput*> UserInputs();
+#ifdef KESTO_TEST_QT
+// Qt widgets on the platform QT_QPA_PLATFORM names (offscreen when it names none).
+UserInput& QtUserInput();
+#endif
 
 // In test names and messages: the back end's name.
 inline void PrintTo(UserInput* input, std::ostream* os)
