@@ -80,7 +80,7 @@ const Platform::AFX_MSGMAP* FillTool::GetMessageMap() const
         Update<&FillTool::OnUpdateFillEnd>(FillCmdEnd),
         Command<&FillTool::OnFillSolid>(FillCmdSolid),
         Update<&FillTool::OnUpdateFillSolid>(FillCmdSolid),
-        Notify<&FillTool::OnFillTypeChange>(FillCmdEditType, 100),
+        Notify<&FillTool::OnFillTypeChange>(FillCmdEditType, Platform::XTP_NOTIFY_EXECUTE),
     };
     static const Platform::AFX_MSGMAP map{CCmdTarget::GetThisMessageMap(), entries};
     return &map;

@@ -28,12 +28,6 @@ using Kesto2D::RoundHalfUp;
 
 KESTO_IMPLEMENT_DYNAMIC(FillToolGradient, FillTool)
 
-namespace {
-
-constexpr int kLevelBoxCommitCode = 65536;
-
-} // namespace
-
 const ColourIntPairs& FillToolGradient::GetGradientNodes() const
 {
     static const ColourIntPairs none;
@@ -390,7 +384,7 @@ void FillToolGradient::TakeLevelFromBox(Platform::NMXTPCONTROL* notify, int inde
     // The box shows the level itself as a percentage, not inverted.
     const int percent = RoundHalfUp(box->GetValue());
     const int level = RoundHalfUp(percent * 255.0 / 100.0);
-    SetLevel(level, index, notify->hdr.code == kLevelBoxCommitCode);
+    SetLevel(level, index, notify->hdr.code == Platform::XTP_NOTIFY_COMMIT);
 }
 
 void FillToolGradient::OnTransStart(Platform::NMXTPCONTROL* notify, long*) { TakeLevelFromBox(notify, 0); }
@@ -588,14 +582,14 @@ const Platform::AFX_MSGMAP* FillToolGradient::GetMessageMap() const
     static const Platform::AFX_MSGMAP_ENTRY entries[] = {
         Command<&FillToolGradient::OnFillRotateCCW>(FillCmdRotateLeft),
         Command<&FillToolGradient::OnFillRotateCW>(FillCmdRotateRight),
-        Notify<&FillToolGradient::OnTransStart>(FillCmdOpacityStartHandle, 100),
-        Notify<&FillToolGradient::OnTransStart>(FillCmdOpacityStartHandle, 0),
+        Notify<&FillToolGradient::OnTransStart>(FillCmdOpacityStartHandle, Platform::XTP_NOTIFY_EXECUTE),
+        Notify<&FillToolGradient::OnTransStart>(FillCmdOpacityStartHandle, Platform::XTP_NOTIFY_COMMIT),
         Update<&FillToolGradient::OnUpdateTransStart>(FillCmdOpacityStartHandle),
-        Notify<&FillToolGradient::OnTransEnd>(FillCmdOpacityEndHandle, 100),
-        Notify<&FillToolGradient::OnTransEnd>(FillCmdOpacityEndHandle, 0),
+        Notify<&FillToolGradient::OnTransEnd>(FillCmdOpacityEndHandle, Platform::XTP_NOTIFY_EXECUTE),
+        Notify<&FillToolGradient::OnTransEnd>(FillCmdOpacityEndHandle, Platform::XTP_NOTIFY_COMMIT),
         Update<&FillToolGradient::OnUpdateTransEnd>(FillCmdOpacityEndHandle),
-        Notify<&FillToolGradient::OnTransSolid>(FillCmdOpacityHandle, 0),
-        Notify<&FillToolGradient::OnTransSolid>(FillCmdOpacityHandle, 100),
+        Notify<&FillToolGradient::OnTransSolid>(FillCmdOpacityHandle, Platform::XTP_NOTIFY_COMMIT),
+        Notify<&FillToolGradient::OnTransSolid>(FillCmdOpacityHandle, Platform::XTP_NOTIFY_EXECUTE),
         Update<&FillToolGradient::OnUpdateTransSolid>(FillCmdOpacityHandle),
         Command<&FillToolGradient::OnFillAspect>(FillCmdLockRatio),
         Update<&FillToolGradient::OnUpdateFillAspect>(FillCmdLockRatio),

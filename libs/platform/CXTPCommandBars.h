@@ -21,6 +21,13 @@ struct XTP_COMMANDBARS_CREATECONTROL {
     std::unique_ptr<CXTPControl> pControl;
 };
 
+// Notification codes of command-bar controls: a value chosen or being entered (a combo's
+// selection, an edit box as the user types or steps it), and an edit box's value committed
+// (Enter or leaving the box). A notification is routed under the low 16 bits of its code, so
+// a commit arrives as 0.
+constexpr int XTP_NOTIFY_EXECUTE = 100;
+constexpr int XTP_NOTIFY_COMMIT = 0x10000;
+
 struct NMHDR {
     int idFrom = 0;
     int code = 0;
