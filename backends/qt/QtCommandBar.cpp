@@ -208,19 +208,7 @@ void QtCommandBar::ShowState(const Shown& shown)
             }
         }
     } else if (auto* combo = qobject_cast<QComboBox*>(widget)) {
-        const auto& items = static_cast<const Platform::CXTPControlComboBox&>(control);
-        QStringList texts;
-        for (int i = 0; i < items.GetCount(); ++i)
-            texts << ToQString(items.GetLBText(i));
-        QStringList shownTexts;
-        for (int i = 0; i < combo->count(); ++i)
-            shownTexts << combo->itemText(i);
-        if (texts != shownTexts) {
-            combo->clear();
-            combo->addItems(texts);
-        }
-        if (combo->currentIndex() != items.GetCurSel())
-            combo->setCurrentIndex(items.GetCurSel());
+        ShowListItems(*combo, static_cast<const Platform::CXTPControlComboBox&>(control));
     } else if (auto* box = qobject_cast<QDoubleSpinBox*>(widget)) {
         const auto& edit = static_cast<const Platform::CXTPControlEdit&>(control);
         const QString suffix = edit.GetUnit().IsEmpty() ? QString() : QStringLiteral(" ") + ToQString(edit.GetUnit());

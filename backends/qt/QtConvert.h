@@ -1,13 +1,23 @@
 #pragma once
 
+#include "platform/CListItems.h"
 #include "platform/CString.h"
 #include "platform/ColourRef.h"
 #include "gdi/RenderBrush.h"
 #include "gdi/RenderPen.h"
+#include "geometry/K2DArrayPoint.h"
+#include "geometry/K2DCurve.h"
+#include "platform/WindowTypes.h"
 
 #include <QColor>
+#include <QComboBox>
 #include <QPen>
+#include <QPolygonF>
 #include <QString>
+
+#include <array>
+#include <utility>
+#include <vector>
 
 // Conversions at the border between the library's types and Qt's.
 namespace KestoToolQt {
@@ -37,6 +47,69 @@ inline QPen ToQPen(const KestoGDI::RenderPen& pen)
 inline QColor ToQColor(const KestoGDI::RenderBrush& brush)
 {
     return ToQColor(brush.colour, brush.alpha);
+}
+
+// Shows a drop-down list's items and selection in a combo box, leaving the box alone where it
+// already shows them (rebuilding it would close an open list).
+inline void ShowListItems(QComboBox& combo, const Platform::CListItems& items)
+{
+    QStringList texts;
+    for (int i = 0; i < items.GetCount(); ++i)
+        texts << ToQString(items.GetLBText(i));
+    QStringList shown;
+    for (int i = 0; i < combo.count(); ++i)
+        shown << combo.itemText(i);
+    if (texts != shown) {
+        combo.clear();
+        combo.addItems(texts);
+    }
+    if (combo.currentIndex() != items.GetCurSel())
+        combo.setCurrentIndex(items.GetCurSel());
+}
+
+inline QPolygonF ToQPolygon(const Kesto2D::K2DArrayPoint& points)
+{
+    QPolygonF polygon;
+    for (const Platform::CPoint& p : points)
+        polygon << QPointF(p.x, p.y);
+    return polygon;
+}
+
+// A curve as polylines no farther than tolerance from it, one per piece.
+inline std::vector<QPolygonF> ToQPolygons(const Kesto2D::K2DCurve& curve, double tolerance)
+{
+    std::vector<QPolygonF> polygons;
+    for (const auto& line : curve.Flatten(tolerance)) {
+        QPolygonF& polygon = polygons.emplace_back();
+        for (const auto& p : line)
+            polygon << QPointF(p.x, p.y);
+    }
+    return polygons;
+}
+
+// The keys that windows handle themselves: the window framework's code and Qt's.
+inline constexpr std::array<std::pair<unsigned, Qt::Key>, 4> kVirtualKeys{{
+    {Platform::VK_RETURN, Qt::Key_Return},
+    {Platform::VK_RETURN, Qt::Key_Enter},
+    {Platform::VK_BACK, Qt::Key_Backspace},
+    {Platform::VK_DELETE, Qt::Key_Delete},
+}};
+
+// The framework's code of a Qt key; 0 for a key no window handles itself.
+inline unsigned ToVirtualKey(int key)
+{
+    for (const auto& [code, qtKey] : kVirtualKeys)
+        if (qtKey == key)
+            return code;
+    return 0;
+}
+
+inline Qt::Key ToQtKey(unsigned code)
+{
+    for (const auto& [virtualKey, qtKey] : kVirtualKeys)
+        if (virtualKey == code)
+            return qtKey;
+    return Qt::Key_unknown;
 }
 
 } // namespace KestoToolQt

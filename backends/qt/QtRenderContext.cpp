@@ -32,22 +32,15 @@ void QtRenderContext::Line(const Platform::CPoint& a, const Platform::CPoint& b)
 
 void QtRenderContext::Polyline(const Kesto2D::K2DArrayPoint& points)
 {
-    QPolygonF polygon;
-    for (const Platform::CPoint& p : points)
-        polygon << QPointF(p.x, p.y);
     Select();
-    m_painter.drawPolyline(polygon);
+    m_painter.drawPolyline(ToQPolygon(points));
 }
 
 void QtRenderContext::Curve(const Kesto2D::K2DCurve& curve)
 {
     Select();
-    for (const auto& line : curve.Flatten(ScalePixels(0.25))) {
-        QPolygonF polygon;
-        for (const auto& p : line)
-            polygon << QPointF(p.x, p.y);
-        m_painter.drawPolyline(polygon);
-    }
+    for (const QPolygonF& line : ToQPolygons(curve, ScalePixels(0.25)))
+        m_painter.drawPolyline(line);
 }
 
 } // namespace KestoToolQt

@@ -44,22 +44,15 @@ void QtRenderTarget::DrawLine(const Platform::CPoint& a, const Platform::CPoint&
 
 void QtRenderTarget::DrawPolyline(const Kesto2D::K2DArrayPoint& points, const KestoGDI::RenderPen& pen)
 {
-    QPolygonF polygon;
-    for (const Platform::CPoint& p : points)
-        polygon << ToQPointF(p);
     m_painter.setPen(ToQPen(pen));
-    m_painter.drawPolyline(polygon);
+    m_painter.drawPolyline(ToQPolygon(points));
 }
 
 void QtRenderTarget::DrawCurve(const Kesto2D::K2DCurve& curve, const KestoGDI::RenderPen& pen)
 {
     m_painter.setPen(ToQPen(pen));
-    for (const auto& line : curve.Flatten(ScalePixels(0.25))) {
-        QPolygonF polygon;
-        for (const auto& p : line)
-            polygon << QPointF(p.x, p.y);
-        m_painter.drawPolyline(polygon);
-    }
+    for (const QPolygonF& line : ToQPolygons(curve, ScalePixels(0.25)))
+        m_painter.drawPolyline(line);
 }
 
 } // namespace KestoToolQt

@@ -35,22 +35,6 @@ int Scaled(int units)
     return static_cast<int>(std::lround(units * QtBackend::PixelsPerUnit()));
 }
 
-// The window framework's code of a key a window handles itself; 0 for the others.
-unsigned VirtualKey(int key)
-{
-    switch (key) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        return Platform::VK_RETURN;
-    case Qt::Key_Backspace:
-        return Platform::VK_BACK;
-    case Qt::Key_Delete:
-        return Platform::VK_DELETE;
-    default:
-        return 0;
-    }
-}
-
 // A dialog whose close button, Escape key and reject() cancel through the dialog's own
 // IDCANCEL command, so that the dialog's OnCancel decides.
 class PeerDialog final : public QDialog {
@@ -90,7 +74,7 @@ public:
 protected:
     void keyPressEvent(QKeyEvent* event) override
     {
-        const unsigned key = VirtualKey(event->key());
+        const unsigned key = ToVirtualKey(event->key());
         if (key)
             m_window->OnKeyDown(key, 1, 0);
         if (key == Platform::VK_RETURN)
@@ -99,7 +83,7 @@ protected:
     }
     void keyReleaseEvent(QKeyEvent* event) override
     {
-        if (const unsigned key = VirtualKey(event->key()))
+        if (const unsigned key = ToVirtualKey(event->key()))
             m_window->OnKeyUp(key, 1, 0);
         QLineEdit::keyReleaseEvent(event);
     }
@@ -228,20 +212,8 @@ public:
 protected:
     void ShowState() override
     {
-        const auto* combo = dynamic_cast<const Platform::CComboBox*>(&GetWindow());
-        if (!combo)
-            return;
-        QStringList items;
-        for (int i = 0; i < combo->GetCount(); ++i)
-            items << ToQString(combo->GetLBText(i));
-        QStringList shown;
-        for (int i = 0; i < Combo()->count(); ++i)
-            shown << Combo()->itemText(i);
-        if (items != shown) {
-            Combo()->clear();
-            Combo()->addItems(items);
-        }
-        Combo()->setCurrentIndex(combo->GetCurSel());
+        if (const auto* combo = dynamic_cast<const Platform::CComboBox*>(&GetWindow()))
+            ShowListItems(*Combo(), *combo);
     }
 
 private:

@@ -36,20 +36,6 @@ void EnsureApplication()
     new QApplication(argc, argv);
 }
 
-Qt::Key QtKey(unsigned key)
-{
-    switch (key) {
-    case Platform::VK_RETURN:
-        return Qt::Key_Return;
-    case Platform::VK_BACK:
-        return Qt::Key_Backspace;
-    case Platform::VK_DELETE:
-        return Qt::Key_Delete;
-    default:
-        return Qt::Key_unknown;
-    }
-}
-
 class QtInput final : public UserInput {
 public:
     std::string Name() const override { return "Qt"; }
@@ -89,7 +75,7 @@ public:
     void PressKey(unsigned key) override
     {
         if (QWidget* widget = Focused())
-            QTest::keyClick(widget, QtKey(key));
+            QTest::keyClick(widget, KestoToolQt::ToQtKey(key));
     }
     void MoveFocus(Platform::CWnd* window) override
     {
