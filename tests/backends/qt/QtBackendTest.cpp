@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QDeadlineTimer>
 #include <QLineEdit>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -60,5 +61,18 @@ TEST(QtBackend, TheProgramsFocusMovesTheWidgetsFocus)
         EXPECT_NE(qobject_cast<QLineEdit*>(KestoToolQt::QtBackend::WidgetOf(dlg.GetEdit())), nullptr);
     });
     dialog.DoModal();
+    input.Uninstall();
+}
+
+TEST(QtBackend, EscapeCancelsThroughTheDialogsOwnCancel)
+{
+    KestoTest::UserInput& input = KestoTest::QtUserInput();
+    input.Install();
+    KestoTool::CSolidTransparencyDlg dialog(nullptr, nullptr);
+    input.SetModalScript([](Platform::CDialog& d) {
+        QTest::keyClick(KestoToolQt::QtBackend::WidgetOf(d), Qt::Key_Escape);
+        EXPECT_TRUE(d.IsEnded());  // ended by OnCancel, not left for the run to cancel
+    });
+    EXPECT_EQ(dialog.DoModal(), Platform::IDCANCEL);
     input.Uninstall();
 }
