@@ -2,7 +2,10 @@
 // dark blue fill over the checkerboard, and writes the gallery as a PNG. It shows a host engineer
 // the whole rendering path: a fill becomes a paint (FillPaint), the paint is prepared for its
 // placement and rendered (KestoRaster), fill and mask are composited over the destination.
+#include "SampleMotif.h"
+
 #include "gdi/CFillBitmap.h"
+#include "gdi/CFillVector.h"
 #include "gdi/CFillWithStops.h"
 #include "gdi/CMonoColour.h"
 #include "gdi/CRGBColour.h"
@@ -140,6 +143,15 @@ bool PaintCell(Canvas& canvas, const Platform::CRuntimeClass* kind, const Clip& 
     const Platform::CRect box(cell.x0 + 10, cell.y0 + 10, cell.x1 - 10, cell.y1 - 10);
     fill->SetDefaultControls(box);
     ShowcaseStops(*fill);
+    // A vector fill needs a drawing to show: the demo's motif, a few instances across the cell
+    // (its box runs from the bottom-left corner: origin, x end, y end).
+    if (auto* vector = dynamic_cast<KestoGDI::CFillVector*>(fill.get())) {
+        vector->SetMetaInstance(SampleMotif());
+        const double side = 40;
+        vector->SetRawBox({K2DDblPoint(box.left, box.top + side), K2DDblPoint(box.left + side, box.top + side),
+                           K2DDblPoint(box.left, box.top)},
+                          true);
+    }
     if (auto* bitmap = dynamic_cast<KestoGDI::CFillBitmap*>(fill.get())) {
         bitmap->SetBitmap(SampleTile());
         // A few tiles across the cell rather than one stretched over it.

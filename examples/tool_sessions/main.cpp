@@ -5,6 +5,7 @@
 // tool's own lines and handles over it.
 #include "DemoHost.h"
 #include "SessionLog.h"
+#include "SampleMotif.h"
 #include "SessionPicture.h"
 
 #include "filltool/FillToolFactory.h"
@@ -180,50 +181,11 @@ bool Run(const char* name, Kernel::RefPtr<CFill> fill, const std::function<void(
     return player.Picture(directory + "/" + name + "-session.png");
 }
 
-// A motif of our own for the vector fill, 40000 units square: a gold-to-orange disc, a navy
-// diamond over it and a teal corner that shows which way up the tile is.
-Kernel::RefPtr<const KestoGDI::VectorDrawing> Motif()
-{
-    using KestoRaster::Path;
-    auto drawing = Kernel::MakeRef<KestoGDI::VectorDrawing>(40000, 40000);
-    const auto solid = [](Platform::COLORREF c) {
-        return Kernel::MakeRef<KestoGDI::CFillSolid>(KestoGDI::CRGBColour(c), true);
-    };
-    constexpr double c = 20000, r = 16000, k = 0.5523 * r;
-    Path disc;
-    disc.MoveTo({c + r, c});
-    disc.CubicTo({c + r, c + k}, {c + k, c + r}, {c, c + r});
-    disc.CubicTo({c - k, c + r}, {c - r, c + k}, {c - r, c});
-    disc.CubicTo({c - r, c - k}, {c - k, c - r}, {c, c - r});
-    disc.CubicTo({c + k, c - r}, {c + r, c - k}, {c + r, c});
-    auto glow = Kernel::MakeRef<KestoGDI::CFillLinear>();
-    glow->SetControls({4000, 4000}, {36000, 36000});
-    KestoGDI::ColourIntPairs stops;
-    stops.Add(KestoGDI::CRGBColour(kGold), 0);
-    stops.Add(KestoGDI::CRGBColour(kOrange), 10000);
-    glow->SetColourIntPairs(stops);
-    drawing->AddShape(disc, glow);
-    Path diamond;
-    diamond.MoveTo({20000, 9000});
-    diamond.LineTo({31000, 20000});
-    diamond.LineTo({20000, 31000});
-    diamond.LineTo({9000, 20000});
-    diamond.Close();
-    drawing->AddShape(diamond, solid(kNavy));
-    Path corner;
-    corner.MoveTo({1000, 1000});
-    corner.LineTo({11000, 1000});
-    corner.LineTo({1000, 11000});
-    corner.Close();
-    drawing->AddShape(corner, solid(kTeal));
-    return drawing;
-}
-
 // The vector fill in both modes on a 200000 x 120000 rectangle, drawn at 500 units a pixel.
 bool RunVector(const std::string& directory)
 {
     std::cout << "\n#### vector fill session on a 200000 x 120000 rectangle (500 units a pixel)\n";
-    KestoGDI::CFillVector start{Motif()};
+    KestoGDI::CFillVector start{SampleMotif()};
     start.SetRawBox({{10000, 50000}, {50000, 50000}, {10000, 10000}}, true);
     Player p(start.Clone(), Platform::CRect(0, 0, 200000, 120000), 500);
     auto& tool = dynamic_cast<FillToolVector&>(p.Tool());

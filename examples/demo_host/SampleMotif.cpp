@@ -1,0 +1,43 @@
+#include "SampleMotif.h"
+
+#include "gdi/CFillLinear.h"
+#include "gdi/CFillSolid.h"
+#include "gdi/CRGBColour.h"
+#include "gdi/ColourIntPairs.h"
+
+Kernel::RefPtr<const KestoGDI::VectorDrawing> SampleMotif()
+{
+    using KestoRaster::Path;
+    auto drawing = Kernel::MakeRef<KestoGDI::VectorDrawing>(40000, 40000);
+    const auto solid = [](Platform::COLORREF c) {
+        return Kernel::MakeRef<KestoGDI::CFillSolid>(KestoGDI::CRGBColour(c), true);
+    };
+    constexpr double c = 20000, r = 16000, k = 0.5523 * r;
+    Path disc;
+    disc.MoveTo({c + r, c});
+    disc.CubicTo({c + r, c + k}, {c + k, c + r}, {c, c + r});
+    disc.CubicTo({c - k, c + r}, {c - r, c + k}, {c - r, c});
+    disc.CubicTo({c - r, c - k}, {c - k, c - r}, {c, c - r});
+    disc.CubicTo({c + k, c - r}, {c + r, c - k}, {c + r, c});
+    auto glow = Kernel::MakeRef<KestoGDI::CFillLinear>();
+    glow->SetControls({4000, 4000}, {36000, 36000});
+    KestoGDI::ColourIntPairs stops;
+    stops.Add(KestoGDI::CRGBColour(Platform::RGB(250, 210, 60)), 0);
+    stops.Add(KestoGDI::CRGBColour(Platform::RGB(230, 90, 30)), 10000);
+    glow->SetColourIntPairs(stops);
+    drawing->AddShape(disc, glow);
+    Path diamond;
+    diamond.MoveTo({20000, 9000});
+    diamond.LineTo({31000, 20000});
+    diamond.LineTo({20000, 31000});
+    diamond.LineTo({9000, 20000});
+    diamond.Close();
+    drawing->AddShape(diamond, solid(Platform::RGB(20, 40, 120)));
+    Path corner;
+    corner.MoveTo({1000, 1000});
+    corner.LineTo({11000, 1000});
+    corner.LineTo({1000, 11000});
+    corner.Close();
+    drawing->AddShape(corner, solid(Platform::RGB(0, 150, 160)));
+    return drawing;
+}
