@@ -1,12 +1,7 @@
 #include "DemoHost.h"
 
-#include "geometry/CoordinateRange.h"
-#include "geometry/KCAngle.h"
-#include "geometry/Rounding.h"
+#include "tool/SiteGeometry.h"
 
-#include <cmath>
-
-using Kesto2D::RoundHalfAwayFromZero;
 
 void DemoHost::Drag(Platform::CPoint from, Platform::CPoint to, unsigned flags)
 {
@@ -27,20 +22,12 @@ void DemoHost::Click(Platform::CPoint at)
 
 void DemoHost::ConstrainAngle(Platform::CPoint origin, Platform::CPoint& point, bool)
 {
-    constexpr int step = 1500;
-    // Wide: points may lie at opposite ends of the coordinate range.
-    const double dx = static_cast<double>(point.x) - origin.x;
-    const double dy = static_cast<double>(point.y) - origin.y;
-    const int angle = RoundHalfAwayFromZero(Kesto2D::KCAngle::DirectionOf(dx, dy) / static_cast<double>(step)) * step;
-    double s = 0, c = 1;
-    Kesto2D::KCAngle(angle).SinCos(s, c);
-    const double d = std::hypot(dx, dy);
-    point = Kesto2D::SaturatePoint(origin.x + std::llround(d * c), origin.y - std::llround(d * s));
+    point = KestoTool::SiteGeometry::ConstrainToAngleStep(origin, point, 1500);
 }
 
 void DemoHost::Snap(const Platform::CPoint& in, Platform::CPoint& out)
 {
-    out = Kesto2D::SaturatePoint(RoundHalfAwayFromZero(in.x / 10.0) * 10LL, RoundHalfAwayFromZero(in.y / 10.0) * 10LL);
+    out = KestoTool::SiteGeometry::SnapToGrid(in, 10);
 }
 
 void DemoHost::UpdateFill(const KestoGDI::CFill* committed, const wchar_t* undoName)

@@ -80,6 +80,15 @@ bool CFill::SetControls(const K2DArrayPoint& points)
     return true;
 }
 
+bool CFill::SetControlPoints(std::span<const K2DDblPoint> points)
+{
+    const auto mine = ControlPoints();
+    if (points.size() != mine.size())
+        return false;
+    std::transform(points.begin(), points.end(), mine.begin(), Kesto2D::SaturateToRange);
+    return true;
+}
+
 bool CFill::SetControls(const CFill* other)
 {
     if (!other)

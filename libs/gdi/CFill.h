@@ -52,6 +52,10 @@ public:
     // Takes the control points from an array with exactly GetControlCount points; any other
     // count answers false and changes nothing.
     bool SetControls(const K2DArrayPoint& points);
+    // Takes the control points in double precision, as GetControlPoint answers them, saturated
+    // to the coordinate range; a count other than GetControlCount answers false and changes
+    // nothing.
+    bool SetControlPoints(std::span<const K2DDblPoint> points);
     // Takes the control points of another fill with the same number of them; false otherwise.
     bool SetControls(const CFill* other);
     // Places the fill to cover the rectangle in the kind's natural way; see each class.

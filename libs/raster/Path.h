@@ -11,6 +11,8 @@ namespace KestoRaster {
 // that does not begin with MoveTo begins at the first point given.
 class Path {
 public:
+    enum class Verb { Move, Line, Cubic, Close };
+
     void MoveTo(Point p);
     void LineTo(Point p);
     void CubicTo(Point c1, Point c2, Point end);
@@ -23,8 +25,13 @@ public:
     // is not finite are left out.
     std::vector<std::vector<Point>> Flatten(const Affine& toDevice, double tolerance = 0.02) const;
 
+    // The path as stored, for a reader that saves or converts it: each Move and Line takes one
+    // point of Points in turn, each Cubic three (two controls, then the end), each Close none.
+    // Played back through MoveTo, LineTo, CubicTo and Close they rebuild the same path.
+    const std::vector<Verb>& Verbs() const { return m_verbs; }
+    const std::vector<Point>& Points() const { return m_points; }
+
 private:
-    enum class Verb { Move, Line, Cubic, Close };
     // Starts a piece where a line or curve needs one: at first on an empty path, after Close at
     // the closed piece's first point.
     void StartPiece(Point first);

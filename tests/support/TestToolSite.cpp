@@ -1,10 +1,8 @@
 #include "support/TestToolSite.h"
 
-#include "geometry/CoordinateRange.h"
-#include "geometry/KCAngle.h"
 #include "geometry/Rounding.h"
+#include "tool/SiteGeometry.h"
 
-#include <cmath>
 
 namespace KestoTest {
 
@@ -25,27 +23,12 @@ CRect TestToolSite::GetTransformedObjectBBox()
 
 void TestToolSite::ConstrainAngle(CPoint origin, CPoint& point, bool)
 {
-    if (angleStep <= 0)
-        return;
-    // Wide: a host's points may lie at opposite ends of the coordinate range.
-    const double dx = static_cast<double>(point.x) - origin.x;
-    const double dy = static_cast<double>(point.y) - origin.y;
-    const int angle = Kesto2D::KCAngle::DirectionOf(dx, dy);
-    const int snapped = RoundHalfAwayFromZero(static_cast<double>(angle) / angleStep) * angleStep;
-    double s = 0, c = 1;
-    Kesto2D::KCAngle(snapped).SinCos(s, c);
-    const double d = std::hypot(dx, dy);
-    point = Kesto2D::SaturatePoint(origin.x + std::llround(d * c), origin.y - std::llround(d * s));
+    point = KestoTool::SiteGeometry::ConstrainToAngleStep(origin, point, angleStep);
 }
 
 void TestToolSite::Snap(const CPoint& in, CPoint& out)
 {
-    if (grid <= 0) {
-        out = in;
-        return;
-    }
-    const auto toGrid = [this](int v) { return static_cast<long long>(RoundHalfAwayFromZero(static_cast<double>(v) / grid)) * grid; };
-    out = Kesto2D::SaturatePoint(toGrid(in.x), toGrid(in.y));
+    out = KestoTool::SiteGeometry::SnapToGrid(in, grid);
 }
 
 void TestToolSite::AddContextItem(int hostCommand)

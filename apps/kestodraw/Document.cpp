@@ -1,0 +1,64 @@
+#include "Document.h"
+
+#include "geometry/CoordinateRange.h"
+#include "geometry/K2DLtGeneral.h"
+
+namespace KestoDraw {
+
+QPainterPath Shape::Outline() const
+{
+    QPainterPath path;
+    const QRectF r(box.left, box.top, box.Width(), box.Height());
+    switch (kind) {
+    case Kind::Rectangle: path.addRect(r); break;
+    case Kind::Ellipse: path.addEllipse(r); break;
+    case Kind::Path:
+        for (std::size_t i = 0; i < points.size(); ++i) {
+            const QPointF p(points[i].x, points[i].y);
+            if (i == 0)
+                path.moveTo(p);
+            else
+                path.lineTo(p);
+        }
+        path.closeSubpath();
+        break;
+    }
+    return path;
+}
+
+const wchar_t* Shape::Description() const
+{
+    switch (kind) {
+    case Kind::Rectangle: return L"Rectangle: ";
+    case Kind::Ellipse: return L"Ellipse: ";
+    case Kind::Path: return L"Path: ";
+    }
+    return L"";
+}
+
+void Shape::Offset(int dx, int dy)
+{
+    const auto move = [dx, dy](const Platform::CPoint& p) { return Kesto2D::OffsetPoint(p, dx, dy); };
+    box = Platform::CRect(move(box.TopLeft()), move(box.BottomRight()));
+    for (Platform::CPoint& p : points)
+        p = move(p);
+    const Kesto2D::K2DLtGeneral shift(Kesto2D::K2DLtTranslate(dx, dy));
+    for (Kernel::RefPtr<const KestoGDI::CFill>* f : {&fill, &transparency}) {
+        if (!*f)
+            continue;
+        Kernel::RefPtr<KestoGDI::CFill> moved = (*f)->Clone();
+        moved->Transform(shift);
+        *f = std::move(moved);
+    }
+}
+
+int Document::ShapeAt(const Platform::CPoint& point) const
+{
+    for (int i = static_cast<int>(shapes.size()) - 1; i >= 0; --i) {
+        if (shapes[i].Outline().contains(QPointF(point.x, point.y)))
+            return i;
+    }
+    return -1;
+}
+
+} // namespace KestoDraw

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "gdi/CFill.h"
+#include "platform/CPoint.h"
+#include "platform/CRect.h"
+
+#include <QPainterPath>
+
+#include <vector>
+
+namespace KestoDraw {
+
+// One shape of a drawing, in document units: a rectangle, an ellipse in its box, or a closed
+// path through its corners. Fills are shared and never changed once a shape holds them.
+struct Shape {
+    enum class Kind { Rectangle, Ellipse, Path };
+
+    Kind kind = Kind::Rectangle;
+    Platform::CRect box;                  // normalized; a path's bounds
+    std::vector<Platform::CPoint> points;  // a path's corners
+    Kernel::RefPtr<const KestoGDI::CFill> fill;          // never null
+    Kernel::RefPtr<const KestoGDI::CFill> transparency;  // null: none
+
+    QPainterPath Outline() const;
+    // The name that starts every hint line about the shape ("Rectangle: ").
+    const wchar_t* Description() const;
+    // Moves the shape and its fills by (dx, dy), inside the coordinate range.
+    void Offset(int dx, int dy);
+};
+
+// A drawing: a page and its shapes, bottom to top.
+struct Document {
+    static constexpr int DefaultWidth = 4000;
+    static constexpr int DefaultHeight = 3000;
+
+    int width = DefaultWidth;
+    int height = DefaultHeight;
+    std::vector<Shape> shapes;
+
+    // The topmost shape whose outline holds the point; -1 for none.
+    int ShapeAt(const Platform::CPoint& point) const;
+};
+
+} // namespace KestoDraw

@@ -1,0 +1,168 @@
+#include "DocumentFile.h"
+
+#include "FillJson.h"
+#include "JsonRead.h"
+
+#include "geometry/CoordinateRange.h"
+
+#include <QFile>
+#include <QJsonDocument>
+#include <QSaveFile>
+
+namespace KestoDraw {
+
+using namespace JsonRead;
+
+namespace {
+
+constexpr int kMaxPage = 1 << 20;
+constexpr int kMaxPathCorners = 100000;
+constexpr qint64 kMaxFileBytes = qint64(256) << 20;
+
+const char* KindName(Shape::Kind kind)
+{
+    switch (kind) {
+    case Shape::Kind::Rectangle: return "rectangle";
+    case Shape::Kind::Ellipse: return "ellipse";
+    case Shape::Kind::Path: return "path";
+    }
+    return "";
+}
+
+QJsonObject WriteShape(const Shape& shape)
+{
+    QJsonObject out{{"kind", KindName(shape.kind)},
+                    {"box", QJsonArray{shape.box.left, shape.box.top, shape.box.right, shape.box.bottom}},
+                    {"fill", FillJson::Write(*shape.fill)}};
+    if (shape.kind == Shape::Kind::Path) {
+        QJsonArray points;
+        for (const Platform::CPoint& p : shape.points)
+            points.append(QJsonArray{p.x, p.y});
+        out["points"] = points;
+    }
+    if (shape.transparency)
+        out["transparency"] = FillJson::Write(*shape.transparency);
+    return out;
+}
+
+int Coordinate(const QJsonValue& value, const QString& what)
+{
+    const double v = Number(value, what, -Kesto2D::CoordinateLimit, Kesto2D::CoordinateLimit);
+    if (v != static_cast<int>(v))
+        throw FormatError(QStringLiteral("%1 should be whole numbers").arg(what));
+    return static_cast<int>(v);
+}
+
+Shape ReadShape(const QJsonValue& value)
+{
+    const QJsonObject in = Object(value, QStringLiteral("a shape"));
+    Shape shape;
+    const QString kind = String(in, "kind");
+    if (kind == "rectangle")
+        shape.kind = Shape::Kind::Rectangle;
+    else if (kind == "ellipse")
+        shape.kind = Shape::Kind::Ellipse;
+    else if (kind == "path")
+        shape.kind = Shape::Kind::Path;
+    else
+        throw FormatError(QStringLiteral("a shape's kind should be rectangle, ellipse or path, not \"%1\"").arg(kind));
+    const QJsonArray box = Array(in, "box");
+    if (box.size() != 4)
+        throw FormatError(QStringLiteral("\"box\" should be four numbers: left, top, right, bottom"));
+    shape.box = Platform::CRect(Coordinate(box[0], "\"box\""), Coordinate(box[1], "\"box\""), Coordinate(box[2], "\"box\""),
+                                Coordinate(box[3], "\"box\"")).Normalized();
+    if (shape.kind == Shape::Kind::Path) {
+        const QJsonArray points = Array(in, "points");
+        if (points.size() < 3 || points.size() > kMaxPathCorners)
+            throw FormatError(QStringLiteral("a path should have 3 to %1 corners").arg(kMaxPathCorners));
+        for (const QJsonValue& p : points) {
+            const QJsonArray xy = p.toArray();
+            if (xy.size() != 2)
+                throw FormatError(QStringLiteral("a path corner should be [x, y]"));
+            shape.points.emplace_back(Coordinate(xy[0], "a path corner"), Coordinate(xy[1], "a path corner"));
+        }
+    }
+    shape.fill = FillJson::Read(in.value("fill"));
+    if (shape.fill->IsTransparency())
+        throw FormatError(QStringLiteral("a shape's \"fill\" is a transparency"));
+    if (in.contains("transparency")) {
+        shape.transparency = FillJson::Read(in.value("transparency"));
+        if (!shape.transparency->IsTransparency())
+            throw FormatError(QStringLiteral("a shape's \"transparency\" is a fill"));
+    }
+    return shape;
+}
+
+} // namespace
+
+QByteArray DocumentFile::Write(const Document& document)
+{
+    QJsonArray shapes;
+    for (const Shape& shape : document.shapes)
+        shapes.append(WriteShape(shape));
+    const QJsonObject root{{"format", "kestodraw"},
+                           {"version", Version},
+                           {"page", QJsonArray{document.width, document.height}},
+                           {"shapes", shapes}};
+    return QJsonDocument(root).toJson(QJsonDocument::Indented);
+}
+
+Document DocumentFile::Read(const QByteArray& bytes)
+{
+    QJsonParseError parse{};
+    const QJsonDocument json = QJsonDocument::fromJson(bytes, &parse);
+    if (parse.error != QJsonParseError::NoError)
+        throw FormatError(QStringLiteral("it is not a JSON document (%1 at byte %2)").arg(parse.errorString()).arg(parse.offset));
+    if (!json.isObject() || json.object().value("format").toString() != "kestodraw")
+        throw FormatError(QStringLiteral("it is not a kestodraw drawing"));
+    const QJsonObject root = json.object();
+    const int version = Int(root, "version", 0, 1 << 30);
+    if (version > Version)
+        throw FormatError(QStringLiteral("it was saved by a newer kestodraw (format version %1; this one reads %2)").arg(version).arg(Version));
+    Document document;
+    const QJsonArray page = Array(root, "page");
+    if (page.size() != 2)
+        throw FormatError(QStringLiteral("\"page\" should be [width, height]"));
+    document.width = static_cast<int>(Number(page[0], "the page width", 1, kMaxPage));
+    document.height = static_cast<int>(Number(page[1], "the page height", 1, kMaxPage));
+    for (const QJsonValue& shape : Array(root, "shapes"))
+        document.shapes.push_back(ReadShape(shape));
+    return document;
+}
+
+bool DocumentFile::Save(const Document& document, const QString& path, QString* error)
+{
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly)) {
+        const QByteArray bytes = Write(document);
+        if (file.write(bytes) == bytes.size() && file.commit())
+            return true;
+    }
+    if (error)
+        *error = file.errorString();
+    return false;
+}
+
+std::optional<Document> DocumentFile::Open(const QString& path, QString* error)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        if (error)
+            *error = file.errorString();
+        return std::nullopt;
+    }
+    if (file.size() > kMaxFileBytes) {
+        if (error)
+            *error = QStringLiteral("it is larger than any drawing (%1 MB)").arg(file.size() >> 20);
+        return std::nullopt;
+    }
+    try {
+        return Read(file.readAll());
+    } catch (const FormatError& e) {
+        if (error)
+            *error = e.Message();
+        return std::nullopt;
+    }
+}
+
+} // namespace KestoDraw

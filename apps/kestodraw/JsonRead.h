@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QString>
+
+#include <stdexcept>
+
+namespace KestoDraw {
+
+// What is wrong with a file being read, in words for the user; reading stops at the first fault.
+class FormatError : public std::runtime_error {
+public:
+    explicit FormatError(const QString& message) : std::runtime_error(message.toStdString()) {}
+    QString Message() const { return QString::fromStdString(what()); }
+};
+
+// Checked reads of a JSON document: each answers the value, or throws FormatError naming the
+// key and what it should have been.
+namespace JsonRead {
+
+QJsonObject Object(const QJsonValue& value, const QString& what);
+QJsonArray Array(const QJsonObject& object, const QString& key);
+QJsonObject Object(const QJsonObject& object, const QString& key);
+// A finite number within min..max.
+double Number(const QJsonObject& object, const QString& key, double min, double max);
+double Number(const QJsonValue& value, const QString& what, double min, double max);
+// A whole number within min..max.
+int Int(const QJsonObject& object, const QString& key, int min, int max);
+bool Bool(const QJsonObject& object, const QString& key);
+QString String(const QJsonObject& object, const QString& key);
+
+} // namespace JsonRead
+
+} // namespace KestoDraw

@@ -1,0 +1,309 @@
+#include "MainWindow.h"
+
+#include "DocumentFile.h"
+#include "Palette.h"
+#include "PreferencesDialog.h"
+
+#include "filltool/FillCommands.h"
+#include "gdi/FillKinds.h"
+#include "platform/CCmdTarget.h"
+#include "tool/ToolIdMap.h"
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QRegularExpression>
+#include <QStatusBar>
+#include <QToolBar>
+
+namespace KestoDraw {
+
+namespace {
+
+constexpr const char* kFileFilter = "kestodraw drawings (*.kdraw)";
+// Exported pictures are at most this wide or high.
+constexpr double kExportSide = 2000;
+
+} // namespace
+
+MainWindow::MainWindow()
+    : m_canvas(new Canvas(m_document, m_undo, this)), m_palette(new Palette(this)),
+      m_reportError([this](const QString& title, const QString& message) { QMessageBox::warning(this, title, message); })
+{
+    setCentralWidget(m_canvas);
+    BuildMenus();
+    BuildToolBars();
+    m_hint = new QLabel(this);
+    m_hint->setTextFormat(Qt::RichText);
+    statusBar()->addWidget(m_hint, 1);
+
+    connect(m_canvas, &Canvas::ToolAboutToChange, this, [this] { m_contextBar->Clear(); });
+    connect(m_canvas, &Canvas::ToolChanged, this, &MainWindow::ShowContextBar);
+    connect(m_canvas, &Canvas::HintChanged, this, &MainWindow::UpdateHint);
+    connect(m_canvas, &Canvas::SelectionChanged, this, &MainWindow::UpdateKindBox);
+    connect(&m_undo, &QUndoStack::cleanChanged, this, &MainWindow::UpdateTitle);
+    connect(m_palette, &Palette::Clicked, this, [this](int index) {
+        if (KestoTool::FillTool* tool = m_canvas->Tool())
+            tool->OnFillCellChanged(m_palette->Colour(index).get());
+    });
+    ShowContextBar();
+    UpdateTitle();
+}
+
+MainWindow::~MainWindow()
+{
+    m_contextBar->Clear();
+    disconnect(&m_undo, nullptr, this, nullptr);
+    // The canvas refers to the document and the undo stack, which go before the child widgets.
+    delete m_canvas;
+}
+
+void MainWindow::BuildMenus()
+{
+    QMenu* file = menuBar()->addMenu(tr("&File"));
+    file->addAction(tr("&New"), QKeySequence::New, this, [this] {
+        if (MaybeSave())
+            NewDrawing();
+    });
+    file->addAction(tr("&Open..."), QKeySequence::Open, this, [this] {
+        if (!MaybeSave())
+            return;
+        const QString path = QFileDialog::getOpenFileName(this, tr("Open Drawing"), QString(), tr(kFileFilter));
+        if (!path.isEmpty())
+            Open(path);
+    });
+    file->addAction(tr("&Save"), QKeySequence::Save, this, [this] {
+        const QString path = m_path.isEmpty() ? QFileDialog::getSaveFileName(this, tr("Save Drawing"), QString(), tr(kFileFilter)) : m_path;
+        if (!path.isEmpty())
+            SaveAs(path);
+    });
+    file->addAction(tr("Save &As..."), QKeySequence::SaveAs, this, [this] {
+        const QString path = QFileDialog::getSaveFileName(this, tr("Save Drawing"), m_path, tr(kFileFilter));
+        if (!path.isEmpty())
+            SaveAs(path);
+    });
+    file->addAction(tr("&Export PNG..."), this, [this] {
+        const QString path = QFileDialog::getSaveFileName(this, tr("Export PNG"), QString(), tr("PNG images (*.png)"));
+        if (!path.isEmpty())
+            ExportPng(path);
+    });
+    file->addSeparator();
+    file->addAction(tr("&Quit"), QKeySequence::Quit, this, &QWidget::close);
+
+    QMenu* edit = menuBar()->addMenu(tr("&Edit"));
+    QAction* undo = m_undo.createUndoAction(this, tr("&Undo"));
+    undo->setShortcut(QKeySequence::Undo);
+    QAction* redo = m_undo.createRedoAction(this, tr("&Redo"));
+    redo->setShortcut(QKeySequence::Redo);
+    edit->addAction(undo);
+    edit->addAction(redo);
+    edit->addSeparator();
+    edit->addAction(tr("&Delete Shape"), QKeySequence(Qt::CTRL | Qt::Key_Delete), m_canvas, &Canvas::DeleteSelected);
+    edit->addAction(tr("Edit &Fill..."), this, [this] { EditFill(false); });
+    edit->addAction(tr("Edit &Transparency..."), this, [this] { EditFill(true); });
+    edit->addSeparator();
+    edit->addAction(tr("&Preferences..."), this, &MainWindow::ShowPreferences);
+
+    QMenu* view = menuBar()->addMenu(tr("&View"));
+    view->addAction(tr("Zoom &In"), QKeySequence::ZoomIn, this, [this] { m_canvas->ZoomBy(1.25); });
+    view->addAction(tr("Zoom &Out"), QKeySequence::ZoomOut, this, [this] { m_canvas->ZoomBy(0.8); });
+    view->addAction(tr("&Fit Page"), QKeySequence(Qt::CTRL | Qt::Key_0), m_canvas, &Canvas::FitPage);
+}
+
+void MainWindow::BuildToolBars()
+{
+    QToolBar* tools = addToolBar(tr("Tools"));
+    tools->setObjectName("tools");
+    m_modes = new QActionGroup(this);
+    const struct {
+        QString name;
+        Canvas::Mode mode;
+        QKeySequence key;
+    } modes[] = {{tr("Select"), Canvas::Mode::Select, Qt::Key_V},
+                 {tr("Rectangle"), Canvas::Mode::Rectangle, Qt::Key_R},
+                 {tr("Ellipse"), Canvas::Mode::Ellipse, Qt::Key_E},
+                 {tr("Path"), Canvas::Mode::Path, Qt::Key_P}};
+    for (const auto& m : modes) {
+        QAction* action = tools->addAction(m.name, this, [this, mode = m.mode] { m_canvas->SetMode(mode); });
+        action->setCheckable(true);
+        action->setShortcut(m.key);
+        action->setChecked(m.mode == Canvas::Mode::Select);
+        m_modes->addAction(action);
+    }
+    tools->addSeparator();
+    auto* editing = new QActionGroup(this);
+    QAction* fill = tools->addAction(tr("Fill"), this, [this] { m_canvas->SetEditTransparency(false); });
+    QAction* transparency = tools->addAction(tr("Transparency"), this, [this] { m_canvas->SetEditTransparency(true); });
+    for (QAction* a : {fill, transparency}) {
+        a->setCheckable(true);
+        editing->addAction(a);
+    }
+    fill->setChecked(true);
+    fill->setToolTip(tr("The fill tools edit the selection's fill"));
+    transparency->setToolTip(tr("The fill tools edit the selection's transparency"));
+
+    addToolBarBreak();
+    m_context = addToolBar(tr("Fill Tool"));
+    m_context->setObjectName("context");
+    m_contextBar = std::make_unique<KestoToolQt::QtCommandBar>(*m_context);
+    m_kindBar = addToolBar(tr("Kind"));
+    m_kindBar->setObjectName("kind");
+    m_kindBox = new QComboBox(m_kindBar);
+    m_kindBar->addWidget(m_kindBox);
+    connect(m_kindBox, &QComboBox::activated, this, [this](int index) {
+        m_canvas->SetKind(m_kindBox->itemData(index).toInt());
+        UpdateKindBox();
+    });
+
+    QToolBar* palette = new QToolBar(tr("Palette"), this);
+    palette->setObjectName("palette");
+    palette->setMovable(false);
+    palette->addWidget(m_palette);
+    addToolBar(Qt::BottomToolBarArea, palette);
+}
+
+void MainWindow::ShowContextBar()
+{
+    m_contextBar->Clear();
+    if (KestoTool::FillTool* tool = m_canvas->Tool())
+        m_contextBar->Show(*m_canvas->ContextBars(), *tool);
+    UpdateKindBox();
+    UpdateHint();
+}
+
+void MainWindow::UpdateKindBox()
+{
+    // The tool's own type box offers the kinds while a tool runs; otherwise this one does.
+    const bool shown = m_canvas->Selected() >= 0 && !m_canvas->Tool();
+    m_kindBar->setVisible(shown);
+    if (!shown)
+        return;
+    const bool transparency = m_canvas->EditsTransparency();
+    const Shape& shape = m_document.shapes[m_canvas->Selected()];
+    const int current = transparency ? (shape.transparency ? shape.transparency->GetFillType() : 0) : shape.fill->GetFillType();
+    m_kindBox->clear();
+    for (const KestoGDI::FillKind& kind : KestoGDI::FillKinds::All()) {
+        if (transparency && !kind.transparencyClass)
+            continue;
+        m_kindBox->addItem(QString::fromWCharArray(transparency ? kind.transparencyName : kind.fillName), static_cast<int>(kind.type));
+        if (kind.type == current)
+            m_kindBox->setCurrentIndex(m_kindBox->count() - 1);
+    }
+}
+
+QString MainWindow::HintToRichText(const QString& hint)
+{
+    QString html = hint.toHtmlEscaped();
+    static const QRegularExpression keyWord(QStringLiteral("\\|([^|]*)\\|"));
+    return html.replace(keyWord, QStringLiteral("<b>\\1</b>"));
+}
+
+void MainWindow::UpdateHint()
+{
+    m_hint->setText(HintToRichText(m_canvas->HintLine()));
+}
+
+void MainWindow::UpdateTitle()
+{
+    const QString name = m_path.isEmpty() ? tr("Untitled") : QFileInfo(m_path).fileName();
+    setWindowTitle(QStringLiteral("%1[*] — kestodraw").arg(name));
+    setWindowModified(!m_undo.isClean());
+}
+
+bool MainWindow::Open(const QString& path)
+{
+    QString error;
+    std::optional<Document> opened = DocumentFile::Open(path, &error);
+    if (!opened) {
+        m_reportError(tr("Open Drawing"), tr("%1 could not be opened: %2").arg(QFileInfo(path).fileName(), error));
+        return false;
+    }
+    m_document = std::move(*opened);
+    m_path = path;
+    m_undo.clear();
+    m_canvas->DocumentReplaced();
+    m_canvas->FitPage();
+    UpdateTitle();
+    return true;
+}
+
+bool MainWindow::SaveAs(const QString& path)
+{
+    QString error;
+    if (!DocumentFile::Save(m_document, path, &error)) {
+        m_reportError(tr("Save Drawing"), tr("%1 could not be saved: %2").arg(QFileInfo(path).fileName(), error));
+        return false;
+    }
+    m_path = path;
+    m_undo.setClean();
+    UpdateTitle();
+    return true;
+}
+
+bool MainWindow::ExportPng(const QString& path)
+{
+    const double scale = std::min(1.0, kExportSide / std::max(m_document.width, m_document.height));
+    if (m_canvas->RenderPage(scale).save(path, "PNG"))
+        return true;
+    m_reportError(tr("Export PNG"), tr("%1 could not be written.").arg(QFileInfo(path).fileName()));
+    return false;
+}
+
+void MainWindow::NewDrawing()
+{
+    m_document = Document();
+    m_path.clear();
+    m_undo.clear();
+    m_canvas->DocumentReplaced();
+    m_canvas->FitPage();
+    UpdateTitle();
+}
+
+void MainWindow::EditFill(bool transparency)
+{
+    m_canvas->SetEditTransparency(transparency);
+    KestoTool::FillTool* tool = m_canvas->Tool();
+    if (!tool)
+        return;
+    const int command = KestoTool::ToolIdMap::GetInstance().MapIDToApp(
+        KestoTool::FillToolKey, transparency ? KestoTool::FillCmdTransEdit : KestoTool::FillCmdEdit);
+    if (command != -1)
+        tool->OnCmdMsg(command, Platform::CN_COMMAND, nullptr, nullptr);
+}
+
+void MainWindow::ShowPreferences()
+{
+    PreferencesDialog dialog(m_canvas->Grid(), m_canvas->AngleStep(), this);
+    if (dialog.exec() == QDialog::Accepted)
+        m_canvas->SetPreferences(dialog.Grid(), dialog.AngleStep());
+}
+
+bool MainWindow::MaybeSave()
+{
+    if (m_undo.isClean())
+        return true;
+    const auto answer = QMessageBox::question(this, tr("kestodraw"), tr("Save the changes to the drawing?"),
+                                              QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+    if (answer == QMessageBox::Cancel)
+        return false;
+    if (answer == QMessageBox::Discard)
+        return true;
+    const QString path = m_path.isEmpty() ? QFileDialog::getSaveFileName(this, tr("Save Drawing"), QString(), tr(kFileFilter)) : m_path;
+    return !path.isEmpty() && SaveAs(path);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (MaybeSave())
+        event->accept();
+    else
+        event->ignore();
+}
+
+} // namespace KestoDraw

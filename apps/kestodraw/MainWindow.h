@@ -1,0 +1,85 @@
+#pragma once
+
+#include "Canvas.h"
+#include "Document.h"
+
+#include "qt/QtCommandBar.h"
+
+#include <QMainWindow>
+#include <QUndoStack>
+
+#include <functional>
+#include <memory>
+
+class QActionGroup;
+class QComboBox;
+class QLabel;
+class QToolBar;
+
+namespace KestoDraw {
+
+class Palette;
+
+// kestodraw's window: the canvas, the shape tools, the context toolbar of the running fill tool
+// (or a type box when the selection's fill has no tool), the palette, the status bar's hint
+// line, the menus, undo and files.
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+public:
+    using ErrorReporter = std::function<void(const QString& title, const QString& message)>;
+
+    MainWindow();
+    ~MainWindow() override;
+
+    Canvas& GetCanvas() { return *m_canvas; }
+    Palette& GetPalette() { return *m_palette; }
+    QUndoStack& Undo() { return m_undo; }
+    const Document& GetDocument() const { return m_document; }
+    QToolBar& ContextToolBar() { return *m_context; }
+    KestoToolQt::QtCommandBar& ContextBar() { return *m_contextBar; }
+    QComboBox& KindBox() { return *m_kindBox; }
+    QLabel& HintLabel() { return *m_hint; }
+    const QString& Path() const { return m_path; }
+
+    // Reports errors to the user; by default in a message box.
+    void SetErrorReporter(ErrorReporter reporter) { m_reportError = std::move(reporter); }
+
+    // Opens a drawing in place of the current one; on failure reports why and keeps the current.
+    bool Open(const QString& path);
+    bool SaveAs(const QString& path);
+    bool ExportPng(const QString& path);
+    void NewDrawing();
+    // Opens the library's editor for the selection's fill or transparency.
+    void EditFill(bool transparency);
+
+    // "a |key| word" as rich text with the key words in bold.
+    static QString HintToRichText(const QString& hint);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void BuildMenus();
+    void BuildToolBars();
+    void ShowContextBar();
+    void UpdateHint();
+    void UpdateTitle();
+    void UpdateKindBox();
+    bool MaybeSave();
+    void ShowPreferences();
+
+    Document m_document;
+    QUndoStack m_undo;
+    Canvas* m_canvas = nullptr;
+    Palette* m_palette = nullptr;
+    QToolBar* m_context = nullptr;
+    std::unique_ptr<KestoToolQt::QtCommandBar> m_contextBar;
+    QToolBar* m_kindBar = nullptr;
+    QComboBox* m_kindBox = nullptr;
+    QLabel* m_hint = nullptr;
+    QActionGroup* m_modes = nullptr;
+    QString m_path;
+    ErrorReporter m_reportError;
+};
+
+} // namespace KestoDraw

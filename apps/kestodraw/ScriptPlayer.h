@@ -1,0 +1,57 @@
+#pragma once
+
+#include "platform/CPoint.h"
+
+#include <QDir>
+#include <QString>
+#include <QStringList>
+
+namespace KestoDraw {
+
+class MainWindow;
+
+// Plays input on the window as a user would make it, and writes a screenshot of the window
+// after each step of a script. Points are in document units; the player puts them where the
+// canvas shows them.
+//
+// A script has one step a line ('#' starts a comment):
+//   mode select|rectangle|ellipse|path     edit fill|transparency
+//   click X Y [shift] [ctrl]                drag X1 Y1 X2 Y2 [shift] [ctrl]
+//   drop SWATCH X Y                          (a palette swatch dragged and dropped there)
+//   key NAME [shift]                         (Tab, Left, Right, Up, Down, Delete or a letter)
+//   kind TYPE                                (the type box or the tool's type combo: a type number)
+//   command undo|redo|fit|zoom-in|zoom-out|delete
+//   save PATH   open PATH   export PATH      (relative paths lie in the output folder)
+class ScriptPlayer {
+public:
+    ScriptPlayer(MainWindow& window, const QDir& output) : m_window(window), m_output(output) {}
+
+    // Plays every step; false, with the step and the reason in Error, at the first that fails.
+    bool Play(const QStringList& lines);
+    bool PlayStep(const QString& line);
+    const QString& Error() const { return m_error; }
+    int Shots() const { return m_shots; }
+
+    // Mouse and drop input at document points.
+    void Press(Platform::CPoint at, Qt::KeyboardModifiers modifiers = {});
+    void Move(Platform::CPoint to, Qt::KeyboardModifiers modifiers = {});
+    void Release(Platform::CPoint at, Qt::KeyboardModifiers modifiers = {});
+    void Drag(Platform::CPoint from, Platform::CPoint to, Qt::KeyboardModifiers modifiers = {});
+    void Click(Platform::CPoint at, Qt::KeyboardModifiers modifiers = {});
+    void DropSwatch(int swatch, Platform::CPoint at);
+    // Chooses a type number in whichever type box shows.
+    bool ChooseKind(int type);
+
+private:
+    QPointF ToWidget(Platform::CPoint at) const;
+    void SendMouse(int type, Platform::CPoint at, Qt::MouseButton button, Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers);
+    void Settle();
+    void Shoot(const QString& name);
+
+    MainWindow& m_window;
+    QDir m_output;
+    QString m_error;
+    int m_shots = 0;
+};
+
+} // namespace KestoDraw

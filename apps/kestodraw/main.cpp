@@ -1,0 +1,74 @@
+// kestodraw: a small drawing program whose fill and transparency tools come from KestoTool.
+//
+//   kestodraw [DRAWING]                      opens the drawing (the sample without one)
+//   kestodraw [DRAWING] --script FILE --out DIR
+//                                            plays the input script on the window, writing a
+//                                            screenshot after each step into DIR, and exits
+#include "MainWindow.h"
+#include "ScriptPlayer.h"
+
+#include "qt/QtBackend.h"
+#include "tool/ToolIdMap.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QFile>
+#include <QTextStream>
+
+#include <cstdio>
+
+int main(int argc, char** argv)
+{
+    QApplication app(argc, argv);
+    QApplication::setApplicationName("kestodraw");
+    QCommandLineParser options;
+    options.setApplicationDescription("A drawing program whose fill and transparency tools come from KestoTool.");
+    options.addHelpOption();
+    options.addPositionalArgument("drawing", "The drawing to open (the sample drawing without one).");
+    const QCommandLineOption script("script", "Play the input script FILE on the window, then quit.", "FILE");
+    const QCommandLineOption out("out", "Write the script's screenshots into DIR.", "DIR", ".");
+    options.addOption(script);
+    options.addOption(out);
+    options.process(app);
+
+    KestoToolQt::QtBackend backend;
+    Platform::SetBackend(&backend);
+    KestoTool::Init(40000, 40200);
+    int status = 0;
+    {
+        KestoDraw::MainWindow window;
+        window.resize(1100, 760);
+        const QStringList drawings = options.positionalArguments();
+        const QString drawing = drawings.isEmpty() ? QApplication::applicationDirPath() + "/sample.kdraw" : drawings[0];
+        if (options.isSet(script)) {
+            window.SetErrorReporter([](const QString& title, const QString& message) {
+                std::fprintf(stderr, "%s: %s\n", qPrintable(title), qPrintable(message));
+            });
+        }
+        window.show();
+        if (!window.Open(drawing) && options.isSet(script))
+            status = 1;
+        if (status == 0 && options.isSet(script)) {
+            QFile file(options.value(script));
+            if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+                std::fprintf(stderr, "kestodraw: cannot read %s\n", qPrintable(options.value(script)));
+                status = 1;
+            } else {
+                QDir dir(options.value(out));
+                dir.mkpath(".");
+                KestoDraw::ScriptPlayer player(window, dir);
+                QApplication::processEvents();
+                if (!player.Play(QTextStream(&file).readAll().split('\n'))) {
+                    std::fprintf(stderr, "kestodraw: %s\n", qPrintable(player.Error()));
+                    status = 1;
+                }
+                std::printf("kestodraw: %d screenshots in %s\n", player.Shots(), qPrintable(dir.absolutePath()));
+            }
+            window.GetCanvas().setFocus();
+        } else if (status == 0) {
+            status = QApplication::exec();
+        }
+    }
+    Platform::SetBackend(nullptr);
+    return status;
+}
