@@ -730,9 +730,10 @@ void Canvas::dropEvent(QDropEvent* event)
             return;
         }
     }
-    // Anywhere else on a shape: the shape takes the colour as a plain fill.
+    // On another shape, or one whose fill has no tool, the shape takes the colour as a plain
+    // fill; a drop that misses the running tool's line leaves its fill alone.
     const int under = m_document.ShapeAt(p);
-    if (under == -1 || m_editTransparency)
+    if (under == -1 || m_editTransparency || (m_tool && under == m_selected))
         return;
     std::vector<Shape> before = m_document.shapes;
     m_document.shapes[under].fill = RefPtr<const CFill>(new KestoGDI::CFillSolid(*colour, false));

@@ -134,6 +134,7 @@ void MainWindow::BuildToolBars()
         action->setCheckable(true);
         action->setShortcut(m.key);
         action->setChecked(m.mode == Canvas::Mode::Select);
+        action->setData(static_cast<int>(m.mode));
         m_modes->addAction(action);
     }
     tools->addSeparator();
@@ -145,6 +146,7 @@ void MainWindow::BuildToolBars()
         editing->addAction(a);
     }
     fill->setChecked(true);
+    m_editsTransparency = transparency;
     fill->setToolTip(tr("The fill tools edit the selection's fill"));
     transparency->setToolTip(tr("The fill tools edit the selection's transparency"));
 
@@ -206,6 +208,12 @@ QString MainWindow::HintToRichText(const QString& hint)
 
 void MainWindow::UpdateHint()
 {
+    // What the toolbars show follows the canvas, whoever changed it.
+    for (QAction* mode : m_modes->actions())
+        mode->setChecked(mode->data().toInt() == static_cast<int>(m_canvas->GetMode()));
+    m_editsTransparency->setChecked(m_canvas->EditsTransparency());
+    if (!m_canvas->EditsTransparency())
+        m_editsTransparency->actionGroup()->actions().front()->setChecked(true);
     m_hint->setText(HintToRichText(m_canvas->HintLine()));
 }
 

@@ -11,6 +11,7 @@
 #include <functional>
 #include <memory>
 
+class QAction;
 class QActionGroup;
 class QComboBox;
 class QLabel;
@@ -78,6 +79,7 @@ private:
     QComboBox* m_kindBox = nullptr;
     QLabel* m_hint = nullptr;
     QActionGroup* m_modes = nullptr;
+    QAction* m_editsTransparency = nullptr;
     QString m_path;
     ErrorReporter m_reportError;
 };

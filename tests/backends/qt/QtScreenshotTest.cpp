@@ -12,6 +12,7 @@
 #include "qt/QtBackend.h"
 #include "qt/QtRenderContext.h"
 #include "qt/QtRenderTarget.h"
+#include "support/ReferenceImage.h"
 #include "support/TestToolSite.h"
 #include "support/UserInput.h"
 
@@ -32,45 +33,9 @@ using KestoToolQt::QtBackend;
 
 namespace {
 
-// Channels may differ by this much (anti-aliasing and font hinting vary a little between
-// library versions); anything more is a different picture.
-constexpr int kTolerance = 24;
-
-// Compares picture with the reference of that name; on a difference writes the picture and an
-// image of the differing pixels (red) beside the test binary and fails.
 void ExpectMatchesReference(const QImage& picture, const QString& name)
 {
-    const QString referencePath = QStringLiteral(KESTO_REFERENCE_DIR "/") + name + ".png";
-    if (std::getenv("KESTO_UPDATE_REFERENCES")) {
-        ASSERT_TRUE(picture.save(referencePath)) << referencePath.toStdString();
-        return;
-    }
-    const QImage reference = QImage(referencePath).convertToFormat(QImage::Format_ARGB32);
-    ASSERT_FALSE(reference.isNull()) << "no reference " << referencePath.toStdString();
-    const QImage actual = picture.convertToFormat(QImage::Format_ARGB32);
-    ASSERT_EQ(actual.size(), reference.size()) << name.toStdString();
-    QImage difference(actual.size(), QImage::Format_ARGB32);
-    difference.fill(Qt::white);
-    int differing = 0;
-    for (int y = 0; y < actual.height(); ++y) {
-        for (int x = 0; x < actual.width(); ++x) {
-            const QRgb a = actual.pixel(x, y);
-            const QRgb r = reference.pixel(x, y);
-            const int most = std::max({std::abs(qRed(a) - qRed(r)), std::abs(qGreen(a) - qGreen(r)),
-                                       std::abs(qBlue(a) - qBlue(r)), std::abs(qAlpha(a) - qAlpha(r))});
-            if (most > kTolerance) {
-                ++differing;
-                difference.setPixel(x, y, qRgb(255, 0, 0));
-            }
-        }
-    }
-    if (differing > 0) {
-        const QString out = QStringLiteral(KESTO_DIFFERENCE_DIR "/") + name;
-        actual.save(out + "-actual.png");
-        difference.save(out + "-difference.png");
-        ADD_FAILURE() << differing << " pixels of " << name.toStdString() << " differ; see " << out.toStdString()
-                      << "-actual.png and -difference.png";
-    }
+    KestoTest::ExpectMatchesReference(picture, QStringLiteral(KESTO_REFERENCE_DIR), QStringLiteral(KESTO_DIFFERENCE_DIR), name);
 }
 
 class QtScreenshots : public testing::Test {

@@ -1,0 +1,217 @@
+// kestodraw driven as a user drives it: gestures, drops, keys and the type box on the canvas of
+// the real window (offscreen), undo and redo, files saved, reopened and refused.
+#include "DocumentFile.h"
+#include "FillJson.h"
+#include "MainWindow.h"
+#include "Palette.h"
+#include "ScriptPlayer.h"
+
+#include "filltool/FillToolLinear.h"
+#include "filltool/FillToolRadial.h"
+#include "gdi/CFillLinear.h"
+#include "gdi/CFillRadial.h"
+#include "gdi/CFillWithStops.h"
+#include "support/ReferenceImage.h"
+#include "support/UserInput.h"
+#include "tool/ToolIdMap.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QLabel>
+#include <QTemporaryDir>
+#include <QUndoStack>
+
+#include <gtest/gtest.h>
+
+using KestoDraw::MainWindow;
+using Platform::CPoint;
+
+namespace {
+
+const QString kSample = QStringLiteral(KESTODRAW_SAMPLE);
+
+const KestoGDI::CFill& FillOf(const MainWindow& window, int shape)
+{
+    return *window.GetDocument().shapes.at(shape).fill;
+}
+
+std::vector<int> StopPositions(const KestoGDI::CFill& fill)
+{
+    std::vector<int> at;
+    for (const auto& stop : dynamic_cast<const KestoGDI::CFillWithStops&>(fill).GetColourIntPairs())
+        at.push_back(stop.GetValue());
+    return at;
+}
+
+class KestoDrawWindow : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        KestoTest::QtUserInput().Install();
+        KestoTool::Init(40000, 40200);
+        window = std::make_unique<MainWindow>();
+        window->SetErrorReporter([this](const QString&, const QString& message) { errors << message; });
+        window->resize(1100, 760);
+        window->show();
+        ASSERT_TRUE(window->Open(kSample)) << errors.join('\n').toStdString();
+        QApplication::processEvents();
+        player = std::make_unique<KestoDraw::ScriptPlayer>(*window, QDir(folder.path()));
+    }
+    void TearDown() override
+    {
+        player.reset();
+        window.reset();
+        KestoTest::QtUserInput().Uninstall();
+    }
+    void Step(const QString& line) { ASSERT_TRUE(player->PlayStep(line)) << player->Error().toStdString(); }
+
+    QTemporaryDir folder;
+    QStringList errors;
+    std::unique_ptr<MainWindow> window;
+    std::unique_ptr<KestoDraw::ScriptPlayer> player;
+};
+
+// The sample's first shape is a rectangle (150, 150)-(950, 900) with a four-stop linear fill.
+TEST_F(KestoDrawWindow, GesturesDropsKeysAndTheTypeBoxEachMakeOneUndoStep)
+{
+    const KestoGDI::CFill& original = FillOf(*window, 0);
+    Kernel::RefPtr<const KestoGDI::CFill> sampleFill(&original);
+    QUndoStack& undo = window->Undo();
+    Step("click 550 525");
+    ASSERT_EQ(window->GetCanvas().Selected(), 0);
+    ASSERT_NE(dynamic_cast<KestoTool::FillToolLinear*>(window->GetCanvas().Tool()), nullptr);
+
+    // A drag that misses the handles draws a new fill line.
+    Step("drag 200 300 900 700");
+    ASSERT_EQ(undo.count(), 1);
+    EXPECT_EQ(undo.text(0), "Edit Fill");
+    EXPECT_EQ(FillOf(*window, 0).GetControlPoint(0), Kesto2D::K2DDblPoint(200, 300));
+    EXPECT_EQ(FillOf(*window, 0).GetControlPoint(1), Kesto2D::K2DDblPoint(900, 700));
+    Kernel::RefPtr<const KestoGDI::CFill> drawn(&FillOf(*window, 0));
+
+    // The stop at 30% dragged to the middle: many commits while it moves, one step.
+    Step("drag 410 420 550 500");
+    ASSERT_EQ(undo.count(), 2);
+    EXPECT_EQ(StopPositions(FillOf(*window, 0)), (std::vector<int>{0, 5000, 6500, 10000}));
+
+    // Yellow dropped on the line at 80% adds a stop there.
+    Step("drop 4 760 620");
+    ASSERT_EQ(undo.count(), 3);
+    EXPECT_EQ(StopPositions(FillOf(*window, 0)), (std::vector<int>{0, 5000, 6500, 8000, 10000}));
+    Kernel::RefPtr<const KestoGDI::CFill> dropped(&FillOf(*window, 0));
+
+    for (int i = 0; i < 3; ++i)
+        undo.undo();
+    EXPECT_TRUE(FillOf(*window, 0).IsEqual(*sampleFill));
+    undo.redo();
+    EXPECT_TRUE(FillOf(*window, 0).IsEqual(*drawn));
+    undo.redo();
+    undo.redo();
+    EXPECT_TRUE(FillOf(*window, 0).IsEqual(*dropped));
+
+    // Tab makes the next handle current; an arrow moves it one screen pixel, as one step.
+    const int before = window->GetCanvas().Tool()->GetCurrentNode();
+    Step("key Tab");
+    const int current = window->GetCanvas().Tool()->GetCurrentNode();
+    EXPECT_NE(current, before);
+    Kesto2D::K2DArrayPoint handles;
+    window->GetCanvas().Tool()->GetHandles(&handles);
+    const CPoint handle = handles.GetAt(current);
+    Step("key Left");
+    EXPECT_EQ(undo.count(), 4);
+    Kesto2D::K2DArrayPoint moved;
+    window->GetCanvas().Tool()->GetHandles(&moved);
+    EXPECT_LT(moved.GetAt(current).x, handle.x);
+
+    // The tool's type combo turns the fill radial, keeping its stops.
+    Step("kind 5");
+    EXPECT_EQ(undo.text(undo.count() - 1), "Fill Type");
+    ASSERT_NE(dynamic_cast<const KestoGDI::CFillRadial*>(&FillOf(*window, 0)), nullptr);
+    EXPECT_NE(dynamic_cast<KestoTool::FillToolRadial*>(window->GetCanvas().Tool()), nullptr);
+    EXPECT_EQ(StopPositions(FillOf(*window, 0)).size(), 5u);
+    EXPECT_TRUE(window->HintLabel().text().contains("<b>")) << window->HintLabel().text().toStdString();
+    EXPECT_TRUE(window->isWindowModified());
+
+    KestoTest::ExpectMatchesReference(window->grab().toImage(), QStringLiteral(KESTO_REFERENCE_DIR),
+                                      QStringLiteral(KESTO_DIFFERENCE_DIR), "kestodraw-gestures");
+}
+
+TEST_F(KestoDrawWindow, ShapesAreDrawnAndAShapeWithoutAToolGetsALinearFillFromADrag)
+{
+    Step("mode rectangle");
+    Step("drag 3000 2950 3600 2600");
+    ASSERT_EQ(window->GetDocument().shapes.size(), 13u);
+    EXPECT_EQ(window->GetDocument().shapes.back().box, Platform::CRect(3000, 2600, 3600, 2950));
+    EXPECT_EQ(window->GetCanvas().Tool(), nullptr);  // a plain colour has no tool
+    Step("mode select");
+    Step("drag 3050 2700 3550 2700");
+    EXPECT_NE(dynamic_cast<const KestoGDI::CFillLinear*>(window->GetDocument().shapes.back().fill.get()), nullptr);
+    EXPECT_EQ(window->Undo().count(), 2);
+    window->Undo().undo();
+    EXPECT_TRUE(window->GetDocument().shapes.back().fill->IsSolid());
+}
+
+TEST_F(KestoDrawWindow, SavedDrawingsReopenByteForByte)
+{
+    const QString first = folder.filePath("first.kdraw");
+    const QString second = folder.filePath("second.kdraw");
+    Step("click 550 525");
+    Step("drag 200 300 900 700");
+    ASSERT_TRUE(window->SaveAs(first));
+    EXPECT_FALSE(window->isWindowModified());
+    const std::vector<KestoDraw::Shape> saved = window->GetDocument().shapes;
+    ASSERT_TRUE(window->Open(first));
+    ASSERT_EQ(window->GetDocument().shapes.size(), saved.size());
+    for (std::size_t i = 0; i < saved.size(); ++i) {
+        // Compared by value: a reopened vector fill holds an equal drawing, not the same one.
+        const KestoDraw::Shape& reopened = window->GetDocument().shapes[i];
+        EXPECT_EQ(KestoDraw::FillJson::Write(*reopened.fill), KestoDraw::FillJson::Write(*saved[i].fill)) << i;
+        EXPECT_EQ(reopened.transparency != nullptr, saved[i].transparency != nullptr) << i;
+    }
+    ASSERT_TRUE(window->SaveAs(second));
+    QFile a(first), b(second);
+    ASSERT_TRUE(a.open(QIODevice::ReadOnly) && b.open(QIODevice::ReadOnly));
+    EXPECT_EQ(a.readAll(), b.readAll());
+}
+
+TEST_F(KestoDrawWindow, DamagedOrUnknownFilesAreRefusedWithAReasonAndTheDrawingIsKept)
+{
+    QByteArray sample;
+    {
+        QFile file(kSample);
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        sample = file.readAll();
+    }
+    const auto edited = [&](const char* from, const char* to) { return QByteArray(sample).replace(from, to); };
+    const struct {
+        QByteArray content;
+        const char* reason;
+    } cases[] = {
+        {sample.left(sample.size() / 2), "not a JSON document"},
+        {R"({"format": "pictures", "version": 1})", "not a kestodraw drawing"},
+        {edited("\"version\": 1", "\"version\": 7"), "newer kestodraw"},
+        {edited("\"type\": 4\n", "\"type\": 99\n"), "no fill of type 99"},
+        {edited("\"kind\": \"rectangle\"", "\"kind\": \"star\""), "rectangle, ellipse or path"},
+        {edited("\"rgb\": \"#", "\"rgb\": \"x"), "#rrggbb"},
+        {edited("\"at\": 10000", "\"at\": 10001"), "\"at\""},
+    };
+    const std::size_t shapes = window->GetDocument().shapes.size();
+    for (const auto& c : cases) {
+        const QString path = folder.filePath("damaged.kdraw");
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write(c.content);
+        file.close();
+        errors.clear();
+        EXPECT_FALSE(window->Open(path)) << c.reason;
+        ASSERT_EQ(errors.size(), 1) << c.reason;
+        EXPECT_TRUE(errors[0].contains(c.reason)) << errors[0].toStdString();
+        EXPECT_EQ(window->GetDocument().shapes.size(), shapes);
+        EXPECT_EQ(window->Path(), kSample);
+    }
+    errors.clear();
+    EXPECT_FALSE(window->Open(folder.filePath("missing.kdraw")));
+    EXPECT_EQ(errors.size(), 1);
+}
+
+} // namespace
