@@ -2,11 +2,11 @@
 // moves the stop and commits, the host keeps the committed fill as its document's fill and
 // hands it back to the tool. A memcpy of the stop list's worth of bytes runs beside it as the
 // baseline, so that a noisy machine still gives a stable ratio.
-#include "filltool/FillToolFactory.h"
-#include "gdi/CFillLinear.h"
-#include "gdi/CRGBColour.h"
-#include "geometry/Rounding.h"
-#include "tool/NullToolSite.h"
+#include "kestotool/filltool/FillToolFactory.h"
+#include "kestotool/gdi/CFillLinear.h"
+#include "kestotool/gdi/CRGBColour.h"
+#include "kestotool/geometry/Rounding.h"
+#include "kestotool/tool/NullToolSite.h"
 
 #include <benchmark/benchmark.h>
 

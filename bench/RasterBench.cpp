@@ -5,7 +5,7 @@
 // reported as items; the table printed at the end gives each row's ratio to its pixman
 // counterpart (or to memset, or for 1,000 stops to the 2-stop row), which stays stable on a
 // noisy machine.
-#include "raster/PreparedPaint.h"
+#include "kestotool/raster/PreparedPaint.h"
 
 #include <benchmark/benchmark.h>
 #include <pixman.h>

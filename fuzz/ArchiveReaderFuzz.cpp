@@ -1,5 +1,5 @@
 // Feeds arbitrary bytes to the image-archive reader, both as an archive and as a bare PNG.
-#include "gdi/WadManager.h"
+#include "kestotool/gdi/WadManager.h"
 
 #include <cstddef>
 #include <cstdint>

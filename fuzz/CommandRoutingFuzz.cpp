@@ -3,7 +3,7 @@
 // them, on a random tool and fill. Any broken fill aborts; the sanitizers catch the rest.
 #include "support/GestureSession.h"
 
-#include "tool/ToolIdMap.h"
+#include "kestotool/tool/ToolIdMap.h"
 
 #include <cstdio>
 #include <cstdlib>

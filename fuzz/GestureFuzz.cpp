@@ -3,7 +3,7 @@
 // recorded fill or failed undo aborts, and the sanitizers catch the rest.
 #include "support/GestureSession.h"
 
-#include "tool/ToolIdMap.h"
+#include "kestotool/tool/ToolIdMap.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -2,7 +2,7 @@
 // ones and the coordinate range's ends among them), stops, corner colours, plasma settings, a
 // small bitmap, the placement, the output and clips inside and outside the target. The
 // renderer must stay inside its clip and never touch memory it was not given.
-#include "raster/PreparedPaint.h"
+#include "kestotool/raster/PreparedPaint.h"
 
 #include <cstdint>
 #include <cstring>

@@ -4,19 +4,19 @@
 #include "JsonRead.h"
 #include "ShapesEdit.h"
 
-#include "filltool/FillToolFactory.h"
-#include "gdi/CFillLinear.h"
-#include "gdi/CFillSolid.h"
-#include "gdi/CFillWithStops.h"
-#include "gdi/CRGBColour.h"
-#include "gdi/CTransparency.h"
-#include "gdi/CTransparencyLinear.h"
-#include "geometry/CoordinateRange.h"
-#include "geometry/Rounding.h"
-#include "platform/CXTPControlPopupColor.h"
-#include "qt/QtConvert.h"
-#include "qt/QtRenderTarget.h"
-#include "tool/SiteGeometry.h"
+#include <kestotool/filltool/FillToolFactory.h>
+#include <kestotool/gdi/CFillLinear.h>
+#include <kestotool/gdi/CFillSolid.h>
+#include <kestotool/gdi/CFillWithStops.h>
+#include <kestotool/gdi/CRGBColour.h>
+#include <kestotool/gdi/CTransparency.h>
+#include <kestotool/gdi/CTransparencyLinear.h>
+#include <kestotool/geometry/CoordinateRange.h>
+#include <kestotool/geometry/Rounding.h>
+#include <kestotool/platform/CXTPControlPopupColor.h>
+#include <kestotool/qt/QtConvert.h>
+#include <kestotool/qt/QtRenderTarget.h>
+#include <kestotool/tool/SiteGeometry.h>
 
 #include <QColorDialog>
 #include <QJsonDocument>

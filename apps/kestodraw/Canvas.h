@@ -3,11 +3,11 @@
 #include "Document.h"
 #include "DrawingPainter.h"
 
-#include "filltool/FillTool.h"
-#include "platform/CXTPCommandBars.h"
-#include "tool/IDocumentEx.h"
-#include "tool/IToolHelper.h"
-#include "tool/IToolSite.h"
+#include <kestotool/filltool/FillTool.h>
+#include <kestotool/platform/CXTPCommandBars.h>
+#include <kestotool/tool/IDocumentEx.h>
+#include <kestotool/tool/IToolHelper.h>
+#include <kestotool/tool/IToolSite.h>
 
 #include <QPointer>
 #include <QWidget>

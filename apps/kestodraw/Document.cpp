@@ -1,7 +1,7 @@
 #include "Document.h"
 
-#include "geometry/CoordinateRange.h"
-#include "geometry/K2DLtGeneral.h"
+#include <kestotool/geometry/CoordinateRange.h>
+#include <kestotool/geometry/K2DLtGeneral.h>
 
 namespace KestoDraw {
 

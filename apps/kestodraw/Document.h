@@ -1,8 +1,8 @@
 #pragma once
 
-#include "gdi/CFill.h"
-#include "platform/CPoint.h"
-#include "platform/CRect.h"
+#include <kestotool/gdi/CFill.h>
+#include <kestotool/platform/CPoint.h>
+#include <kestotool/platform/CRect.h>
 
 #include <QPainterPath>
 

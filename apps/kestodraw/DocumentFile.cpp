@@ -3,7 +3,7 @@
 #include "FillJson.h"
 #include "JsonRead.h"
 
-#include "geometry/CoordinateRange.h"
+#include <kestotool/geometry/CoordinateRange.h>
 
 #include <QFile>
 #include <QJsonDocument>

@@ -1,8 +1,8 @@
 #include "DrawingPainter.h"
 
-#include "gdi/FillPaint.h"
-#include "raster/Composite.h"
-#include "raster/PreparedPaint.h"
+#include <kestotool/gdi/FillPaint.h>
+#include <kestotool/raster/Composite.h>
+#include <kestotool/raster/PreparedPaint.h>
 
 #include <QImage>
 #include <QPainter>

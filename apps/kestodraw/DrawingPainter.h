@@ -2,7 +2,7 @@
 
 #include "Document.h"
 
-#include "raster/Paint.h"
+#include <kestotool/raster/Paint.h>
 
 #include <QTransform>
 

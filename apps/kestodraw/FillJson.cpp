@@ -2,17 +2,17 @@
 
 #include "JsonRead.h"
 
-#include "gdi/CFillBitmap.h"
-#include "gdi/CFillDiscreteMesh.h"
-#include "gdi/CFillFractal.h"
-#include "gdi/CFillSolid.h"
-#include "gdi/CFillVector.h"
-#include "gdi/CFillWithStops.h"
-#include "gdi/CMonoColour.h"
-#include "gdi/CRGBColour.h"
-#include "gdi/CTransparency.h"
-#include "gdi/ColourIntPairs.h"
-#include "geometry/CoordinateRange.h"
+#include <kestotool/gdi/CFillBitmap.h>
+#include <kestotool/gdi/CFillDiscreteMesh.h>
+#include <kestotool/gdi/CFillFractal.h>
+#include <kestotool/gdi/CFillSolid.h>
+#include <kestotool/gdi/CFillVector.h>
+#include <kestotool/gdi/CFillWithStops.h>
+#include <kestotool/gdi/CMonoColour.h>
+#include <kestotool/gdi/CRGBColour.h>
+#include <kestotool/gdi/CTransparency.h>
+#include <kestotool/gdi/ColourIntPairs.h>
+#include <kestotool/geometry/CoordinateRange.h>
 
 #include <QBuffer>
 #include <QImage>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "gdi/CColour.h"
-#include "gdi/CFill.h"
+#include <kestotool/gdi/CColour.h>
+#include <kestotool/gdi/CFill.h>
 
 #include <QJsonObject>
 

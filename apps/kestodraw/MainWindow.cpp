@@ -4,10 +4,10 @@
 #include "Palette.h"
 #include "PreferencesDialog.h"
 
-#include "filltool/FillCommands.h"
-#include "gdi/FillKinds.h"
-#include "platform/CCmdTarget.h"
-#include "tool/ToolIdMap.h"
+#include <kestotool/filltool/FillCommands.h>
+#include <kestotool/gdi/FillKinds.h>
+#include <kestotool/platform/CCmdTarget.h>
+#include <kestotool/tool/ToolIdMap.h>
 
 #include <QActionGroup>
 #include <QApplication>

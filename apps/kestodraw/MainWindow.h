@@ -3,7 +3,7 @@
 #include "Canvas.h"
 #include "Document.h"
 
-#include "qt/QtCommandBar.h"
+#include <kestotool/qt/QtCommandBar.h>
 
 #include <QMainWindow>
 #include <QUndoStack>

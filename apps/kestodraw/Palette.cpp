@@ -3,9 +3,9 @@
 #include "Canvas.h"
 #include "FillJson.h"
 
-#include "gdi/CMonoColour.h"
-#include "gdi/CRGBColour.h"
-#include "qt/QtConvert.h"
+#include <kestotool/gdi/CMonoColour.h>
+#include <kestotool/gdi/CRGBColour.h>
+#include <kestotool/qt/QtConvert.h>
 
 #include <QApplication>
 #include <QDrag>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "gdi/CColour.h"
+#include <kestotool/gdi/CColour.h>
 
 #include <QByteArray>
 #include <QWidget>

@@ -3,9 +3,9 @@
 #include "MainWindow.h"
 #include "Palette.h"
 
-#include "filltool/FillCommands.h"
-#include "platform/CXTPControlComboBox.h"
-#include "tool/ToolIdMap.h"
+#include <kestotool/filltool/FillCommands.h>
+#include <kestotool/platform/CXTPControlComboBox.h>
+#include <kestotool/tool/ToolIdMap.h>
 
 #include <QApplication>
 #include <QComboBox>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/CPoint.h"
+#include <kestotool/platform/CPoint.h>
 
 #include <QDir>
 #include <QString>

@@ -7,8 +7,8 @@
 #include "MainWindow.h"
 #include "ScriptPlayer.h"
 
-#include "qt/QtBackend.h"
-#include "tool/ToolIdMap.h"
+#include <kestotool/qt/QtBackend.h>
+#include <kestotool/tool/ToolIdMap.h>
 
 #include <QApplication>
 #include <QCommandLineParser>

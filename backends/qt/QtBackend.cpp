@@ -1,9 +1,9 @@
-#include "qt/QtBackend.h"
+#include "kestotool/qt/QtBackend.h"
 
-#include "qt/QtWindowPeer.h"
+#include "kestotool/qt/QtWindowPeer.h"
 
-#include "platform/CDialog.h"
-#include "platform/ScreenMetrics.h"
+#include "kestotool/platform/CDialog.h"
+#include "kestotool/platform/ScreenMetrics.h"
 
 #include <QApplication>
 #include <QDialog>

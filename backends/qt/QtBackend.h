@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/ManualClock.h"
-#include "platform/WindowBackend.h"
+#include "kestotool/platform/ManualClock.h"
+#include "kestotool/platform/WindowBackend.h"
 
 #include <QObject>
 

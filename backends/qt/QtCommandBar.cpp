@@ -1,12 +1,12 @@
-#include "qt/QtCommandBar.h"
+#include "kestotool/qt/QtCommandBar.h"
 
-#include "qt/QtConvert.h"
+#include "kestotool/qt/QtConvert.h"
 
-#include "platform/CCmdTarget.h"
-#include "platform/CCmdUI.h"
-#include "platform/CXTPControlComboBox.h"
-#include "platform/CXTPControlPopupColor.h"
-#include "platform/ScreenMetrics.h"
+#include "kestotool/platform/CCmdTarget.h"
+#include "kestotool/platform/CCmdUI.h"
+#include "kestotool/platform/CXTPControlComboBox.h"
+#include "kestotool/platform/CXTPControlPopupColor.h"
+#include "kestotool/platform/ScreenMetrics.h"
 
 #include <QAbstractEventDispatcher>
 #include <QComboBox>

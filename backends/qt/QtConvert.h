@@ -1,13 +1,13 @@
 #pragma once
 
-#include "platform/CListItems.h"
-#include "platform/CString.h"
-#include "platform/ColourRef.h"
-#include "gdi/RenderBrush.h"
-#include "gdi/RenderPen.h"
-#include "geometry/K2DArrayPoint.h"
-#include "geometry/K2DCurve.h"
-#include "platform/WindowTypes.h"
+#include "kestotool/platform/CListItems.h"
+#include "kestotool/platform/CString.h"
+#include "kestotool/platform/ColourRef.h"
+#include "kestotool/gdi/RenderBrush.h"
+#include "kestotool/gdi/RenderPen.h"
+#include "kestotool/geometry/K2DArrayPoint.h"
+#include "kestotool/geometry/K2DCurve.h"
+#include "kestotool/platform/WindowTypes.h"
 
 #include <QColor>
 #include <QComboBox>

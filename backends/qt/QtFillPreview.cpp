@@ -1,7 +1,7 @@
-#include "qt/QtFillPreview.h"
+#include "kestotool/qt/QtFillPreview.h"
 
-#include "gdi/FillPaint.h"
-#include "ui/FillPreview.h"
+#include "kestotool/gdi/FillPaint.h"
+#include "kestotool/ui/FillPreview.h"
 
 #include <QImage>
 #include <QPainter>

@@ -1,6 +1,6 @@
-#include "qt/QtRenderContext.h"
+#include "kestotool/qt/QtRenderContext.h"
 
-#include "qt/QtConvert.h"
+#include "kestotool/qt/QtConvert.h"
 
 #include <QPainter>
 #include <QPolygonF>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "gdi/CRenderContext.h"
+#include "kestotool/gdi/CRenderContext.h"
 
 class QPainter;
 

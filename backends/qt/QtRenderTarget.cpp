@@ -1,6 +1,6 @@
-#include "qt/QtRenderTarget.h"
+#include "kestotool/qt/QtRenderTarget.h"
 
-#include "qt/QtConvert.h"
+#include "kestotool/qt/QtConvert.h"
 
 #include <QPainter>
 #include <QPolygonF>

@@ -1,13 +1,13 @@
-#include "qt/QtWindowPeer.h"
+#include "kestotool/qt/QtWindowPeer.h"
 
-#include "qt/QtBackend.h"
-#include "qt/QtFillPreview.h"
-#include "qt/QtConvert.h"
+#include "kestotool/qt/QtBackend.h"
+#include "kestotool/qt/QtFillPreview.h"
+#include "kestotool/qt/QtConvert.h"
 
-#include "platform/CComboBox.h"
-#include "platform/CEdit.h"
-#include "platform/CSliderCtrl.h"
-#include "platform/CSpinButtonCtrl.h"
+#include "kestotool/platform/CComboBox.h"
+#include "kestotool/platform/CEdit.h"
+#include "kestotool/platform/CSliderCtrl.h"
+#include "kestotool/platform/CSpinButtonCtrl.h"
 
 #include <QComboBox>
 #include <QDialog>

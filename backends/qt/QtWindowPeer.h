@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/WindowPeer.h"
+#include "kestotool/platform/WindowPeer.h"
 
 #include <QPointer>
 #include <QWidget>

@@ -1,6 +1,6 @@
 #include "DemoHost.h"
 
-#include "tool/SiteGeometry.h"
+#include <kestotool/tool/SiteGeometry.h>
 
 
 void DemoHost::Drag(Platform::CPoint from, Platform::CPoint to, unsigned flags)

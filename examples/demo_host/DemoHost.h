@@ -1,9 +1,9 @@
 #pragma once
 
-#include "filltool/FillTool.h"
-#include "tool/IDocumentEx.h"
-#include "tool/IToolHelper.h"
-#include "tool/IToolSite.h"
+#include <kestotool/filltool/FillTool.h>
+#include <kestotool/tool/IDocumentEx.h>
+#include <kestotool/tool/IToolHelper.h>
+#include <kestotool/tool/IToolSite.h>
 
 #include <string>
 

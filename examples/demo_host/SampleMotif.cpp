@@ -1,9 +1,9 @@
 #include "SampleMotif.h"
 
-#include "gdi/CFillLinear.h"
-#include "gdi/CFillSolid.h"
-#include "gdi/CRGBColour.h"
-#include "gdi/ColourIntPairs.h"
+#include <kestotool/gdi/CFillLinear.h>
+#include <kestotool/gdi/CFillSolid.h>
+#include <kestotool/gdi/CRGBColour.h>
+#include <kestotool/gdi/ColourIntPairs.h>
 
 Kernel::RefPtr<const KestoGDI::VectorDrawing> SampleMotif()
 {

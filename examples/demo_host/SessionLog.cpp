@@ -2,7 +2,7 @@
 
 #include "SvgRenderTarget.h"
 
-#include "gdi/CFillWithStops.h"
+#include <kestotool/gdi/CFillWithStops.h>
 
 #include <cstdio>
 #include <iostream>

@@ -2,8 +2,8 @@
 
 #include "PixelRenderTarget.h"
 
-#include "gdi/FillPaint.h"
-#include "gdi/PngFile.h"
+#include <kestotool/gdi/FillPaint.h>
+#include <kestotool/gdi/PngFile.h>
 
 #include <vector>
 

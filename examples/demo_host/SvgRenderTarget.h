@@ -1,6 +1,6 @@
 #pragma once
 
-#include "gdi/IRenderTarget.h"
+#include <kestotool/gdi/IRenderTarget.h>
 
 #include <string>
 

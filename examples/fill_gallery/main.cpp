@@ -4,17 +4,17 @@
 // placement and rendered (KestoRaster), fill and mask are composited over the destination.
 #include "SampleMotif.h"
 
-#include "gdi/CFillBitmap.h"
-#include "gdi/CFillVector.h"
-#include "gdi/CFillWithStops.h"
-#include "gdi/CMonoColour.h"
-#include "gdi/CRGBColour.h"
-#include "gdi/FillKinds.h"
-#include "gdi/FillPaint.h"
-#include "gdi/PngFile.h"
-#include "platform/CString.h"
-#include "raster/Composite.h"
-#include "raster/PreparedPaint.h"
+#include <kestotool/gdi/CFillBitmap.h>
+#include <kestotool/gdi/CFillVector.h>
+#include <kestotool/gdi/CFillWithStops.h>
+#include <kestotool/gdi/CMonoColour.h>
+#include <kestotool/gdi/CRGBColour.h>
+#include <kestotool/gdi/FillKinds.h>
+#include <kestotool/gdi/FillPaint.h>
+#include <kestotool/gdi/PngFile.h>
+#include <kestotool/platform/CString.h>
+#include <kestotool/raster/Composite.h>
+#include <kestotool/raster/PreparedPaint.h>
 
 #include <cctype>
 #include <cstdint>

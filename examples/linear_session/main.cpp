@@ -6,14 +6,14 @@
 #include "SessionPicture.h"
 #include "SvgRenderTarget.h"
 
-#include "filltool/FillCommands.h"
-#include "filltool/FillToolFactory.h"
-#include "gdi/CFillLinear.h"
-#include "gdi/CRGBColour.h"
-#include "platform/CCmdTarget.h"
-#include "platform/WindowTypes.h"
-#include "tool/Module.h"
-#include "tool/ToolIdMap.h"
+#include <kestotool/filltool/FillCommands.h>
+#include <kestotool/filltool/FillToolFactory.h>
+#include <kestotool/gdi/CFillLinear.h>
+#include <kestotool/gdi/CRGBColour.h>
+#include <kestotool/platform/CCmdTarget.h>
+#include <kestotool/platform/WindowTypes.h>
+#include <kestotool/tool/Module.h>
+#include <kestotool/tool/ToolIdMap.h>
 
 #include <cstdio>
 #include <fstream>

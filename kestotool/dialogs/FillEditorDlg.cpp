@@ -1,6 +1,6 @@
-#include "dialogs/FillEditorDlg.h"
+#include "kestotool/dialogs/FillEditorDlg.h"
 
-#include "resources/ResourceIds.h"
+#include "kestotool/resources/ResourceIds.h"
 
 namespace KestoTool {
 

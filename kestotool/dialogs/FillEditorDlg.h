@@ -1,9 +1,10 @@
 #pragma once
 
-#include "gdi/CFill.h"
-#include "tool/KestoToolImports.h"
-#include "ui/FillPreview.h"
-#include "ui/KCResourceDialog.h"
+#include "kestotool/gdi/CFill.h"
+#include "kestotool/platform/Export.h"
+#include "kestotool/tool/KestoToolImports.h"
+#include "kestotool/ui/FillPreview.h"
+#include "kestotool/ui/KCResourceDialog.h"
 
 namespace KestoTool {
 
@@ -13,7 +14,7 @@ class IDocumentEx;
 // copy of a fill, shows it in a preview with a pane of three buttons, and after OK hands the
 // result over. The editors' own controls (gradient bar, stop list, in-dialog tool) come later;
 // for now OK returns the fill as the preview shows it.
-class CFillEditorDlg : public KestoUI::KCResourceDialog {
+class KESTO_API CFillEditorDlg : public KestoUI::KCResourceDialog {
 public:
     // The host's yes/no setting (its meaning is the host's). At start-up a dialog whose setting
     // is no hides the third button of its preview pane. Yes unless set.

@@ -1,13 +1,14 @@
 #pragma once
 
-#include "dialogs/FillEditorDlg.h"
-#include "gdi/CFillGradient.h"
-#include "resources/ResourceIds.h"
+#include "kestotool/dialogs/FillEditorDlg.h"
+#include "kestotool/gdi/CFillGradient.h"
+#include "kestotool/platform/Export.h"
+#include "kestotool/resources/ResourceIds.h"
 
 namespace KestoTool {
 
 // The editor of gradient transparencies.
-class CGradientTranspDlg : public CFillEditorDlg {
+class KESTO_API CGradientTranspDlg : public CFillEditorDlg {
 public:
     CGradientTranspDlg(IDocumentEx* document, const KestoGDI::CFillGradient* fill, const CRect& objectRect, Platform::CWnd* parent)
         : CFillEditorDlg(IDD_GRADIENT_TRANSPARENCY, document, fill, objectRect, parent)

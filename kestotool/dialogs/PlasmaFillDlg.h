@@ -1,13 +1,14 @@
 #pragma once
 
-#include "dialogs/FillEditorDlg.h"
-#include "gdi/CFillFractal.h"
-#include "resources/ResourceIds.h"
+#include "kestotool/dialogs/FillEditorDlg.h"
+#include "kestotool/gdi/CFillFractal.h"
+#include "kestotool/platform/Export.h"
+#include "kestotool/resources/ResourceIds.h"
 
 namespace KestoTool {
 
 // The editor of plasma fills, and of plasma transparencies too.
-class CPlasmaFillDlg : public CFillEditorDlg {
+class KESTO_API CPlasmaFillDlg : public CFillEditorDlg {
 public:
     CPlasmaFillDlg(IDocumentEx* document, const KestoGDI::CFillFractal* fill, const CRect& objectRect, Platform::CWnd* parent)
         : CFillEditorDlg(IDD_PLASMA_FILL, document, fill, objectRect, parent)

@@ -1,8 +1,8 @@
-#include "dialogs/SolidTransparencyDlg.h"
+#include "kestotool/dialogs/SolidTransparencyDlg.h"
 
-#include "gdi/CMonoColour.h"
-#include "geometry/Rounding.h"
-#include "resources/ResourceIds.h"
+#include "kestotool/gdi/CMonoColour.h"
+#include "kestotool/geometry/Rounding.h"
+#include "kestotool/resources/ResourceIds.h"
 
 namespace KestoTool {
 namespace {

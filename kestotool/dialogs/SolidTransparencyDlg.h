@@ -1,19 +1,20 @@
 #pragma once
 
-#include "gdi/CTransparencyFlat.h"
-#include "platform/CEdit.h"
-#include "platform/CSliderCtrl.h"
-#include "platform/CSpinButtonCtrl.h"
-#include "tool/KestoToolImports.h"
-#include "ui/FillPreview.h"
-#include "ui/KCResourceDialog.h"
+#include "kestotool/gdi/CTransparencyFlat.h"
+#include "kestotool/platform/CEdit.h"
+#include "kestotool/platform/CSliderCtrl.h"
+#include "kestotool/platform/CSpinButtonCtrl.h"
+#include "kestotool/platform/Export.h"
+#include "kestotool/tool/KestoToolImports.h"
+#include "kestotool/ui/FillPreview.h"
+#include "kestotool/ui/KCResourceDialog.h"
 
 namespace KestoTool {
 
 // Edits a flat transparency as a percentage (0 opaque .. 100 clear) through a slider, an edit
 // box and a spin button, with a preview. The dialog works on its own copy; GetTrans hands out
 // copies of it.
-class CSolidTransparencyDlg : public KestoUI::KCResourceDialog {
+class KESTO_API CSolidTransparencyDlg : public KestoUI::KCResourceDialog {
 public:
     // Keeps a copy of transparency; without one, starts fully transparent (value 255).
     CSolidTransparencyDlg(const KestoGDI::CTransparencyFlat* transparency, Platform::CWnd* parent);

@@ -1,13 +1,14 @@
 #pragma once
 
-#include "dialogs/FillEditorDlg.h"
-#include "gdi/CFillGradient.h"
-#include "resources/ResourceIds.h"
+#include "kestotool/dialogs/FillEditorDlg.h"
+#include "kestotool/gdi/CFillGradient.h"
+#include "kestotool/platform/Export.h"
+#include "kestotool/resources/ResourceIds.h"
 
 namespace KestoTool {
 
 // The editor of three- and four-point transparencies.
-class CThreeAndFourColourTranspDlg : public CFillEditorDlg {
+class KESTO_API CThreeAndFourColourTranspDlg : public CFillEditorDlg {
 public:
     CThreeAndFourColourTranspDlg(IDocumentEx* document, const KestoGDI::CFillGradient* fill, const CRect& objectRect, Platform::CWnd* parent)
         : CFillEditorDlg(IDD_THREE_FOUR_COLOUR_TRANSPARENCY, document, fill, objectRect, parent)

@@ -1,8 +1,8 @@
-#include "dialogs/TintEditSpinCtrl.h"
+#include "kestotool/dialogs/TintEditSpinCtrl.h"
 
-#include "kernel/VerifyReporter.h"
-#include "resources/ResourceIds.h"
-#include "tool/Module.h"
+#include "kestotool/kernel/VerifyReporter.h"
+#include "kestotool/resources/ResourceIds.h"
+#include "kestotool/tool/Module.h"
 
 #include <algorithm>
 #include <cwchar>

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "platform/CDataExchange.h"
-#include "platform/CEdit.h"
-#include "ui/KUISpinButtonBuddy.h"
+#include "kestotool/platform/CDataExchange.h"
+#include "kestotool/platform/CEdit.h"
+#include "kestotool/platform/Export.h"
+#include "kestotool/ui/KUISpinButtonBuddy.h"
 
 #include <memory>
 
@@ -12,7 +13,7 @@ namespace KestoTool {
 // from the extreme: tint 30 shows "+70%", -30 shows "-70%", 0 shows "original". It tells its
 // parent TintChanged (0x0F00) when the tint changes and TintChangeFinished (0x0F01) when an
 // edit ends, as command messages under its id.
-class CTintEditSpinCtrl : public Platform::CEdit {
+class KESTO_API CTintEditSpinCtrl : public Platform::CEdit {
 public:
     static constexpr int TintChanged = 0x0F00;
     static constexpr int TintChangeFinished = 0x0F01;

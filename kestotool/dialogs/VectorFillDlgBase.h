@@ -1,13 +1,14 @@
 #pragma once
 
-#include "dialogs/FillEditorDlg.h"
-#include "gdi/CFillVector.h"
-#include "geometry/K2DLtGeneral.h"
+#include "kestotool/dialogs/FillEditorDlg.h"
+#include "kestotool/gdi/CFillVector.h"
+#include "kestotool/geometry/K2DLtGeneral.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoTool {
 
 // The editor of vector fills; it also knows the object's transform, to place the tiles.
-class CVectorFillDlgBase : public CFillEditorDlg {
+class KESTO_API CVectorFillDlgBase : public CFillEditorDlg {
 public:
     CVectorFillDlgBase(IDocumentEx* document, const KestoGDI::CFillVector* fill, const CRect& objectRect,
                        Platform::CWnd* parent, int templateId, const Kesto2D::K2DLtGeneral& objectTransform)

@@ -1,4 +1,4 @@
-#include "filltool/FillCommands.h"
+#include "kestotool/filltool/FillCommands.h"
 
 namespace KestoTool {
 

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "platform/CRect.h"
-#include "platform/CXTPControl.h"
+#include "kestotool/platform/CRect.h"
+#include "kestotool/platform/CXTPControl.h"
+#include "kestotool/platform/Export.h"
 
 #include <span>
 
@@ -36,7 +37,7 @@ enum FillCommand : int {
 
 // The key under which the fill tools allocate their command IDs: compared by address, so
 // everyone passes this one constant.
-extern const wchar_t* const FillToolKey;
+extern KESTO_API const wchar_t* const FillToolKey;
 
 // The toolbar control classes a command's control can be made of; None where the library
 // describes no control (the colour commands' controls come from the host's tool helper).
@@ -46,7 +47,7 @@ enum class FillControlClass { None, Button, Popup, SplitButtonPopup, ComboBox, U
 // prompt (0: none), its icon in the image archive (null: none), and how to make its control:
 // the class, the toolkit type and button style, a rectangle in 96-dpi pixels, a caption, and
 // whether it becomes a plain button when made off a toolbar.
-struct FillCommandRow {
+struct KESTO_API FillCommandRow {
     FillCommand number;
     int promptId;
     const wchar_t* icon;
@@ -60,7 +61,7 @@ struct FillCommandRow {
 
 // The one command table of the fill tools: image registration, control creation, prompts and
 // the size of the ID range all read it.
-class FillCommands {
+class KESTO_API FillCommands {
 public:
     FillCommands() = delete;
 

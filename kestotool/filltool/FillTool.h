@@ -1,17 +1,18 @@
 #pragma once
 
-#include "gdi/CColour.h"
-#include "gdi/CFill.h"
-#include "gdi/CRenderContext.h"
-#include "gdi/IRenderTarget.h"
-#include "geometry/K2DArrayPoint.h"
-#include "geometry/K2DCurve.h"
-#include "geometry/K2DLtGeneral.h"
-#include "geometry/KCAngle.h"
-#include "platform/CCmdTarget.h"
-#include "platform/WindowTypes.h"
-#include "tool/IToolSite.h"
-#include "tool/KestoToolImports.h"
+#include "kestotool/gdi/CColour.h"
+#include "kestotool/gdi/CFill.h"
+#include "kestotool/gdi/CRenderContext.h"
+#include "kestotool/gdi/IRenderTarget.h"
+#include "kestotool/geometry/K2DArrayPoint.h"
+#include "kestotool/geometry/K2DCurve.h"
+#include "kestotool/geometry/K2DLtGeneral.h"
+#include "kestotool/geometry/KCAngle.h"
+#include "kestotool/platform/CCmdTarget.h"
+#include "kestotool/platform/Export.h"
+#include "kestotool/platform/WindowTypes.h"
+#include "kestotool/tool/IToolSite.h"
+#include "kestotool/tool/KestoToolImports.h"
 
 #include <atomic>
 #include <memory>
@@ -45,7 +46,7 @@ inline constexpr unsigned int DragFlagCtrl = 8;
 inline constexpr unsigned int KeyDelete = Platform::VK_DELETE;
 
 // A hint line's string ids: one for a fill, one for a transparency.
-struct HintIds {
+struct KESTO_API HintIds {
     int fill;
     int transparency;
 };
@@ -55,7 +56,7 @@ struct HintIds {
 // whole new fill through UpdateFill / UpdateTransparency; the host then gives it the committed
 // fill with SetFill. Concrete tools override the virtual operations; the base supplies the
 // state, hit testing, snapping and angle maths, node colours and handle drawing.
-class FillTool : public Platform::CCmdTarget {
+class KESTO_API FillTool : public Platform::CCmdTarget {
     KESTO_DECLARE_DYNAMIC(FillTool)
 public:
     static const int s_nHandleSize = 8;  // screen pixels: handle side and hit box

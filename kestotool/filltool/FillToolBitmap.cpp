@@ -1,7 +1,7 @@
-#include "filltool/FillToolBitmap.h"
+#include "kestotool/filltool/FillToolBitmap.h"
 
-#include "gdi/CFillBitmap.h"
-#include "geometry/CoordinateRange.h"
+#include "kestotool/gdi/CFillBitmap.h"
+#include "kestotool/geometry/CoordinateRange.h"
 
 namespace KestoTool {
 

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "filltool/FillToolStopLineArm.h"
-#include "gdi/CFillBitmap.h"
+#include "kestotool/filltool/FillToolStopLineArm.h"
+#include "kestotool/gdi/CFillBitmap.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoTool {
 
@@ -10,7 +11,7 @@ namespace KestoTool {
 // the other axis with it (with Ctrl, moves it by the perpendicular offset). Shift constrains the
 // angle about P0, except on P1 without Ctrl. Handles: P0, P1 (the first and last stops' handles,
 // as bitmaps show no inner stops), then P2.
-class FillToolBitmap : public FillToolStopLineArm<KestoGDI::CFillBitmap> {
+class KESTO_API FillToolBitmap : public FillToolStopLineArm<KestoGDI::CFillBitmap> {
     KESTO_DECLARE_DYNAMIC(FillToolBitmap)
 public:
     FillToolBitmap(const CFill* fill, IToolSite* site) : FillToolStopLineArm(fill, site, "FillToolBitmap") {}

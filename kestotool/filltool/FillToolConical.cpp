@@ -1,11 +1,11 @@
-#include "filltool/FillToolConical.h"
+#include "kestotool/filltool/FillToolConical.h"
 
-#include "gdi/CFillConical.h"
-#include "geometry/CoordinateRange.h"
-#include "geometry/K2DGeometry.h"
-#include "geometry/Rounding.h"
-#include "kernel/VerifyReporter.h"
-#include "resources/ResourceIds.h"
+#include "kestotool/gdi/CFillConical.h"
+#include "kestotool/geometry/CoordinateRange.h"
+#include "kestotool/geometry/K2DGeometry.h"
+#include "kestotool/geometry/Rounding.h"
+#include "kestotool/kernel/VerifyReporter.h"
+#include "kestotool/resources/ResourceIds.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "filltool/FillToolGradient.h"
+#include "kestotool/filltool/FillToolGradient.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoTool {
 
@@ -12,7 +13,7 @@ namespace KestoTool {
 //
 // Handles: R (the first stop), the inner stops on the half circle, the point opposite R (the
 // last stop), then C, the one extended node, which shows the last stop's colour.
-class FillToolConical : public FillToolGradient {
+class KESTO_API FillToolConical : public FillToolGradient {
     KESTO_DECLARE_DYNAMIC(FillToolConical)
 public:
     FillToolConical(const CFill* fill, IToolSite* site) : FillToolGradient(fill, site) {}

@@ -1,7 +1,7 @@
 // FillTool's handle and control-line drawing on both render paths.
-#include "filltool/FillTool.h"
+#include "kestotool/filltool/FillTool.h"
 
-#include "geometry/Rounding.h"
+#include "kestotool/geometry/Rounding.h"
 
 #include <optional>
 #include <vector>

@@ -1,10 +1,10 @@
-#include "filltool/FillToolElliptical.h"
+#include "kestotool/filltool/FillToolElliptical.h"
 
-#include "filltool/RoundToolHints.h"
-#include "gdi/CFillEllipse.h"
-#include "geometry/CoordinateRange.h"
-#include "geometry/K2DGeometry.h"
-#include "kernel/VerifyReporter.h"
+#include "kestotool/filltool/RoundToolHints.h"
+#include "kestotool/gdi/CFillEllipse.h"
+#include "kestotool/geometry/CoordinateRange.h"
+#include "kestotool/geometry/K2DGeometry.h"
+#include "kestotool/kernel/VerifyReporter.h"
 
 #include <algorithm>
 

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "filltool/FillToolGradient.h"
+#include "kestotool/filltool/FillToolGradient.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoTool {
 
@@ -9,7 +10,7 @@ namespace KestoTool {
 // is the one extended node and shows the last stop's colour. Dragging E or F turns the other
 // with it (or, with Ctrl, keeps the aspect ratio); dragging off the handles draws a new
 // ellipse.
-class FillToolElliptical : public FillToolGradient {
+class KESTO_API FillToolElliptical : public FillToolGradient {
     KESTO_DECLARE_DYNAMIC(FillToolElliptical)
 public:
     FillToolElliptical(const CFill* fill, IToolSite* site) : FillToolGradient(fill, site) {}

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "filltool/FillTool.h"
+#include "kestotool/filltool/FillTool.h"
+#include "kestotool/platform/Export.h"
 
 #include <memory>
 
@@ -10,7 +11,7 @@ namespace KestoTool {
 // three-colour (6), four-colour (7), plasma (8), square (9), elliptical (10), conical (11),
 // bitmap (12) and vector (14) fills and transparencies each get their tool; none, solid and
 // discrete-mesh fills get none. The host and the editor dialogs build their tools here.
-class FillToolFactory {
+class KESTO_API FillToolFactory {
 public:
     FillToolFactory() = delete;
 

@@ -1,10 +1,10 @@
-#include "filltool/FillToolFourColour.h"
+#include "kestotool/filltool/FillToolFourColour.h"
 
-#include "gdi/CFillFourColour.h"
-#include "geometry/CoordinateRange.h"
-#include "geometry/K2DGeometry.h"
-#include "geometry/K2DStraightLine.h"
-#include "kernel/VerifyReporter.h"
+#include "kestotool/gdi/CFillFourColour.h"
+#include "kestotool/geometry/CoordinateRange.h"
+#include "kestotool/geometry/K2DGeometry.h"
+#include "kestotool/geometry/K2DStraightLine.h"
+#include "kestotool/kernel/VerifyReporter.h"
 
 namespace KestoTool {
 

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "filltool/FillToolGradient.h"
+#include "kestotool/filltool/FillToolGradient.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoTool {
 
@@ -9,7 +10,7 @@ namespace KestoTool {
 // opposite corner; handle i shows and edits node-list entry i. Dragging P1 or P2 keeps the
 // figure a parallelogram about P0; dragging P3 slides both neighbours along their edges (with
 // Ctrl, P3 itself moves only along the diagonal through P0).
-class FillToolFourColour : public FillToolGradient {
+class KESTO_API FillToolFourColour : public FillToolGradient {
     KESTO_DECLARE_DYNAMIC(FillToolFourColour)
 public:
     FillToolFourColour(const CFill* fill, IToolSite* site) : FillToolGradient(fill, site) {}

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "filltool/FillTool.h"
-#include "gdi/ColourIntPairs.h"
+#include "kestotool/filltool/FillTool.h"
+#include "kestotool/gdi/ColourIntPairs.h"
+#include "kestotool/platform/Export.h"
 
 #include <optional>
 
@@ -13,7 +14,7 @@ namespace KestoTool {
 //
 // Handles: the stop handles come first, in stop order (all stops when CanCreateNewNode, else
 // only the first and the last), then the concrete tool's extra handles, the extended nodes.
-class FillToolGradient : public FillTool {
+class KESTO_API FillToolGradient : public FillTool {
     KESTO_DECLARE_DYNAMIC(FillToolGradient)
 public:
     FillToolGradient(const CFill* fill, IToolSite* site) : FillTool(fill, site) {}

@@ -1,8 +1,8 @@
-#include "filltool/FillToolImages.h"
+#include "kestotool/filltool/FillToolImages.h"
 
-#include "filltool/FillCommands.h"
-#include "tool/ToolIdMap.h"
-#include "tool/WadManager.h"
+#include "kestotool/filltool/FillCommands.h"
+#include "kestotool/tool/ToolIdMap.h"
+#include "kestotool/tool/WadManager.h"
 
 namespace KestoTool {
 

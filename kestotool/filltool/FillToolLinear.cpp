@@ -1,10 +1,10 @@
-#include "filltool/FillToolLinear.h"
+#include "kestotool/filltool/FillToolLinear.h"
 
-#include "gdi/CFillLinear.h"
-#include "geometry/CoordinateRange.h"
-#include "geometry/K2DGeometry.h"
-#include "kernel/VerifyReporter.h"
-#include "resources/ResourceIds.h"
+#include "kestotool/gdi/CFillLinear.h"
+#include "kestotool/geometry/CoordinateRange.h"
+#include "kestotool/geometry/K2DGeometry.h"
+#include "kestotool/kernel/VerifyReporter.h"
+#include "kestotool/resources/ResourceIds.h"
 
 #include <algorithm>
 

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "filltool/FillToolGradient.h"
+#include "kestotool/filltool/FillToolGradient.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoTool {
 
@@ -8,7 +9,7 @@ namespace KestoTool {
 // E with the stops along it. Dragging off the handles draws a new line; the ends are dragged
 // with Shift constraining the angle (and then not snapping to the grid); inner stops slide
 // along the line.
-class FillToolLinear : public FillToolGradient {
+class KESTO_API FillToolLinear : public FillToolGradient {
     KESTO_DECLARE_DYNAMIC(FillToolLinear)
 public:
     FillToolLinear(const CFill* fill, IToolSite* site) : FillToolGradient(fill, site) {}

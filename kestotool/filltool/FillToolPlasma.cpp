@@ -1,7 +1,7 @@
-#include "filltool/FillToolPlasma.h"
+#include "kestotool/filltool/FillToolPlasma.h"
 
-#include "gdi/CFillFractal.h"
-#include "geometry/CoordinateRange.h"
+#include "kestotool/gdi/CFillFractal.h"
+#include "kestotool/geometry/CoordinateRange.h"
 
 namespace KestoTool {
 

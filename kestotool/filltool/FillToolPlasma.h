@@ -1,7 +1,8 @@
 #pragma once
 
-#include "filltool/FillToolStopLineArm.h"
-#include "gdi/CFillFractal.h"
+#include "kestotool/filltool/FillToolStopLineArm.h"
+#include "kestotool/gdi/CFillFractal.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoTool {
 
@@ -9,7 +10,7 @@ namespace KestoTool {
 // the stops along it) and the arm P0-P2. Dragging P1 turns P2 with it (or, with Ctrl, moves it
 // by the perpendicular offset); dragging P2 leaves P1 where it is unless Shift or Ctrl says
 // otherwise, on purpose. Handles: P0, the inner stops, P1, then P2 (the extended node).
-class FillToolPlasma : public FillToolStopLineArm<KestoGDI::CFillFractal> {
+class KESTO_API FillToolPlasma : public FillToolStopLineArm<KestoGDI::CFillFractal> {
     KESTO_DECLARE_DYNAMIC(FillToolPlasma)
 public:
     FillToolPlasma(const CFill* fill, IToolSite* site) : FillToolStopLineArm(fill, site, "FillToolPlasma") {}

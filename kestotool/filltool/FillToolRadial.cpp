@@ -1,11 +1,11 @@
-#include "filltool/FillToolRadial.h"
+#include "kestotool/filltool/FillToolRadial.h"
 
-#include "filltool/RoundToolHints.h"
-#include "gdi/CFillRadial.h"
-#include "geometry/CoordinateRange.h"
-#include "geometry/K2DCurve.h"
-#include "geometry/K2DGeometry.h"
-#include "kernel/VerifyReporter.h"
+#include "kestotool/filltool/RoundToolHints.h"
+#include "kestotool/gdi/CFillRadial.h"
+#include "kestotool/geometry/CoordinateRange.h"
+#include "kestotool/geometry/K2DCurve.h"
+#include "kestotool/geometry/K2DGeometry.h"
+#include "kestotool/kernel/VerifyReporter.h"
 
 #include <algorithm>
 

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "filltool/FillToolGradient.h"
+#include "kestotool/filltool/FillToolGradient.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoTool {
 
@@ -8,7 +9,7 @@ namespace KestoTool {
 // E, the stops on the radius C-E. The centre handle moves the whole circle, the rim handle its
 // radius and angle, inner stops slide along the radius; dragging off the handles draws a new
 // circle from its centre out.
-class FillToolRadial : public FillToolGradient {
+class KESTO_API FillToolRadial : public FillToolGradient {
     KESTO_DECLARE_DYNAMIC(FillToolRadial)
 public:
     FillToolRadial(const CFill* fill, IToolSite* site) : FillToolGradient(fill, site) {}

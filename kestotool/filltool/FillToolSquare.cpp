@@ -1,9 +1,9 @@
-#include "filltool/FillToolSquare.h"
+#include "kestotool/filltool/FillToolSquare.h"
 
-#include "gdi/CFillSquare.h"
-#include "geometry/CoordinateRange.h"
-#include "geometry/K2DGeometry.h"
-#include "kernel/VerifyReporter.h"
+#include "kestotool/gdi/CFillSquare.h"
+#include "kestotool/geometry/CoordinateRange.h"
+#include "kestotool/geometry/K2DGeometry.h"
+#include "kestotool/kernel/VerifyReporter.h"
 
 namespace KestoTool {
 

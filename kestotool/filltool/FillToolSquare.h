@@ -1,6 +1,7 @@
 #pragma once
 
-#include "filltool/FillToolGradient.h"
+#include "kestotool/filltool/FillToolGradient.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoTool {
 
@@ -12,7 +13,7 @@ namespace KestoTool {
 // a stop at 0), Shift constrains a handle from where that handle started, and a stop dragged
 // past its neighbour stays the current one. The outline drawn and every rectangle is the
 // parallelogram C +- (E - C) +- (F - C).
-class FillToolSquare : public FillToolGradient {
+class KESTO_API FillToolSquare : public FillToolGradient {
     KESTO_DECLARE_DYNAMIC(FillToolSquare)
 public:
     FillToolSquare(const CFill* fill, IToolSite* site) : FillToolGradient(fill, site) {}

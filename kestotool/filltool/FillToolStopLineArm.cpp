@@ -1,9 +1,9 @@
-#include "filltool/FillToolStopLineArm.h"
+#include "kestotool/filltool/FillToolStopLineArm.h"
 
-#include "gdi/CFillBitmap.h"
-#include "gdi/CFillFractal.h"
-#include "geometry/K2DGeometry.h"
-#include "kernel/VerifyReporter.h"
+#include "kestotool/gdi/CFillBitmap.h"
+#include "kestotool/gdi/CFillFractal.h"
+#include "kestotool/geometry/K2DGeometry.h"
+#include "kestotool/kernel/VerifyReporter.h"
 
 namespace KestoTool {
 

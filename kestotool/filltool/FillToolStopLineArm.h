@@ -1,6 +1,7 @@
 #pragma once
 
-#include "filltool/FillToolGradient.h"
+#include "kestotool/filltool/FillToolGradient.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoTool {
 
@@ -10,7 +11,7 @@ namespace KestoTool {
 // least 50 long, and there is no hint. Without a fill each query reports, under the tool's own
 // class name, and answers its empty result.
 template <class Fill>
-class FillToolStopLineArm : public FillToolGradient {
+class KESTO_API FillToolStopLineArm : public FillToolGradient {
 public:
     // The bounding box of the tile parallelogram P0, P1, P1 + P2 - P0, P2.
     CRect GetFillRect(const CFill* fill) override;

@@ -1,9 +1,9 @@
-#include "filltool/FillToolThreeColour.h"
+#include "kestotool/filltool/FillToolThreeColour.h"
 
-#include "gdi/CFillThreeColour.h"
-#include "geometry/CoordinateRange.h"
-#include "geometry/K2DGeometry.h"
-#include "kernel/VerifyReporter.h"
+#include "kestotool/gdi/CFillThreeColour.h"
+#include "kestotool/geometry/CoordinateRange.h"
+#include "kestotool/geometry/K2DGeometry.h"
+#include "kestotool/kernel/VerifyReporter.h"
 
 namespace KestoTool {
 

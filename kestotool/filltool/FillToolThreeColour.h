@@ -1,6 +1,7 @@
 #pragma once
 
-#include "filltool/FillToolGradient.h"
+#include "kestotool/filltool/FillToolGradient.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoTool {
 
@@ -8,7 +9,7 @@ namespace KestoTool {
 // the arms P0-P1 and P0-P2, one colour per corner handle (handle i shows and edits node-list
 // entry i). Dragging P0 moves the whole figure; dragging P1 or P2 turns the other arm with it,
 // or with Ctrl moves it by the perpendicular offset; dragging off the handles draws a new one.
-class FillToolThreeColour : public FillToolGradient {
+class KESTO_API FillToolThreeColour : public FillToolGradient {
     KESTO_DECLARE_DYNAMIC(FillToolThreeColour)
 public:
     FillToolThreeColour(const CFill* fill, IToolSite* site) : FillToolGradient(fill, site) {}

@@ -1,9 +1,9 @@
-#include "filltool/FillToolVector.h"
+#include "kestotool/filltool/FillToolVector.h"
 
-#include "filltool/FillCommands.h"
-#include "geometry/CoordinateRange.h"
-#include "geometry/Rounding.h"
-#include "platform/CCmdUI.h"
+#include "kestotool/filltool/FillCommands.h"
+#include "kestotool/geometry/CoordinateRange.h"
+#include "kestotool/geometry/Rounding.h"
+#include "kestotool/platform/CCmdUI.h"
 
 #include <cmath>
 #include <cstdlib>

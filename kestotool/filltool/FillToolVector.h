@@ -1,7 +1,8 @@
 #pragma once
 
-#include "filltool/FillToolBitmap.h"
-#include "gdi/CFillVector.h"
+#include "kestotool/filltool/FillToolBitmap.h"
+#include "kestotool/gdi/CFillVector.h"
+#include "kestotool/platform/Export.h"
 
 #include <vector>
 
@@ -10,13 +11,13 @@ namespace KestoTool {
 using KestoGDI::CFillVector;
 
 // One control box: origin, x-axis end, y-axis end.
-struct ControlInstance {
+struct KESTO_API ControlInstance {
     K2DDblPoint origin, xEnd, yEnd;
 };
 
 // What places a neighbouring tile: the axis of the tile that leads to it and its spacing
 // vector beyond that axis's end.
-struct VectorPair {
+struct KESTO_API VectorPair {
     Kesto2D::K2DVector axis;
     Kesto2D::K2DVector spacing;
 };
@@ -25,7 +26,7 @@ struct VectorPair {
 // end of its x axis and the end of its y axis place, scale, turn and skew the tile. Spacing
 // mode (1): handle 0 sits where the next instance along the y axis starts (B), 1 where the next
 // one along the x axis starts (A), 2 and 3 turn those instances. The mode button switches.
-class FillToolVector : public FillToolBitmap {
+class KESTO_API FillToolVector : public FillToolBitmap {
     KESTO_DECLARE_DYNAMIC(FillToolVector)
 public:
     static constexpr int ScalingMode = 0;

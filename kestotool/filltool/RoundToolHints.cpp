@@ -1,7 +1,7 @@
-#include "filltool/RoundToolHints.h"
+#include "kestotool/filltool/RoundToolHints.h"
 
-#include "filltool/FillToolGradient.h"
-#include "resources/ResourceIds.h"
+#include "kestotool/filltool/FillToolGradient.h"
+#include "kestotool/resources/ResourceIds.h"
 
 namespace KestoTool {
 

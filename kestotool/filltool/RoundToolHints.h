@@ -1,6 +1,6 @@
 #pragma once
 
-#include "filltool/FillTool.h"
+#include "kestotool/filltool/FillTool.h"
 
 namespace KestoTool {
 

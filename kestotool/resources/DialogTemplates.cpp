@@ -1,7 +1,7 @@
-#include "resources/DialogTemplates.h"
+#include "kestotool/resources/DialogTemplates.h"
 
-#include "platform/WindowTypes.h"
-#include "resources/ResourceIds.h"
+#include "kestotool/platform/WindowTypes.h"
+#include "kestotool/resources/ResourceIds.h"
 
 namespace KestoTool {
 namespace {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/DialogTemplate.h"
+#include "kestotool/platform/DialogTemplate.h"
 
 namespace KestoTool {
 

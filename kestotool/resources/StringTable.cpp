@@ -1,4 +1,4 @@
-#include "resources/StringTable.h"
+#include "kestotool/resources/StringTable.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,12 +1,13 @@
 #pragma once
 
-#include "kernel/CRefCount.h"
+#include "kestotool/kernel/CRefCount.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoTool {
 
 // How the host presents itself to the library (large or small icons). The host derives its
 // own class and installs it with Set; until then a default answers false to both questions.
-class AppAttributes : public Kernel::CRefCount {
+class KESTO_API AppAttributes : public Kernel::CRefCount {
 public:
     std::size_t Measure() const override { return sizeof(*this); }
     virtual bool IsLargeIcons() const { return false; }

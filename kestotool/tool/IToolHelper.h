@@ -1,9 +1,10 @@
 #pragma once
 
-#include "gdi/CColour.h"
-#include "gdi/CFill.h"
-#include "platform/CXTPCommandBars.h"
-#include "tool/KestoToolImports.h"
+#include "kestotool/gdi/CColour.h"
+#include "kestotool/gdi/CFill.h"
+#include "kestotool/platform/CXTPCommandBars.h"
+#include "kestotool/platform/Export.h"
+#include "kestotool/tool/KestoToolImports.h"
 
 namespace Platform {
 class CWnd;
@@ -13,7 +14,7 @@ namespace KestoTool {
 
 // The host's services: colour pickers, toolbar controls, type filters. Colours it returns are
 // new objects owned by the caller.
-class IToolHelper {
+class KESTO_API IToolHelper {
 public:
     virtual ~IToolHelper() = default;
 

@@ -1,4 +1,4 @@
-#include "tool/IToolSite.h"
+#include "kestotool/tool/IToolSite.h"
 
 namespace KestoTool {
 

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "gdi/CFill.h"
-#include "geometry/K2DLtGeneral.h"
-#include "tool/KestoToolImports.h"
+#include "kestotool/gdi/CFill.h"
+#include "kestotool/geometry/K2DLtGeneral.h"
+#include "kestotool/platform/Export.h"
+#include "kestotool/tool/KestoToolImports.h"
 
 namespace KestoTool {
 
@@ -11,7 +12,7 @@ class IDocumentEx;
 // What a tool needs of its host: the document canvas implements it once per running tool, and
 // so does every editor dialog's preview. Operations are in the order the library calls them by;
 // all but three are the host's to write.
-class IToolSite {
+class KESTO_API IToolSite {
 public:
     virtual ~IToolSite() = default;
 

@@ -2,12 +2,12 @@
 
 // What the product takes from the libraries below it, so that its code reads the names
 // unqualified.
-#include "gdi/CLtBitmap.h"
-#include "kernel/CRefCount.h"
-#include "kernel/RefPtr.h"
-#include "platform/CPoint.h"
-#include "platform/CRect.h"
-#include "platform/CString.h"
+#include "kestotool/gdi/CLtBitmap.h"
+#include "kestotool/kernel/CRefCount.h"
+#include "kestotool/kernel/RefPtr.h"
+#include "kestotool/platform/CPoint.h"
+#include "kestotool/platform/CRect.h"
+#include "kestotool/platform/CString.h"
 
 namespace KestoTool {
 using Kernel::RefPtr;

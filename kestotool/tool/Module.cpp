@@ -1,9 +1,9 @@
-#include "tool/Module.h"
+#include "kestotool/tool/Module.h"
 
-#include "kernel/VerifyReporter.h"
-#include "resources/DialogTemplates.h"
-#include "resources/StringTable.h"
-#include "tool/ModuleFileCheck.h"
+#include "kestotool/kernel/VerifyReporter.h"
+#include "kestotool/resources/DialogTemplates.h"
+#include "kestotool/resources/StringTable.h"
+#include "kestotool/tool/ModuleFileCheck.h"
 
 #include <dlfcn.h>
 

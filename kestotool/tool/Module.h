@@ -1,7 +1,8 @@
 #pragma once
 
-#include "platform/CResourceModule.h"
-#include "tool/KestoToolImports.h"
+#include "kestotool/platform/CResourceModule.h"
+#include "kestotool/platform/Export.h"
+#include "kestotool/tool/KestoToolImports.h"
 
 #include <string>
 
@@ -17,7 +18,7 @@ namespace KestoTool {
 //
 // A localised module exports one C function, LocalisedStringEntry:
 //     extern "C" const wchar_t* KestoToolLocString(int id);   // null for an id it lacks
-class Module : public Platform::CResourceModule {
+class KESTO_API Module : public Platform::CResourceModule {
 public:
     static constexpr const char* LocalisedModuleName = "libKestoToolLoc.so";
     static constexpr const char* LocalisedStringEntry = "KestoToolLocString";

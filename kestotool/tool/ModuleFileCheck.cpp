@@ -1,4 +1,4 @@
-#include "tool/ModuleFileCheck.h"
+#include "kestotool/tool/ModuleFileCheck.h"
 
 #include <elf.h>
 #include <link.h>

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "kestotool/platform/Export.h"
+
 #include <string>
 
 namespace KestoTool {
@@ -7,7 +9,7 @@ namespace KestoTool {
 // Looks at a shared object's file before it is loaded: loading a truncated or foreign file
 // beside the library (a half-copied install) would crash the host inside the loader, and a file
 // that others may write to could be swapped for code of theirs.
-class ModuleFileCheck {
+class KESTO_API ModuleFileCheck {
 public:
     ModuleFileCheck() = delete;
 

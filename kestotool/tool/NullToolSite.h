@@ -1,14 +1,15 @@
 #pragma once
 
-#include "tool/IToolHelper.h"
-#include "tool/IToolSite.h"
+#include "kestotool/platform/Export.h"
+#include "kestotool/tool/IToolHelper.h"
+#include "kestotool/tool/IToolSite.h"
 
 namespace KestoTool {
 
 // A site that answers the empty result of every question and keeps every commit to itself: no
 // transform, no snapping, no document. A tool made without a site talks to one, and does
 // nothing; a host derives from it to write only the operations it needs.
-class NullToolSite : public IToolSite {
+class KESTO_API NullToolSite : public IToolSite {
 public:
     unsigned long GetToolColour() override { return 0; }
     Kesto2D::K2DLtGeneral GetObjectToSpreadTransform() override { return {}; }
@@ -33,7 +34,7 @@ public:
 };
 
 // A tool helper whose pickers answer nothing and which offers no kind and no lock ratio.
-class NullToolHelper : public IToolHelper {
+class KESTO_API NullToolHelper : public IToolHelper {
 public:
     int CreateColourControl(Platform::XTP_COMMANDBARS_CREATECONTROL*) override { return 0; }
     bool ColourPicker(const KestoGDI::CColour*, KestoGDI::CColour*& result, Platform::CWnd*) override

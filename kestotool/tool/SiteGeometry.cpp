@@ -1,8 +1,8 @@
-#include "tool/SiteGeometry.h"
+#include "kestotool/tool/SiteGeometry.h"
 
-#include "geometry/CoordinateRange.h"
-#include "geometry/KCAngle.h"
-#include "geometry/Rounding.h"
+#include "kestotool/geometry/CoordinateRange.h"
+#include "kestotool/geometry/KCAngle.h"
+#include "kestotool/geometry/Rounding.h"
 
 #include <cmath>
 

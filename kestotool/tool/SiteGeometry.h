@@ -1,13 +1,14 @@
 #pragma once
 
-#include "tool/KestoToolImports.h"
+#include "kestotool/platform/Export.h"
+#include "kestotool/tool/KestoToolImports.h"
 
 namespace KestoTool {
 
 // The grid snap and angle constraint that a host's IToolSite usually answers with, for hosts
 // that have a plain grid and a fixed angle step. Wide arithmetic throughout: points may lie at
 // opposite ends of the coordinate range, and the answers are saturated to it.
-class SiteGeometry {
+class KESTO_API SiteGeometry {
 public:
     SiteGeometry() = delete;
 

@@ -1,6 +1,6 @@
-#include "tool/ToolIdMap.h"
+#include "kestotool/tool/ToolIdMap.h"
 
-#include "kernel/VerifyReporter.h"
+#include "kestotool/kernel/VerifyReporter.h"
 
 #include <cstdint>
 #include <limits>

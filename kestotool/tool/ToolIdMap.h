@@ -1,5 +1,7 @@
 #pragma once
 
+#include "kestotool/platform/Export.h"
+
 #include <cstdint>
 
 #include <map>
@@ -12,7 +14,7 @@ namespace KestoTool {
 // it passes every time. Keys are compared by address, never by text, so two strings with equal
 // text are two keys. Every mapping is relative to the map's base, not to the range's start:
 // numbers map the same for every key, and a range only bounds the numbers its key may use.
-class ToolIdMap {
+class KESTO_API ToolIdMap {
 public:
     ToolIdMap() = default;
     ToolIdMap(const ToolIdMap&) = default;
@@ -50,6 +52,6 @@ private:
 };
 
 // The host's first call: grants the library the command IDs [base, limit).
-void Init(int base, int limit);
+KESTO_API void Init(int base, int limit);
 
 } // namespace KestoTool

@@ -1,9 +1,10 @@
-#include "tool/WadManager.h"
+#include "kestotool/tool/WadManager.h"
 
-#include "kernel/VerifyReporter.h"
-#include "platform/ScreenMetrics.h"
-#include "tool/Module.h"
+#include "kestotool/kernel/VerifyReporter.h"
+#include "kestotool/platform/ScreenMetrics.h"
+#include "kestotool/tool/Module.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <utility>
 
@@ -64,9 +65,23 @@ std::wstring WadManager::ArchivePath() const
     return ArchivePathFor(Module::GetLibraryPath());
 }
 
+namespace {
+
+bool IsVersionNumber(const std::wstring& extension)
+{
+    return extension.size() > 1 &&
+           std::all_of(extension.begin() + 1, extension.end(), [](wchar_t c) { return c >= L'0' && c <= L'9'; });
+}
+
+} // namespace
+
 std::wstring WadManager::ArchivePathFor(const std::wstring& libraryPath)
 {
-    const std::filesystem::path path(libraryPath);
+    std::filesystem::path path(libraryPath);
+    // An installed library is a versioned file (libKestoTool.so.0.1.0): its version numbers
+    // come after the extension and are not part of the title.
+    while (path.has_extension() && IsVersionNumber(path.extension().wstring()))
+        path.replace_extension();
     std::wstring title = path.stem().wstring();
     if (!title.empty() && (title.back() == L'D' || title.back() == L'N'))
         title.pop_back();

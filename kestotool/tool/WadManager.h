@@ -1,8 +1,9 @@
 #pragma once
 
-#include "gdi/WadArchive.h"
-#include "gdi/WadManager.h"
-#include "tool/KestoToolImports.h"
+#include "kestotool/gdi/WadArchive.h"
+#include "kestotool/gdi/WadManager.h"
+#include "kestotool/platform/Export.h"
+#include "kestotool/tool/KestoToolImports.h"
 
 #include <array>
 #include <string>
@@ -11,7 +12,7 @@ namespace KestoTool {
 
 // The icon manager: loads command images for the screen's resolution from the image archive
 // that lies beside the library ("Icons\<dpi>\<name>" entries).
-class WadManager : public KestoGDI::WadManager {
+class KESTO_API WadManager : public KestoGDI::WadManager {
 public:
     // The image folders, one per screen resolution the icons are drawn for.
     static constexpr std::array<int, 4> Folders = {96, 120, 144, 192};
@@ -31,8 +32,8 @@ public:
     // "Icons\<folder>\<name>".
     static std::wstring EntryName(int folder, const wchar_t* name);
 
-    // The archive beside the library: its directory and file title, less one trailing "D" or
-    // "N", with the archive extension.
+    // The archive beside the library: its directory and file title (without the shared-object
+    // version numbers), less one trailing "D" or "N", with the archive extension.
     std::wstring ArchivePath() const;
     static std::wstring ArchivePathFor(const std::wstring& libraryPath);
 

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "gdi/KestoGDIImports.h"
+#include "kestotool/gdi/KestoGDIImports.h"
+#include "kestotool/platform/Export.h"
 
 #include <memory>
 
@@ -9,7 +10,7 @@ namespace KestoGDI {
 // A colour value: polymorphic, cloned rather than shared, with an alpha (0 transparent .. 255
 // opaque) and a tint. The tint runs from -100 (black) through 0 (the colour itself) to 100
 // (white); GetRGB shows the tinted colour.
-class CColour {
+class KESTO_API CColour {
 public:
     virtual ~CColour() = default;
 

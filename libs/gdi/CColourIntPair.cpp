@@ -1,7 +1,7 @@
-#include "gdi/CColourIntPair.h"
+#include "kestotool/gdi/CColourIntPair.h"
 
-#include "geometry/CoordinateRange.h"
-#include "geometry/Rounding.h"
+#include "kestotool/geometry/CoordinateRange.h"
+#include "kestotool/geometry/Rounding.h"
 
 #include <utility>
 

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "gdi/CMonoColour.h"
-#include "gdi/CRGBColour.h"
-#include "gdi/CSpline.h"
+#include "kestotool/gdi/CMonoColour.h"
+#include "kestotool/gdi/CRGBColour.h"
+#include "kestotool/gdi/CSpline.h"
+#include "kestotool/platform/Export.h"
 
 #include <variant>
 
@@ -12,7 +13,7 @@ namespace KestoGDI {
 // spline that shapes the blend to the next stop. The colour is held by value (an RGB colour or
 // a grey level), so a stop is a plain value: copying stop lists allocates nothing per stop. A
 // colour of another kind is held as the RGB colour it shows, with its alpha.
-class CColourIntPair {
+class KESTO_API CColourIntPair {
 public:
     // Opaque black at position 0.
     CColourIntPair();

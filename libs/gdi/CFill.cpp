@@ -1,10 +1,10 @@
-#include "gdi/CFill.h"
+#include "kestotool/gdi/CFill.h"
 
-#include "gdi/CFillNone.h"
-#include "gdi/CFillSolid.h"
-#include "gdi/FillKinds.h"
-#include "geometry/CoordinateRange.h"
-#include "kernel/VerifyReporter.h"
+#include "kestotool/gdi/CFillNone.h"
+#include "kestotool/gdi/CFillSolid.h"
+#include "kestotool/gdi/FillKinds.h"
+#include "kestotool/geometry/CoordinateRange.h"
+#include "kestotool/kernel/VerifyReporter.h"
 
 #include <algorithm>
 #include <memory>

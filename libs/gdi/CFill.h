@@ -1,10 +1,11 @@
 #pragma once
 
-#include "gdi/BlendMode.h"
-#include "gdi/FillType.h"
-#include "gdi/FillVisitor.h"
-#include "gdi/KestoGDIImports.h"
-#include "kernel/CRefCount.h"
+#include "kestotool/gdi/BlendMode.h"
+#include "kestotool/gdi/FillType.h"
+#include "kestotool/gdi/FillVisitor.h"
+#include "kestotool/gdi/KestoGDIImports.h"
+#include "kestotool/kernel/CRefCount.h"
+#include "kestotool/platform/Export.h"
 
 #include <span>
 
@@ -24,7 +25,7 @@ namespace KestoGDI {
 // Rendering arrives with the renderer as Draw(CLtBitmap&, const K2DLtGeneral& placement): the
 // fill paints itself into a bitmap for any affine placement and the host clips the result to
 // the object's outline.
-class CFill : public Platform::CObject, public Kernel::CRefCount {
+class KESTO_API CFill : public Platform::CObject, public Kernel::CRefCount {
     KESTO_DECLARE_DYNAMIC(CFill)
 public:
     // The run-time class of the fill kind with that type number; null for an unknown number.

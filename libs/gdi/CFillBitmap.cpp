@@ -1,6 +1,6 @@
-#include "gdi/CFillBitmap.h"
+#include "kestotool/gdi/CFillBitmap.h"
 
-#include "gdi/DefaultControls_p.h"
+#include "kestotool/gdi/DefaultControls_p.h"
 
 namespace KestoGDI {
 

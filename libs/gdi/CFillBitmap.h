@@ -1,8 +1,9 @@
 #pragma once
 
-#include "gdi/CFillWithStops.h"
-#include "gdi/CLtBitmap.h"
-#include "gdi/FillWithControls.h"
+#include "kestotool/gdi/CFillWithStops.h"
+#include "kestotool/gdi/CLtBitmap.h"
+#include "kestotool/gdi/FillWithControls.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoGDI {
 
@@ -10,7 +11,7 @@ namespace KestoGDI {
 // first (x) axis, 2 P2 the end of its second (y) axis. Clones share the bitmap, which is never
 // changed once a fill holds it. With gradient recolouring on, the bitmap's intensities are
 // coloured through the stop list.
-class CFillBitmap : public FillWithControls<CFillWithStops, 3> {
+class KESTO_API CFillBitmap : public FillWithControls<CFillWithStops, 3> {
     KESTO_DECLARE_FILL(CFillBitmap)
 public:
     CFillBitmap();

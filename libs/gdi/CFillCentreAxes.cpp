@@ -1,6 +1,6 @@
-#include "gdi/CFillCentreAxes.h"
+#include "kestotool/gdi/CFillCentreAxes.h"
 
-#include "gdi/DefaultControls_p.h"
+#include "kestotool/gdi/DefaultControls_p.h"
 
 namespace KestoGDI {
 

@@ -1,14 +1,15 @@
 #pragma once
 
-#include "gdi/CFillGradient.h"
-#include "gdi/FillWithControls.h"
+#include "kestotool/gdi/CFillGradient.h"
+#include "kestotool/gdi/FillWithControls.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoGDI {
 
 // The gradients placed by a centre and two axis ends, the elliptical and the square ones. The
 // stops lie on the axis from the centre (position 0) to the end point (position 10000); the
 // shape point ends the second axis. Control points: 0 centre, 1 end, 2 shape point.
-class CFillCentreAxes : public FillWithControls<CFillGradient, 3> {
+class KESTO_API CFillCentreAxes : public FillWithControls<CFillGradient, 3> {
     KESTO_DECLARE_DYNAMIC(CFillCentreAxes)
 public:
     K2DDblPoint GetCentre() const { return Point(0); }

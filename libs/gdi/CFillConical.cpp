@@ -1,6 +1,6 @@
-#include "gdi/CFillConical.h"
+#include "kestotool/gdi/CFillConical.h"
 
-#include "gdi/DefaultControls_p.h"
+#include "kestotool/gdi/DefaultControls_p.h"
 
 namespace KestoGDI {
 

@@ -1,13 +1,14 @@
 #pragma once
 
-#include "gdi/CFillGradient.h"
-#include "gdi/FillWithControls.h"
+#include "kestotool/gdi/CFillGradient.h"
+#include "kestotool/gdi/FillWithControls.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoGDI {
 
 // A conical gradient: the colours sweep round a centre, starting along the direction of the
 // radius end point. Control points: 0 centre, 1 radius end.
-class CFillConical : public FillWithControls<CFillGradient, 2> {
+class KESTO_API CFillConical : public FillWithControls<CFillGradient, 2> {
     KESTO_DECLARE_FILL(CFillConical)
 public:
     CFillConical();

@@ -1,6 +1,6 @@
-#include "gdi/CFillDiscreteMesh.h"
+#include "kestotool/gdi/CFillDiscreteMesh.h"
 
-#include "geometry/CoordinateRange.h"
+#include "kestotool/geometry/CoordinateRange.h"
 
 #include <algorithm>
 

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "gdi/CFill.h"
-#include "gdi/CRGBColour.h"
+#include "kestotool/gdi/CFill.h"
+#include "kestotool/gdi/CRGBColour.h"
+#include "kestotool/platform/Export.h"
 
 #include <vector>
 
@@ -9,7 +10,7 @@ namespace KestoGDI {
 
 // A mesh fill: a grid of nodes, each with a position and a colour, the colour blended across
 // each cell. Control points: the nodes row by row from the top-left, columns × rows of them.
-class CFillDiscreteMesh : public CFill {
+class KESTO_API CFillDiscreteMesh : public CFill {
     KESTO_DECLARE_FILL(CFillDiscreteMesh)
 public:
     static constexpr int MinSide = 2;

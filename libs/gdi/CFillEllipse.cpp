@@ -1,4 +1,4 @@
-#include "gdi/CFillEllipse.h"
+#include "kestotool/gdi/CFillEllipse.h"
 
 namespace KestoGDI {
 

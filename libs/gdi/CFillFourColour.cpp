@@ -1,6 +1,6 @@
-#include "gdi/CFillFourColour.h"
+#include "kestotool/gdi/CFillFourColour.h"
 
-#include "gdi/DefaultControls_p.h"
+#include "kestotool/gdi/DefaultControls_p.h"
 
 namespace KestoGDI {
 

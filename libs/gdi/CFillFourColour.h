@@ -1,14 +1,15 @@
 #pragma once
 
-#include "gdi/CFillGradient.h"
-#include "gdi/FillWithControls.h"
+#include "kestotool/gdi/CFillGradient.h"
+#include "kestotool/gdi/FillWithControls.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoGDI {
 
 // Colour blended between four corner colours. Control points: 0 a corner P0, 1 and 2 its two
 // neighbours P1 and P2, 3 the corner P3 opposite P0. The stop list holds exactly four entries in
 // the order that the tool's handles go round the figure: the colours at P0, P1, P3 and P2.
-class CFillFourColour : public FillWithControls<CFillGradient, 4> {
+class KESTO_API CFillFourColour : public FillWithControls<CFillGradient, 4> {
     KESTO_DECLARE_FILL(CFillFourColour)
 public:
     CFillFourColour();

@@ -1,6 +1,6 @@
-#include "gdi/CFillFractal.h"
+#include "kestotool/gdi/CFillFractal.h"
 
-#include "gdi/DefaultControls_p.h"
+#include "kestotool/gdi/DefaultControls_p.h"
 
 #include <algorithm>
 

@@ -1,14 +1,15 @@
 #pragma once
 
-#include "gdi/CFillGradient.h"
-#include "gdi/FillWithControls.h"
+#include "kestotool/gdi/CFillGradient.h"
+#include "kestotool/gdi/FillWithControls.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoGDI {
 
 // The plasma fill: a fractal noise pattern whose values are coloured through the stop list.
 // Control points: 0 P0 and 1 P1, the start and end of the stop line; 2 P2, the end of the
 // second arm from P0, which sets the width and skew of the pattern tile.
-class CFillFractal : public FillWithControls<CFillGradient, 3> {
+class KESTO_API CFillFractal : public FillWithControls<CFillGradient, 3> {
     KESTO_DECLARE_FILL(CFillFractal)
 public:
     static constexpr int MinResolution = 2;

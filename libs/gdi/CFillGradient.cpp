@@ -1,4 +1,4 @@
-#include "gdi/CFillGradient.h"
+#include "kestotool/gdi/CFillGradient.h"
 
 namespace KestoGDI {
 

@@ -1,6 +1,6 @@
-#include "gdi/CFillLinear.h"
+#include "kestotool/gdi/CFillLinear.h"
 
-#include "gdi/DefaultControls_p.h"
+#include "kestotool/gdi/DefaultControls_p.h"
 
 namespace KestoGDI {
 

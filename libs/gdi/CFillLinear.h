@@ -1,13 +1,14 @@
 #pragma once
 
-#include "gdi/CFillGradient.h"
-#include "gdi/FillWithControls.h"
+#include "kestotool/gdi/CFillGradient.h"
+#include "kestotool/gdi/FillWithControls.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoGDI {
 
 // A linear gradient: stops along the line from the start point (position 0) to the end point
 // (position 10000). Control points: 0 start, 1 end.
-class CFillLinear : public FillWithControls<CFillGradient, 2> {
+class KESTO_API CFillLinear : public FillWithControls<CFillGradient, 2> {
     KESTO_DECLARE_FILL(CFillLinear)
 public:
     CFillLinear();

@@ -1,4 +1,4 @@
-#include "gdi/CFillNone.h"
+#include "kestotool/gdi/CFillNone.h"
 
 namespace KestoGDI {
 

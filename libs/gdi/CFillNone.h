@@ -1,11 +1,12 @@
 #pragma once
 
-#include "gdi/CFill.h"
+#include "kestotool/gdi/CFill.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoGDI {
 
 // No fill: the object is not painted. No control points.
-class CFillNone : public CFill {
+class KESTO_API CFillNone : public CFill {
     KESTO_DECLARE_FILL(CFillNone)
 public:
     FillType::Type GetFillType() const override { return FillType::None; }

@@ -1,6 +1,6 @@
-#include "gdi/CFillRadial.h"
+#include "kestotool/gdi/CFillRadial.h"
 
-#include "gdi/DefaultControls_p.h"
+#include "kestotool/gdi/DefaultControls_p.h"
 
 #include <algorithm>
 

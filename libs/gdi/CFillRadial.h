@@ -1,13 +1,14 @@
 #pragma once
 
-#include "gdi/CFillGradient.h"
-#include "gdi/FillWithControls.h"
+#include "kestotool/gdi/CFillGradient.h"
+#include "kestotool/gdi/FillWithControls.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoGDI {
 
 // A radial gradient: a circle given by its centre (position 0) and a point on its rim
 // (position 10000). Control points: 0 centre, 1 rim point.
-class CFillRadial : public FillWithControls<CFillGradient, 2> {
+class KESTO_API CFillRadial : public FillWithControls<CFillGradient, 2> {
     KESTO_DECLARE_FILL(CFillRadial)
 public:
     CFillRadial();

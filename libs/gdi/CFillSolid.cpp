@@ -1,6 +1,6 @@
-#include "gdi/CFillSolid.h"
+#include "kestotool/gdi/CFillSolid.h"
 
-#include "gdi/CRGBColour.h"
+#include "kestotool/gdi/CRGBColour.h"
 
 namespace KestoGDI {
 

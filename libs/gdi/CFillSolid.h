@@ -1,14 +1,15 @@
 #pragma once
 
-#include "gdi/CColour.h"
-#include "gdi/CFill.h"
+#include "kestotool/gdi/CColour.h"
+#include "kestotool/gdi/CFill.h"
+#include "kestotool/platform/Export.h"
 
 #include <memory>
 
 namespace KestoGDI {
 
 // One colour over the whole object. No control points.
-class CFillSolid : public CFill {
+class KESTO_API CFillSolid : public CFill {
     KESTO_DECLARE_FILL(CFillSolid)
 public:
     // Opaque black.

@@ -1,4 +1,4 @@
-#include "gdi/CFillSquare.h"
+#include "kestotool/gdi/CFillSquare.h"
 
 namespace KestoGDI {
 

@@ -1,6 +1,6 @@
-#include "gdi/CFillThreeColour.h"
+#include "kestotool/gdi/CFillThreeColour.h"
 
-#include "gdi/DefaultControls_p.h"
+#include "kestotool/gdi/DefaultControls_p.h"
 
 namespace KestoGDI {
 

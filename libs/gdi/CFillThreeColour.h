@@ -1,14 +1,15 @@
 #pragma once
 
-#include "gdi/CFillGradient.h"
-#include "gdi/FillWithControls.h"
+#include "kestotool/gdi/CFillGradient.h"
+#include "kestotool/gdi/FillWithControls.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoGDI {
 
 // Colour blended between three corner colours over a parallelogram. Control points: 0 the
 // origin corner P0, 1 and 2 the ends P1 and P2 of the two arms from it; the fourth corner is
 // P1 + P2 - P0. The stop list holds exactly three entries, the colours at P0, P1 and P2.
-class CFillThreeColour : public FillWithControls<CFillGradient, 3> {
+class KESTO_API CFillThreeColour : public FillWithControls<CFillGradient, 3> {
     KESTO_DECLARE_FILL(CFillThreeColour)
 public:
     CFillThreeColour();

@@ -1,8 +1,8 @@
-#include "gdi/CFillVector.h"
+#include "kestotool/gdi/CFillVector.h"
 
-#include "gdi/DefaultControls_p.h"
-#include "geometry/K2DStraightLine.h"
-#include "geometry/Rounding.h"
+#include "kestotool/gdi/DefaultControls_p.h"
+#include "kestotool/geometry/K2DStraightLine.h"
+#include "kestotool/geometry/Rounding.h"
 
 #include <cmath>
 #include <numbers>

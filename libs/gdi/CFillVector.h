@@ -1,8 +1,9 @@
 #pragma once
 
-#include "gdi/CFillBitmap.h"
-#include "gdi/VectorDrawing.h"
-#include "platform/CPoint.h"
+#include "kestotool/gdi/CFillBitmap.h"
+#include "kestotool/gdi/VectorDrawing.h"
+#include "kestotool/platform/CPoint.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoGDI {
 
@@ -33,7 +34,7 @@ namespace KestoGDI {
 // tiles. The x neighbour is turned by the second turn, the y neighbour by the first; the
 // painted grid repeats every second instance, so instance (i, j) is turned by the second turn
 // when i is odd plus the first when j is odd.
-class CFillVector : public CFillBitmap {
+class KESTO_API CFillVector : public CFillBitmap {
     KESTO_DECLARE_FILL(CFillVector)
 public:
     CFillVector() = default;

@@ -1,8 +1,8 @@
-#include "gdi/CFillWithStops.h"
+#include "kestotool/gdi/CFillWithStops.h"
 
-#include "gdi/CMonoColour.h"
-#include "gdi/CRGBColour.h"
-#include "geometry/Rounding.h"
+#include "kestotool/gdi/CMonoColour.h"
+#include "kestotool/gdi/CRGBColour.h"
+#include "kestotool/geometry/Rounding.h"
 
 namespace KestoGDI {
 

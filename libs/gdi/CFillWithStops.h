@@ -1,7 +1,8 @@
 #pragma once
 
-#include "gdi/CFill.h"
-#include "gdi/ColourIntPairs.h"
+#include "kestotool/gdi/CFill.h"
+#include "kestotool/gdi/ColourIntPairs.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoGDI {
 
@@ -12,7 +13,7 @@ namespace KestoGDI {
 // reads and replaces it in one way (cast to CFillWithStops), while a bitmap fill still is no
 // CFillGradient: kind tests that mean "a gradient" (the editor entry points, the two-colour
 // test) keep giving the right answer for it.
-class CFillWithStops : public CFill {
+class KESTO_API CFillWithStops : public CFill {
     KESTO_DECLARE_DYNAMIC(CFillWithStops)
 public:
     const ColourIntPairs& GetColourIntPairs() const { return m_stops; }

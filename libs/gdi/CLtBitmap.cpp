@@ -1,4 +1,4 @@
-#include "gdi/CLtBitmap.h"
+#include "kestotool/gdi/CLtBitmap.h"
 
 #include <algorithm>
 

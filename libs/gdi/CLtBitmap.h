@@ -1,6 +1,7 @@
 #pragma once
 
-#include "kernel/CRefCount.h"
+#include "kestotool/kernel/CRefCount.h"
+#include "kestotool/platform/Export.h"
 
 #include <cstdint>
 #include <vector>
@@ -9,7 +10,7 @@ namespace KestoGDI {
 
 // A 32-bit raster image, shared through its reference count: pixels are 0xAARRGGBB with
 // straight (not premultiplied) alpha, rows top to bottom, no padding between rows.
-class CLtBitmap : public Kernel::CRefCount {
+class KESTO_API CLtBitmap : public Kernel::CRefCount {
 public:
     // Larger sides are refused: the bitmap is then empty.
     static constexpr int MaxSide = 1 << 15;

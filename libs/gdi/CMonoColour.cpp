@@ -1,4 +1,4 @@
-#include "gdi/CMonoColour.h"
+#include "kestotool/gdi/CMonoColour.h"
 
 #include <algorithm>
 

@@ -1,12 +1,13 @@
 #pragma once
 
-#include "gdi/CColour.h"
+#include "kestotool/gdi/CColour.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoGDI {
 
 // A grey level 0 (black) .. 255 (white). Transparency stops are grey levels: the level is how
 // transparent the stop is, 0 opaque and 255 fully transparent.
-class CMonoColour : public CColour {
+class KESTO_API CMonoColour : public CColour {
 public:
     // The level is clamped to 0..255.
     explicit CMonoColour(int level = 0, short tint = 0);

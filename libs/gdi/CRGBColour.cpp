@@ -1,4 +1,4 @@
-#include "gdi/CRGBColour.h"
+#include "kestotool/gdi/CRGBColour.h"
 
 namespace KestoGDI {
 

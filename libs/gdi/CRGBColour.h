@@ -1,13 +1,14 @@
 #pragma once
 
-#include "gdi/CColour.h"
+#include "kestotool/gdi/CColour.h"
+#include "kestotool/platform/Export.h"
 
 #include <string>
 
 namespace KestoGDI {
 
 // A plain colour from an RGB value (0x00BBGGRR), optionally named as in a palette.
-class CRGBColour : public CColour {
+class KESTO_API CRGBColour : public CColour {
 public:
     explicit CRGBColour(unsigned long rgb = 0, const wchar_t* name = nullptr, short tint = 0, short alpha = 255);
 

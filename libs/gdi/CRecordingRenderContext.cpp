@@ -1,6 +1,6 @@
-#include "gdi/CRecordingRenderContext.h"
+#include "kestotool/gdi/CRecordingRenderContext.h"
 
-#include "gdi/RenderRecord_p.h"
+#include "kestotool/gdi/RenderRecord_p.h"
 
 namespace KestoGDI {
 

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "gdi/CRenderContext.h"
+#include "kestotool/gdi/CRenderContext.h"
+#include "kestotool/platform/Export.h"
 
 #include <string>
 #include <vector>
@@ -9,7 +10,7 @@ namespace KestoGDI {
 
 // A render context that draws nothing and logs every call, with the pen and brush selected at
 // the time, as one line of text.
-class CRecordingRenderContext : public CRenderContext {
+class KESTO_API CRecordingRenderContext : public CRenderContext {
 public:
     explicit CRecordingRenderContext(double pixelScale = 1.0) : m_scale(pixelScale) {}
 

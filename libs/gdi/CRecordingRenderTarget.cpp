@@ -1,6 +1,6 @@
-#include "gdi/CRecordingRenderTarget.h"
+#include "kestotool/gdi/CRecordingRenderTarget.h"
 
-#include "gdi/RenderRecord_p.h"
+#include "kestotool/gdi/RenderRecord_p.h"
 
 namespace KestoGDI {
 

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "gdi/IRenderTarget.h"
+#include "kestotool/gdi/IRenderTarget.h"
+#include "kestotool/platform/Export.h"
 
 #include <string>
 #include <vector>
@@ -9,7 +10,7 @@ namespace KestoGDI {
 
 // A render target that draws nothing and logs every call as one line of text, for tests and
 // for debugging what a tool draws.
-class CRecordingRenderTarget : public IRenderTarget {
+class KESTO_API CRecordingRenderTarget : public IRenderTarget {
 public:
     // pixelScale: target units per screen pixel.
     explicit CRecordingRenderTarget(double pixelScale = 1.0) : m_scale(pixelScale) {}

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "gdi/RenderBrush.h"
-#include "gdi/RenderPen.h"
-#include "geometry/K2DCurve.h"
+#include "kestotool/gdi/RenderBrush.h"
+#include "kestotool/gdi/RenderPen.h"
+#include "kestotool/geometry/K2DCurve.h"
+#include "kestotool/platform/Export.h"
 
 #include <optional>
 #include <utility>
@@ -12,7 +13,7 @@ namespace KestoGDI {
 // The older drawing path: rectangles and lines drawn with a selected pen and brush, which
 // CPenSession and CBrushSession select for a scope. No pen or no brush means that part is not
 // drawn.
-class CRenderContext {
+class KESTO_API CRenderContext {
 public:
     virtual ~CRenderContext() = default;
 
@@ -35,7 +36,7 @@ private:
 };
 
 // Selects a pen for its lifetime, then restores the previous one.
-class CPenSession {
+class KESTO_API CPenSession {
 public:
     CPenSession(CRenderContext& rc, const std::optional<RenderPen>& pen) : m_rc(rc), m_previous(rc.SelectPen(pen)) {}
     ~CPenSession() { m_rc.SelectPen(m_previous); }
@@ -48,7 +49,7 @@ private:
 };
 
 // Selects a brush for its lifetime, then restores the previous one.
-class CBrushSession {
+class KESTO_API CBrushSession {
 public:
     CBrushSession(CRenderContext& rc, const std::optional<RenderBrush>& brush)
         : m_rc(rc), m_previous(rc.SelectBrush(brush)) {}

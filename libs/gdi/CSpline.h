@@ -1,11 +1,13 @@
 #pragma once
 
+#include "kestotool/platform/Export.h"
+
 namespace KestoGDI {
 
 // The shape of the blend from one stop to the next: a one-dimensional cubic Bezier from 0 to 1
 // with two inner control values, each clamped to 0..1 so the blend never runs backwards.
 // Control values 1/3 and 2/3 give the straight (linear) blend.
-class CSpline {
+class KESTO_API CSpline {
 public:
     constexpr CSpline() = default;
     constexpr CSpline(double c1, double c2) : m_c1(Clamp(c1)), m_c2(Clamp(c2)) {}

@@ -1,6 +1,6 @@
-#include "gdi/CTransparency.h"
+#include "kestotool/gdi/CTransparency.h"
 
-#include "gdi/FillKinds.h"
+#include "kestotool/gdi/FillKinds.h"
 
 namespace KestoGDI {
 

@@ -1,13 +1,14 @@
 #pragma once
 
-#include "gdi/KestoGDIImports.h"
+#include "kestotool/gdi/KestoGDIImports.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoGDI {
 
 // Look-ups over the transparency classes. Transparencies derive from the fill kind they shape
 // (a linear transparency is a CFillLinear) and answer IsTransparency; this class has no
 // instances.
-class CTransparency {
+class KESTO_API CTransparency {
 public:
     CTransparency() = delete;
 

@@ -1,4 +1,4 @@
-#include "gdi/CTransparencyBitmap.h"
+#include "kestotool/gdi/CTransparencyBitmap.h"
 
 namespace KestoGDI {
 

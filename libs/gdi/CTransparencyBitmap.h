@@ -1,11 +1,12 @@
 #pragma once
 
-#include "gdi/CFillBitmap.h"
+#include "kestotool/gdi/CFillBitmap.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoGDI {
 
 // Transparency taken from a tiled bitmap's intensities.
-class CTransparencyBitmap : public CFillBitmap {
+class KESTO_API CTransparencyBitmap : public CFillBitmap {
     KESTO_DECLARE_FILL(CTransparencyBitmap)
 public:
     bool IsTransparency() const override { return true; }

@@ -1,4 +1,4 @@
-#include "gdi/CTransparencyConical.h"
+#include "kestotool/gdi/CTransparencyConical.h"
 
 namespace KestoGDI {
 

@@ -1,4 +1,4 @@
-#include "gdi/CTransparencyEllipse.h"
+#include "kestotool/gdi/CTransparencyEllipse.h"
 
 namespace KestoGDI {
 

@@ -1,11 +1,12 @@
 #pragma once
 
-#include "gdi/CFillEllipse.h"
+#include "kestotool/gdi/CFillEllipse.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoGDI {
 
 // Transparency graded out over an ellipse; its stops are grey levels, 0 opaque to 255 clear.
-class CTransparencyEllipse : public CFillEllipse {
+class KESTO_API CTransparencyEllipse : public CFillEllipse {
     KESTO_DECLARE_FILL(CTransparencyEllipse)
 public:
     CTransparencyEllipse();

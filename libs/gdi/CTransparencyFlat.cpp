@@ -1,6 +1,6 @@
-#include "gdi/CTransparencyFlat.h"
+#include "kestotool/gdi/CTransparencyFlat.h"
 
-#include "gdi/CMonoColour.h"
+#include "kestotool/gdi/CMonoColour.h"
 
 namespace KestoGDI {
 

@@ -1,12 +1,13 @@
 #pragma once
 
-#include "gdi/CFillSolid.h"
+#include "kestotool/gdi/CFillSolid.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoGDI {
 
 // One transparency level over the whole object: its colour is a grey level, 0 opaque to 255
 // clear.
-class CTransparencyFlat : public CFillSolid {
+class KESTO_API CTransparencyFlat : public CFillSolid {
     KESTO_DECLARE_FILL(CTransparencyFlat)
 public:
     // Half transparent (level 128).

@@ -1,4 +1,4 @@
-#include "gdi/CTransparencyFourPoint.h"
+#include "kestotool/gdi/CTransparencyFourPoint.h"
 
 namespace KestoGDI {
 

@@ -1,4 +1,4 @@
-#include "gdi/CTransparencyFractal.h"
+#include "kestotool/gdi/CTransparencyFractal.h"
 
 namespace KestoGDI {
 

@@ -1,11 +1,12 @@
 #pragma once
 
-#include "gdi/CFillFractal.h"
+#include "kestotool/gdi/CFillFractal.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoGDI {
 
 // Plasma transparency: fractal noise mapped through grey-level stops.
-class CTransparencyFractal : public CFillFractal {
+class KESTO_API CTransparencyFractal : public CFillFractal {
     KESTO_DECLARE_FILL(CTransparencyFractal)
 public:
     CTransparencyFractal();

@@ -1,4 +1,4 @@
-#include "gdi/CTransparencyLinear.h"
+#include "kestotool/gdi/CTransparencyLinear.h"
 
 namespace KestoGDI {
 

@@ -1,4 +1,4 @@
-#include "gdi/CTransparencyNone.h"
+#include "kestotool/gdi/CTransparencyNone.h"
 
 namespace KestoGDI {
 

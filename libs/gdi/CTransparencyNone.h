@@ -1,11 +1,12 @@
 #pragma once
 
-#include "gdi/CFillNone.h"
+#include "kestotool/gdi/CFillNone.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoGDI {
 
 // No transparency: the object is as opaque as its fill.
-class CTransparencyNone : public CFillNone {
+class KESTO_API CTransparencyNone : public CFillNone {
     KESTO_DECLARE_FILL(CTransparencyNone)
 public:
     bool IsTransparency() const override { return true; }

@@ -1,4 +1,4 @@
-#include "gdi/CTransparencyRadial.h"
+#include "kestotool/gdi/CTransparencyRadial.h"
 
 namespace KestoGDI {
 

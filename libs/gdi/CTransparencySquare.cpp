@@ -1,4 +1,4 @@
-#include "gdi/CTransparencySquare.h"
+#include "kestotool/gdi/CTransparencySquare.h"
 
 namespace KestoGDI {
 

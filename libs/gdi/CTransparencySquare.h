@@ -1,11 +1,12 @@
 #pragma once
 
-#include "gdi/CFillSquare.h"
+#include "kestotool/gdi/CFillSquare.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoGDI {
 
 // Transparency graded over nested parallelograms; its stops are grey levels.
-class CTransparencySquare : public CFillSquare {
+class KESTO_API CTransparencySquare : public CFillSquare {
     KESTO_DECLARE_FILL(CTransparencySquare)
 public:
     CTransparencySquare();

@@ -1,4 +1,4 @@
-#include "gdi/CTransparencyThreePoint.h"
+#include "kestotool/gdi/CTransparencyThreePoint.h"
 
 namespace KestoGDI {
 

@@ -1,11 +1,12 @@
 #pragma once
 
-#include "gdi/CFillThreeColour.h"
+#include "kestotool/gdi/CFillThreeColour.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoGDI {
 
 // Transparency blended between three corner levels (grey levels, 0 opaque to 255 clear).
-class CTransparencyThreePoint : public CFillThreeColour {
+class KESTO_API CTransparencyThreePoint : public CFillThreeColour {
     KESTO_DECLARE_FILL(CTransparencyThreePoint)
 public:
     CTransparencyThreePoint();

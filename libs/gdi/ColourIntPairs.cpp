@@ -1,4 +1,4 @@
-#include "gdi/ColourIntPairs.h"
+#include "kestotool/gdi/ColourIntPairs.h"
 
 #include <algorithm>
 

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "gdi/CColourIntPair.h"
+#include "kestotool/gdi/CColourIntPair.h"
+#include "kestotool/platform/Export.h"
 
 #include <cstddef>
 #include <memory>
@@ -13,7 +14,7 @@ namespace KestoGDI {
 // changes, so that handing a list from fill to fill (clones, commits) copies nothing. Positions
 // are hundredths of a percent, 0 at the start handle and 10000 at the end; editors keep the
 // list sorted.
-class ColourIntPairs {
+class KESTO_API ColourIntPairs {
 public:
     ColourIntPairs() = default;
 

@@ -2,7 +2,7 @@
 
 // How the shaped fills lay their control points over a rectangle by default. Internal to the
 // fill model; the rectangle is normalised first.
-#include "gdi/KestoGDIImports.h"
+#include "kestotool/gdi/KestoGDIImports.h"
 
 namespace KestoGDI::DefaultControls {
 

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "gdi/FillType.h"
-#include "gdi/KestoGDIImports.h"
+#include "kestotool/gdi/FillType.h"
+#include "kestotool/gdi/KestoGDIImports.h"
+#include "kestotool/platform/Export.h"
 
 #include <span>
 
@@ -22,7 +23,7 @@ struct FillKind {
 
 // The one table of fill kinds. Everything that lists kinds (run-time classes by type number,
 // type combos, names) reads it; everything that acts per kind is a FillVisitor.
-class FillKinds {
+class KESTO_API FillKinds {
 public:
     FillKinds() = delete;
 

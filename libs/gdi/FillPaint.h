@@ -1,7 +1,8 @@
 #pragma once
 
-#include "gdi/CFill.h"
-#include "raster/Paint.h"
+#include "kestotool/gdi/CFill.h"
+#include "kestotool/platform/Export.h"
+#include "kestotool/raster/Paint.h"
 
 #include <optional>
 
@@ -11,7 +12,7 @@ namespace KestoGDI {
 // control points (object space), its stops or corner colours as displayed (tint applied) with
 // their alpha, and for a transparency its grey levels. A host prepares the paint once per
 // committed fill (fills never change while shared) and renders it at each placement.
-class FillPaint {
+class KESTO_API FillPaint {
 public:
     FillPaint() = delete;
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "kestotool/platform/Export.h"
+
 #include <type_traits>
 
 namespace KestoGDI {
@@ -23,7 +25,7 @@ class CFillVector;
 // transparency arrives at Visit(CFillLinear)); ask IsTransparency where the difference matters.
 // Code that depends on the kind of a fill is a visitor or reads FillKinds, never an if-ladder.
 template <bool IsConst>
-class BasicFillVisitor {
+class KESTO_API BasicFillVisitor {
 protected:
     template <class T>
     using Ref = std::conditional_t<IsConst, const T&, T&>;

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "gdi/CFill.h"
-#include "geometry/CoordinateRange.h"
+#include "kestotool/gdi/CFill.h"
+#include "kestotool/geometry/CoordinateRange.h"
+#include "kestotool/platform/Export.h"
 
 #include <array>
 
@@ -10,7 +11,7 @@ namespace KestoGDI {
 // The storage of a kind's control points: N double points that CFill's generic control-point
 // operations see. A shaped fill class derives from FillWithControls<ItsBase, N>.
 template <class Base, std::size_t N>
-class FillWithControls : public Base {
+class KESTO_API FillWithControls : public Base {
 protected:
     using Base::Base;
 

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "gdi/RenderBrush.h"
-#include "gdi/RenderPen.h"
-#include "geometry/K2DCurve.h"
+#include "kestotool/gdi/RenderBrush.h"
+#include "kestotool/gdi/RenderPen.h"
+#include "kestotool/geometry/K2DCurve.h"
+#include "kestotool/platform/Export.h"
 
 #include <optional>
 
@@ -10,7 +11,7 @@ namespace KestoGDI {
 
 // The current drawing path: anti-aliased shapes in target units (the points arrive already
 // mapped into the target's space).
-class IRenderTarget {
+class KESTO_API IRenderTarget {
 public:
     virtual ~IRenderTarget() = default;
 

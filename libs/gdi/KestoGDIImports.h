@@ -1,13 +1,13 @@
 #pragma once
 
 // What the fill model takes from the layers below it, so that its code reads the names unqualified.
-#include "geometry/K2DArrayPoint.h"
-#include "geometry/K2DDblPoint.h"
-#include "geometry/K2DLtGeneral.h"
-#include "kernel/RefPtr.h"
-#include "platform/CObject.h"
-#include "platform/CRect.h"
-#include "platform/ColourRef.h"
+#include "kestotool/geometry/K2DArrayPoint.h"
+#include "kestotool/geometry/K2DDblPoint.h"
+#include "kestotool/geometry/K2DLtGeneral.h"
+#include "kestotool/kernel/RefPtr.h"
+#include "kestotool/platform/CObject.h"
+#include "kestotool/platform/CRect.h"
+#include "kestotool/platform/ColourRef.h"
 
 namespace KestoGDI {
 using Kernel::RefPtr;

@@ -1,7 +1,7 @@
-#include "gdi/PngFile.h"
+#include "kestotool/gdi/PngFile.h"
 
-#include "gdi/WadManager.h"
-#include "raster/Composite.h"
+#include "kestotool/gdi/WadManager.h"
+#include "kestotool/raster/Composite.h"
 
 #include <png.h>
 

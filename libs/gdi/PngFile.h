@@ -1,7 +1,8 @@
 #pragma once
 
-#include "gdi/CLtBitmap.h"
-#include "kernel/RefPtr.h"
+#include "kestotool/gdi/CLtBitmap.h"
+#include "kestotool/kernel/RefPtr.h"
+#include "kestotool/platform/Export.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -10,7 +11,7 @@
 namespace KestoGDI {
 
 // Reads and writes pictures as PNG files through libpng.
-class PngFile {
+class KESTO_API PngFile {
 public:
     PngFile() = delete;
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "gdi/KestoGDIImports.h"
+#include "kestotool/gdi/KestoGDIImports.h"
 
 namespace KestoGDI {
 

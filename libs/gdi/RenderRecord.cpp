@@ -1,4 +1,4 @@
-#include "gdi/RenderRecord_p.h"
+#include "kestotool/gdi/RenderRecord_p.h"
 
 #include <cstdio>
 

@@ -2,9 +2,9 @@
 
 // Text forms of drawing calls, shared by the two recording renderers so that their logs read
 // alike: "disc (10,20) r=9 fill=FFFFFF/192 pen=000000/255/1".
-#include "gdi/RenderBrush.h"
-#include "gdi/RenderPen.h"
-#include "geometry/K2DCurve.h"
+#include "kestotool/gdi/RenderBrush.h"
+#include "kestotool/gdi/RenderPen.h"
+#include "kestotool/geometry/K2DCurve.h"
 
 #include <optional>
 #include <string>

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "gdi/CFill.h"
-#include "gdi/CLtBitmap.h"
-#include "kernel/CRefCount.h"
-#include "kernel/RefPtr.h"
-#include "raster/Path.h"
+#include "kestotool/gdi/CFill.h"
+#include "kestotool/gdi/CLtBitmap.h"
+#include "kestotool/kernel/CRefCount.h"
+#include "kestotool/kernel/RefPtr.h"
+#include "kestotool/platform/Export.h"
+#include "kestotool/raster/Path.h"
 
 #include <map>
 #include <mutex>
@@ -18,7 +19,7 @@ namespace KestoGDI {
 // of this model (solid, or any kind the renderer paints, placed in the drawing's coordinates),
 // painted in order over a clear background. Its coordinates run from (0, 0) to (width, height),
 // y down. It is what a vector fill repeats; it never changes once built, so fills share it.
-class VectorDrawing : public Kernel::CRefCount {
+class KESTO_API VectorDrawing : public Kernel::CRefCount {
 public:
     struct Shape {
         KestoRaster::Path outline;

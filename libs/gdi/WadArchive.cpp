@@ -1,7 +1,7 @@
-#include "gdi/WadArchive.h"
+#include "kestotool/gdi/WadArchive.h"
 
-#include "gdi/WadManager.h"
-#include "platform/CString.h"
+#include "kestotool/gdi/WadManager.h"
+#include "kestotool/platform/CString.h"
 
 #include <zip.h>
 

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "gdi/CLtBitmap.h"
-#include "kernel/RefPtr.h"
+#include "kestotool/gdi/CLtBitmap.h"
+#include "kestotool/kernel/RefPtr.h"
+#include "kestotool/platform/Export.h"
 
 #include <cstddef>
 #include <memory>
@@ -13,7 +14,7 @@ namespace KestoGDI {
 // An image archive (a ZIP file of PNG images) opened once, from which any number of images are
 // read without opening the file again. A default or failed archive is closed and answers no
 // bitmap for every entry.
-class WadArchive {
+class KESTO_API WadArchive {
 public:
     WadArchive() = default;
     // The archive at path; closed when it is missing or not a ZIP file.

@@ -1,7 +1,7 @@
-#include "gdi/WadManager.h"
+#include "kestotool/gdi/WadManager.h"
 
-#include "gdi/WadArchive.h"
-#include "platform/CString.h"
+#include "kestotool/gdi/WadArchive.h"
+#include "kestotool/platform/CString.h"
 
 #include <png.h>
 

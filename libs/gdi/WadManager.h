@@ -1,7 +1,8 @@
 #pragma once
 
-#include "gdi/CLtBitmap.h"
-#include "kernel/RefPtr.h"
+#include "kestotool/gdi/CLtBitmap.h"
+#include "kestotool/kernel/RefPtr.h"
+#include "kestotool/platform/Export.h"
 
 #include <cstddef>
 #include <string>
@@ -11,7 +12,7 @@ namespace KestoGDI {
 // Reads images from an image archive: a ZIP file of PNG images. Entry names may be written with
 // backslashes ("Icons\96\Edit Fill.png"); they are matched with forward slashes, as ZIP stores
 // them. Anything missing, truncated, corrupt or absurdly large gives no bitmap.
-class WadManager {
+class KESTO_API WadManager {
 public:
     // The file extension of image archives.
     static constexpr const wchar_t* c_szWad = L".wad";

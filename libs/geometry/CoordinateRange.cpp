@@ -1,4 +1,4 @@
-#include "geometry/CoordinateRange.h"
+#include "kestotool/geometry/CoordinateRange.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "geometry/K2DDblPoint.h"
-#include "platform/CPoint.h"
+#include "kestotool/geometry/K2DDblPoint.h"
+#include "kestotool/platform/CPoint.h"
+#include "kestotool/platform/Export.h"
 
 namespace Kesto2D {
 
@@ -32,6 +33,6 @@ constexpr Platform::CPoint OffsetPoint(const Platform::CPoint& p, const Platform
     return OffsetPoint(p, static_cast<long long>(to.x) - from.x, static_cast<long long>(to.y) - from.y);
 }
 // A double point clamped into the range: infinities go to the limits, NaN to 0.
-K2DDblPoint SaturateToRange(const K2DDblPoint& p);
+KESTO_API K2DDblPoint SaturateToRange(const K2DDblPoint& p);
 
 } // namespace Kesto2D

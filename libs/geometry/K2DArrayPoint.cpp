@@ -1,7 +1,7 @@
-#include "geometry/K2DArrayPoint.h"
+#include "kestotool/geometry/K2DArrayPoint.h"
 
-#include "geometry/K2DDblPoint.h"
-#include "kernel/VerifyReporter.h"
+#include "kestotool/geometry/K2DDblPoint.h"
+#include "kestotool/kernel/VerifyReporter.h"
 
 #include <algorithm>
 #include <cmath>

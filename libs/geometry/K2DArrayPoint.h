@@ -1,13 +1,14 @@
 #pragma once
 
-#include "geometry/Kesto2DImports.h"
+#include "kestotool/geometry/Kesto2DImports.h"
+#include "kestotool/platform/Export.h"
 
 #include <vector>
 
 namespace Kesto2D {
 
 // A growable array of integer points: outlines, polylines and a tool's handle list.
-class K2DArrayPoint {
+class KESTO_API K2DArrayPoint {
 public:
     K2DArrayPoint() = default;
     // initialSize points at the origin; a negative size gives an empty array.

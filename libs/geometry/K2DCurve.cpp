@@ -1,6 +1,6 @@
-#include "geometry/K2DCurve.h"
+#include "kestotool/geometry/K2DCurve.h"
 
-#include "geometry/Rounding.h"
+#include "kestotool/geometry/Rounding.h"
 
 #include <algorithm>
 #include <cmath>

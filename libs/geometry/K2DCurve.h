@@ -1,8 +1,9 @@
 #pragma once
 
-#include "geometry/K2DDblPoint.h"
-#include "geometry/K2DLtGeneral.h"
-#include "geometry/KCAngle.h"
+#include "kestotool/geometry/K2DDblPoint.h"
+#include "kestotool/geometry/K2DLtGeneral.h"
+#include "kestotool/geometry/KCAngle.h"
+#include "kestotool/platform/Export.h"
 
 #include <vector>
 
@@ -14,7 +15,7 @@ namespace Kesto2D {
 // An arc is kept as centre + u cos t + w sin t for t over its sweep, so an affine transform maps
 // it exactly (the transform is applied to the centre and to u and w). For a plain circle of
 // radius r, u = (r, 0) and w = (0, -r): t runs anticlockwise on screen, as angles do everywhere.
-class K2DCurve {
+class KESTO_API K2DCurve {
 public:
     K2DCurve() = default;
 

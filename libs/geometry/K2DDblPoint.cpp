@@ -1,6 +1,6 @@
-#include "geometry/K2DDblPoint.h"
+#include "kestotool/geometry/K2DDblPoint.h"
 
-#include "geometry/Rounding.h"
+#include "kestotool/geometry/Rounding.h"
 
 namespace Kesto2D {
 

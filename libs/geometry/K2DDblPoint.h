@@ -1,13 +1,14 @@
 #pragma once
 
-#include "geometry/K2DVector.h"
-#include "geometry/Kesto2DImports.h"
+#include "kestotool/geometry/K2DVector.h"
+#include "kestotool/geometry/Kesto2DImports.h"
+#include "kestotool/platform/Export.h"
 
 namespace Kesto2D {
 
 // A point in double precision. Fills hold their control points this way; tools see them as
 // integer points through Round.
-class K2DDblPoint {
+class KESTO_API K2DDblPoint {
 public:
     double x = 0;
     double y = 0;

@@ -1,6 +1,6 @@
-#include "geometry/K2DGeometry.h"
+#include "kestotool/geometry/K2DGeometry.h"
 
-#include "geometry/Rounding.h"
+#include "kestotool/geometry/Rounding.h"
 
 namespace Kesto2D::K2DGeometry {
 

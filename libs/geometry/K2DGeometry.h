@@ -1,7 +1,7 @@
 #pragma once
 
-#include "geometry/K2DDblPoint.h"
-#include "geometry/KCAngle.h"
+#include "kestotool/geometry/K2DDblPoint.h"
+#include "kestotool/geometry/KCAngle.h"
 
 // Angle and distance measures between points.
 namespace Kesto2D::K2DGeometry {

@@ -1,7 +1,7 @@
-#include "geometry/K2DLtGeneral.h"
+#include "kestotool/geometry/K2DLtGeneral.h"
 
-#include "geometry/CoordinateRange.h"
-#include "kernel/VerifyReporter.h"
+#include "kestotool/geometry/CoordinateRange.h"
+#include "kestotool/kernel/VerifyReporter.h"
 
 #include <cmath>
 

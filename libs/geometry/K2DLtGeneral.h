@@ -1,10 +1,11 @@
 #pragma once
 
-#include "geometry/K2DDblPoint.h"
-#include "geometry/K2DLtRotate.h"
-#include "geometry/K2DLtScale.h"
-#include "geometry/K2DLtTranslate.h"
-#include "geometry/K2DVector.h"
+#include "kestotool/geometry/K2DDblPoint.h"
+#include "kestotool/geometry/K2DLtRotate.h"
+#include "kestotool/geometry/K2DLtScale.h"
+#include "kestotool/geometry/K2DLtTranslate.h"
+#include "kestotool/geometry/K2DVector.h"
+#include "kestotool/platform/Export.h"
 
 namespace Kesto2D {
 
@@ -16,7 +17,7 @@ namespace Kesto2D {
 // Composition order: t += step appends the step, so the steps apply in the order they were
 // added. "Move c to the origin, rotate, move back" is written exactly in that order, and is what
 // About(c, K2DLtRotate(a)) answers.
-class K2DLtGeneral {
+class KESTO_API K2DLtGeneral {
 public:
     K2DLtGeneral() = default;
     K2DLtGeneral(double m11, double m12, double m21, double m22, double dx, double dy)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "geometry/KCAngle.h"
+#include "kestotool/geometry/KCAngle.h"
 
 namespace Kesto2D {
 

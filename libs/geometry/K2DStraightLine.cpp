@@ -1,4 +1,4 @@
-#include "geometry/K2DStraightLine.h"
+#include "kestotool/geometry/K2DStraightLine.h"
 
 #include <algorithm>
 #include <cmath>

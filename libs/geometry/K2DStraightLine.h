@@ -1,6 +1,6 @@
 #pragma once
 
-#include "geometry/K2DDblPoint.h"
+#include "kestotool/geometry/K2DDblPoint.h"
 
 namespace Kesto2D {
 

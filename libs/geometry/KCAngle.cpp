@@ -1,6 +1,6 @@
-#include "geometry/KCAngle.h"
+#include "kestotool/geometry/KCAngle.h"
 
-#include "geometry/Rounding.h"
+#include "kestotool/geometry/Rounding.h"
 
 #include <cmath>
 #include <numbers>

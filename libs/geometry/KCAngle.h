@@ -1,5 +1,7 @@
 #pragma once
 
+#include "kestotool/platform/Export.h"
+
 namespace Kesto2D {
 
 // An angle in hundredths of a degree (9000 is a right angle, 36000 a full turn).
@@ -14,7 +16,7 @@ namespace Kesto2D {
 // which takes the +x direction (1, 0) onto (cos a, -sin a): 9000 turns +x onto -y, "up".
 // DirectionOf and Between measure angles in the same sense, so that rotating a point R by a
 // about C to P gives Between(P - C, R - C) = 36000 - a.
-class KCAngle {
+class KESTO_API KCAngle {
 public:
     static constexpr int FullCircle = 36000;
     static constexpr int HalfCircle = 18000;

@@ -1,9 +1,9 @@
 #pragma once
 
 // What the geometry library takes from the platform, so that its code reads the names unqualified.
-#include "platform/CPoint.h"
-#include "platform/CRect.h"
-#include "platform/CSize.h"
+#include "kestotool/platform/CPoint.h"
+#include "kestotool/platform/CRect.h"
+#include "kestotool/platform/CSize.h"
 
 namespace Kesto2D {
 using Platform::CPoint;

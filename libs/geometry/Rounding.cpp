@@ -1,4 +1,4 @@
-#include "geometry/Rounding.h"
+#include "kestotool/geometry/Rounding.h"
 
 #include <cmath>
 #include <cstdint>

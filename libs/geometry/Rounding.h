@@ -1,5 +1,7 @@
 #pragma once
 
+#include "kestotool/platform/Export.h"
+
 #include <cstdint>
 
 // The one set of rounding rules that every part of the system uses. Code never writes an ad-hoc
@@ -18,12 +20,12 @@ int RoundHalfUp(double x);
 int AddHalfAndTruncate(double x);
 
 // Halves go away from zero (-2.5 gives -3). The rule for turning double points into integer points.
-int RoundHalfAwayFromZero(double x);
+KESTO_API int RoundHalfAwayFromZero(double x);
 
 // number * numerator / denominator with a 64-bit product and the quotient rounded half away
 // from zero. As on the classic platform it answers -1 when the denominator is zero or the
 // result does not fit in an int.
-int MulDiv(int number, int numerator, int denominator);
+KESTO_API int MulDiv(int number, int numerator, int denominator);
 // The same rule on a wide number (within ±2^32, so that the product fits in 64 bits), for
 // positions between two points of the coordinate range; 0 for a zero denominator.
 std::int64_t MulDivWide(std::int64_t number, int numerator, int denominator);

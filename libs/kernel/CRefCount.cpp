@@ -1,6 +1,6 @@
-#include "kernel/CRefCount.h"
+#include "kestotool/kernel/CRefCount.h"
 
-#include "kernel/VerifyReporter.h"
+#include "kestotool/kernel/VerifyReporter.h"
 
 namespace Kernel {
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "kestotool/platform/Export.h"
+
 #include <cstddef>
 
 namespace Kernel {
@@ -8,7 +10,7 @@ namespace Kernel {
 // AddRef) takes it to one, and the Release that takes it back to zero deletes the object.
 // Copying an object gives the copy a fresh count of zero: counts belong to objects, not values.
 // The count is mutable so that constant objects can be shared too.
-class CRefCount {
+class KESTO_API CRefCount {
 public:
     virtual ~CRefCount() = default;
 

@@ -1,4 +1,4 @@
-#include "kernel/VerifyReporter.h"
+#include "kestotool/kernel/VerifyReporter.h"
 
 #include <cstdio>
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "kestotool/platform/Export.h"
+
 #include <functional>
 #include <string>
 
@@ -18,17 +20,17 @@ using VerifyHandler = std::function<void(const VerifyReport&)>;
 
 // Reports "Verify failed" for the given module, source file and line to the installed handler,
 // with a hint for whoever reads the log.
-void VerifyFailed(const char* module, const char* file, int line, const std::string& hint = {});
+KESTO_API void VerifyFailed(const char* module, const char* file, int line, const std::string& hint = {});
 
 // Installs a handler (an empty one restores the default) and answers the one it replaces.
 // The default writes one line to stderr: "module (file:line) Verify failed: hint".
-VerifyHandler SetVerifyHandler(VerifyHandler handler);
+KESTO_API VerifyHandler SetVerifyHandler(VerifyHandler handler);
 
 // The report as a host's assertion box shows it: "module (file:line)\nVerify failed".
-std::string FormatVerifyReport(const VerifyReport& report);
+KESTO_API std::string FormatVerifyReport(const VerifyReport& report);
 
 // Installs a handler for its lifetime, then puts the previous one back.
-class ScopedVerifyHandler {
+class KESTO_API ScopedVerifyHandler {
 public:
     explicit ScopedVerifyHandler(VerifyHandler handler) : m_previous(SetVerifyHandler(std::move(handler))) {}
     ~ScopedVerifyHandler() { SetVerifyHandler(std::move(m_previous)); }

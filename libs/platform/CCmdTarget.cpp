@@ -1,6 +1,6 @@
-#include "platform/CCmdTarget.h"
+#include "kestotool/platform/CCmdTarget.h"
 
-#include "platform/CCmdUI.h"
+#include "kestotool/platform/CCmdUI.h"
 
 namespace Platform {
 

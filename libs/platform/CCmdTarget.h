@@ -1,7 +1,8 @@
 #pragma once
 
-#include "platform/CObject.h"
-#include "platform/CXTPCommandBars.h"
+#include "kestotool/platform/CObject.h"
+#include "kestotool/platform/CXTPCommandBars.h"
+#include "kestotool/platform/Export.h"
 
 #include <span>
 #include <type_traits>
@@ -47,7 +48,7 @@ struct AFX_MSGMAP {
 
 // An object that receives commands through a table-driven message map, each class's map
 // chained to its base's. The derived class's rows are searched first.
-class CCmdTarget : public CObject {
+class KESTO_API CCmdTarget : public CObject {
     KESTO_DECLARE_DYNAMIC(CCmdTarget)
 public:
     // Dispatches a command (CN_COMMAND), an update request (CN_UPDATE_COMMAND_UI, extra is the

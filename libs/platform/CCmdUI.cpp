@@ -1,7 +1,7 @@
-#include "platform/CCmdUI.h"
+#include "kestotool/platform/CCmdUI.h"
 
-#include "platform/CCmdTarget.h"
-#include "platform/CXTPControl.h"
+#include "kestotool/platform/CCmdTarget.h"
+#include "kestotool/platform/CXTPControl.h"
 
 namespace Platform {
 

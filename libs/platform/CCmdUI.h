@@ -1,5 +1,7 @@
 #pragma once
 
+#include "kestotool/platform/Export.h"
+
 namespace Platform {
 
 class CCmdTarget;
@@ -7,7 +9,7 @@ class CXTPControl;
 
 // An update request for one command: handlers enable, check or reach the control behind it.
 // Without a control the state is only recorded, which is what headless hosts and tests read.
-class CCmdUI {
+class KESTO_API CCmdUI {
 public:
     explicit CCmdUI(int id, CXTPControl* control = nullptr) : m_nID(id), m_pControl(control) {}
     virtual ~CCmdUI() = default;

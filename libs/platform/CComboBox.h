@@ -1,12 +1,13 @@
 #pragma once
 
-#include "platform/CListItems.h"
-#include "platform/CWnd.h"
+#include "kestotool/platform/CListItems.h"
+#include "kestotool/platform/CWnd.h"
+#include "kestotool/platform/Export.h"
 
 namespace Platform {
 
 // A drop-down list window.
-class CComboBox : public CWnd, public CListItems {
+class KESTO_API CComboBox : public CWnd, public CListItems {
     KESTO_DECLARE_DYNAMIC(CComboBox)
 protected:
     WindowKind GetWindowKind() const override { return WindowKind::ComboBox; }

@@ -1,6 +1,6 @@
-#include "platform/CDataExchange.h"
+#include "kestotool/platform/CDataExchange.h"
 
-#include "platform/CWnd.h"
+#include "kestotool/platform/CWnd.h"
 
 #include <cerrno>
 #include <cwchar>

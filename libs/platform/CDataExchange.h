@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/CString.h"
+#include "kestotool/platform/CString.h"
 
 namespace Platform {
 

@@ -1,12 +1,12 @@
-#include "platform/CDialog.h"
+#include "kestotool/platform/CDialog.h"
 
-#include "platform/CButton.h"
-#include "platform/CComboBox.h"
-#include "platform/CEdit.h"
-#include "platform/CSliderCtrl.h"
-#include "platform/CSpinButtonCtrl.h"
-#include "platform/CStatic.h"
-#include "platform/WindowBackend.h"
+#include "kestotool/platform/CButton.h"
+#include "kestotool/platform/CComboBox.h"
+#include "kestotool/platform/CEdit.h"
+#include "kestotool/platform/CSliderCtrl.h"
+#include "kestotool/platform/CSpinButtonCtrl.h"
+#include "kestotool/platform/CStatic.h"
+#include "kestotool/platform/WindowBackend.h"
 
 namespace Platform {
 

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "platform/CDataExchange.h"
-#include "platform/CWnd.h"
-#include "platform/DialogTemplate.h"
+#include "kestotool/platform/CDataExchange.h"
+#include "kestotool/platform/CWnd.h"
+#include "kestotool/platform/DialogTemplate.h"
+#include "kestotool/platform/Export.h"
 
 namespace Platform {
 
@@ -10,7 +11,7 @@ namespace Platform {
 // dialog to the back end's modal run, which ends with EndDialog (OK and Cancel buttons end it
 // through OnOK and OnCancel). The controls are gone when DoModal returns; the dialog object and
 // what it kept remain.
-class CDialog : public CWnd {
+class KESTO_API CDialog : public CWnd {
     KESTO_DECLARE_DYNAMIC(CDialog)
 public:
     CDialog(const DialogTemplate* dialogTemplate, CWnd* parent);

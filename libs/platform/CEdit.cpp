@@ -1,4 +1,4 @@
-#include "platform/CEdit.h"
+#include "kestotool/platform/CEdit.h"
 
 #include <algorithm>
 

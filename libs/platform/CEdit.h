@@ -1,6 +1,7 @@
 #pragma once
 
-#include "platform/CWnd.h"
+#include "kestotool/platform/CWnd.h"
+#include "kestotool/platform/Export.h"
 
 namespace Platform {
 
@@ -9,7 +10,7 @@ namespace Platform {
 // removes), or a whole new text that the widget already shows (SetTextFromUser). Either way
 // OnUserEdit runs and the parent hears EN_CHANGE when the text changed; it hears EN_KILLFOCUS
 // when the box loses the focus.
-class CEdit : public CWnd {
+class KESTO_API CEdit : public CWnd {
     KESTO_DECLARE_DYNAMIC(CEdit)
 public:
     // 0 for no limit.

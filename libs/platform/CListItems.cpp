@@ -1,4 +1,4 @@
-#include "platform/CListItems.h"
+#include "kestotool/platform/CListItems.h"
 
 namespace Platform {
 

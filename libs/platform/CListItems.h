@@ -1,6 +1,7 @@
 #pragma once
 
-#include "platform/CString.h"
+#include "kestotool/platform/CString.h"
+#include "kestotool/platform/Export.h"
 
 #include <cstdint>
 #include <vector>
@@ -9,7 +10,7 @@ namespace Platform {
 
 // The items of a drop-down list: a text and a data value each, and one current selection
 // (-1 for none). Shared by the window combo box and the command-bar combo.
-class CListItems {
+class KESTO_API CListItems {
 public:
     virtual ~CListItems() = default;
     int GetCount() const { return static_cast<int>(m_items.size()); }

@@ -1,4 +1,4 @@
-#include "platform/CObject.h"
+#include "kestotool/platform/CObject.h"
 
 namespace Platform {
 

@@ -1,11 +1,12 @@
 #pragma once
 
-#include "platform/CRuntimeClass.h"
+#include "kestotool/platform/CRuntimeClass.h"
+#include "kestotool/platform/Export.h"
 
 namespace Platform {
 
 // Root of the classes that carry a run-time class record.
-class CObject {
+class KESTO_API CObject {
 public:
     virtual ~CObject() = default;
 

@@ -1,11 +1,12 @@
 #pragma once
 
-#include "platform/CSize.h"
+#include "kestotool/platform/CSize.h"
+#include "kestotool/platform/Export.h"
 
 namespace Platform {
 
 // An integer point in document (paper) units or in client pixels.
-class CPoint {
+class KESTO_API CPoint {
 public:
     int x = 0;
     int y = 0;

@@ -1,4 +1,4 @@
-#include "platform/CRect.h"
+#include "kestotool/platform/CRect.h"
 
 #include <algorithm>
 #include <utility>

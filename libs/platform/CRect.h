@@ -1,6 +1,7 @@
 #pragma once
 
-#include "platform/CPoint.h"
+#include "kestotool/platform/CPoint.h"
+#include "kestotool/platform/Export.h"
 
 #include <limits>
 
@@ -9,7 +10,7 @@ namespace Platform {
 // An integer rectangle with the classic semantics: it contains its left and top edges but not
 // its right and bottom ones, its width and height are signed (an inverted rectangle has negative
 // ones) and it is empty when either is not positive.
-class CRect {
+class KESTO_API CRect {
 public:
     int left = 0;
     int top = 0;

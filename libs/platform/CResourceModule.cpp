@@ -1,4 +1,4 @@
-#include "platform/CResourceModule.h"
+#include "kestotool/platform/CResourceModule.h"
 
 #include <algorithm>
 #include <vector>

@@ -1,13 +1,14 @@
 #pragma once
 
-#include "platform/CString.h"
-#include "platform/DialogTemplate.h"
+#include "kestotool/platform/CString.h"
+#include "kestotool/platform/DialogTemplate.h"
+#include "kestotool/platform/Export.h"
 
 namespace Platform {
 
 // A module that holds resources (strings and dialog templates), registered in the process-wide chain that
 // hosts search, as extension modules are on the classic platform.
-class CResourceModule {
+class KESTO_API CResourceModule {
 public:
     virtual ~CResourceModule() = default;
     virtual const char* GetName() const = 0;

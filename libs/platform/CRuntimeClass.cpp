@@ -1,4 +1,4 @@
-#include "platform/CRuntimeClass.h"
+#include "kestotool/platform/CRuntimeClass.h"
 
 namespace Platform {
 

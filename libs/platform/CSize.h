@@ -1,5 +1,7 @@
 #pragma once
 
+#include "kestotool/platform/Export.h"
+
 namespace Platform {
 
 // The plain record that interfaces take by reference (for example a size to convert in place).
@@ -8,7 +10,7 @@ struct SIZE {
     int cy = 0;
 };
 
-class CSize : public SIZE {
+class KESTO_API CSize : public SIZE {
 public:
     constexpr CSize() = default;
     constexpr CSize(int x, int y) : SIZE{x, y} {}

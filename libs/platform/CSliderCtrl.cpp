@@ -1,4 +1,4 @@
-#include "platform/CSliderCtrl.h"
+#include "kestotool/platform/CSliderCtrl.h"
 
 #include <algorithm>
 

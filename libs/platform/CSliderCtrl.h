@@ -1,11 +1,12 @@
 #pragma once
 
-#include "platform/CWnd.h"
+#include "kestotool/platform/CWnd.h"
+#include "kestotool/platform/Export.h"
 
 namespace Platform {
 
 // A slider over a range of integers; moving it sends the parent horizontal scroll messages.
-class CSliderCtrl : public CWnd {
+class KESTO_API CSliderCtrl : public CWnd {
     KESTO_DECLARE_DYNAMIC(CSliderCtrl)
 public:
     void SetRange(int minimum, int maximum, bool redraw = false);

@@ -1,4 +1,4 @@
-#include "platform/CSpinButtonCtrl.h"
+#include "kestotool/platform/CSpinButtonCtrl.h"
 
 #include <algorithm>
 #include <cwchar>

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "platform/CWnd.h"
+#include "kestotool/platform/CWnd.h"
+#include "kestotool/platform/Export.h"
 
 namespace Platform {
 
@@ -9,7 +10,7 @@ namespace Platform {
 // and sends the parent a vertical scroll (SB_THUMBPOSITION, then SB_ENDSCROLL). When a scroll
 // target is set instead, a click only sends that window SB_LINEUP or SB_LINEDOWN, then
 // SB_ENDSCROLL, and leaves the value to it.
-class CSpinButtonCtrl : public CWnd {
+class KESTO_API CSpinButtonCtrl : public CWnd {
     KESTO_DECLARE_DYNAMIC(CSpinButtonCtrl)
 public:
     void SetRange32(int lower, int upper);

@@ -1,11 +1,12 @@
 #pragma once
 
-#include "platform/CWnd.h"
+#include "kestotool/platform/CWnd.h"
+#include "kestotool/platform/Export.h"
 
 namespace Platform {
 
 // A text label of a dialog: it shows its window text and takes no input.
-class CStatic : public CWnd {
+class KESTO_API CStatic : public CWnd {
     KESTO_DECLARE_DYNAMIC(CStatic)
 protected:
     WindowKind GetWindowKind() const override { return WindowKind::Static; }

@@ -1,12 +1,14 @@
 #pragma once
 
+#include "kestotool/platform/Export.h"
+
 #include <string>
 #include <string_view>
 
 namespace Platform {
 
 // A wide string with the few framework operations the library uses.
-class CString {
+class KESTO_API CString {
 public:
     CString() = default;
     CString(const wchar_t* text) : m_text(text ? text : L"") {}

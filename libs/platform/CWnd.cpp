@@ -1,6 +1,6 @@
-#include "platform/CWnd.h"
+#include "kestotool/platform/CWnd.h"
 
-#include "platform/WindowBackend.h"
+#include "kestotool/platform/WindowBackend.h"
 
 #include <algorithm>
 

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "platform/CCmdTarget.h"
-#include "platform/CRect.h"
-#include "platform/CString.h"
-#include "platform/WindowPeer.h"
-#include "platform/WindowTypes.h"
+#include "kestotool/platform/CCmdTarget.h"
+#include "kestotool/platform/CRect.h"
+#include "kestotool/platform/CString.h"
+#include "kestotool/platform/Export.h"
+#include "kestotool/platform/WindowPeer.h"
+#include "kestotool/platform/WindowTypes.h"
 
 #include <memory>
 #include <vector>
@@ -15,7 +16,7 @@ namespace Platform {
 // and visible state, a rectangle in its parent's client coordinates, timers and the keyboard
 // focus. The state lives here; the window's peer, made by the back end, shows it (the headless
 // one only counts changes) and feeds user input back through the On... handlers.
-class CWnd : public CCmdTarget {
+class KESTO_API CWnd : public CCmdTarget {
     KESTO_DECLARE_DYNAMIC(CWnd)
 public:
     CWnd() = default;

@@ -1,7 +1,7 @@
-#include "platform/CXTPCommandBars.h"
+#include "kestotool/platform/CXTPCommandBars.h"
 
-#include "platform/CXTPControlComboBox.h"
-#include "platform/CXTPControlPopupColor.h"
+#include "kestotool/platform/CXTPControlComboBox.h"
+#include "kestotool/platform/CXTPControlPopupColor.h"
 
 namespace Platform {
 

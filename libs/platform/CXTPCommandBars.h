@@ -1,7 +1,8 @@
 #pragma once
 
-#include "platform/CXTPControl.h"
-#include "platform/CXTPImageManager.h"
+#include "kestotool/platform/CXTPControl.h"
+#include "kestotool/platform/CXTPImageManager.h"
+#include "kestotool/platform/Export.h"
 
 #include <functional>
 #include <memory>
@@ -40,7 +41,7 @@ struct NMXTPCONTROL {
 };
 
 // The context command bar of a host: its controls in order, and its image manager.
-class CXTPCommandBars {
+class KESTO_API CXTPCommandBars {
 public:
     CXTPImageManager* GetImageManager() { return &m_images; }
 

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "platform/CRect.h"
-#include "platform/CString.h"
+#include "kestotool/platform/CRect.h"
+#include "kestotool/platform/CString.h"
+#include "kestotool/platform/Export.h"
 
 #include <cstdint>
 
@@ -27,7 +28,7 @@ enum class XTPButtonStyle {
 };
 
 // One item of a command bar as a plain object: the host maps it onto a real toolbar control.
-class CXTPControl {
+class KESTO_API CXTPControl {
 public:
     CXTPControl(XTPControlType type, int id) : m_type(type), m_id(id) {}
     virtual ~CXTPControl() = default;
@@ -67,25 +68,25 @@ private:
     bool m_checked = false;
 };
 
-class CXTPControlButton : public CXTPControl {
+class KESTO_API CXTPControlButton : public CXTPControl {
 public:
     explicit CXTPControlButton(int id = 0) : CXTPControl(XTPControlType::Button, id) {}
 };
 
 // A button that opens a drop-down.
-class CXTPControlPopup : public CXTPControl {
+class KESTO_API CXTPControlPopup : public CXTPControl {
 public:
     explicit CXTPControlPopup(int id = 0, XTPControlType type = XTPControlType::Popup) : CXTPControl(type, id) {}
 };
 
 // A button with a drop-down beside it.
-class CXTPControlSplitButtonPopup : public CXTPControlPopup {
+class KESTO_API CXTPControlSplitButtonPopup : public CXTPControlPopup {
 public:
     explicit CXTPControlSplitButtonPopup(int id = 0) : CXTPControlPopup(id, XTPControlType::SplitButtonPopup) {}
 };
 
 // An edit box that shows a number with a unit (a percentage).
-class CXTPControlEdit : public CXTPControl {
+class KESTO_API CXTPControlEdit : public CXTPControl {
 public:
     explicit CXTPControlEdit(int id = 0) : CXTPControl(XTPControlType::Edit, id) {}
     double GetValue() const { return m_value; }

@@ -1,12 +1,13 @@
 #pragma once
 
-#include "platform/CListItems.h"
-#include "platform/CXTPControl.h"
+#include "kestotool/platform/CListItems.h"
+#include "kestotool/platform/CXTPControl.h"
+#include "kestotool/platform/Export.h"
 
 namespace Platform {
 
 // A drop-down list on a command bar.
-class CXTPControlComboBox : public CXTPControl, public CListItems {
+class KESTO_API CXTPControlComboBox : public CXTPControl, public CListItems {
 public:
     explicit CXTPControlComboBox(int id = 0) : CXTPControl(XTPControlType::ComboBox, id) {}
 

@@ -1,12 +1,13 @@
 #pragma once
 
-#include "platform/CXTPControl.h"
-#include "platform/ColourRef.h"
+#include "kestotool/platform/CXTPControl.h"
+#include "kestotool/platform/ColourRef.h"
+#include "kestotool/platform/Export.h"
 
 namespace Platform {
 
 // A button that shows and picks a colour.
-class CXTPControlPopupColor : public CXTPControlPopup {
+class KESTO_API CXTPControlPopupColor : public CXTPControlPopup {
 public:
     explicit CXTPControlPopupColor(int id = 0) : CXTPControlPopup(id, XTPControlType::PopupColor) {}
 

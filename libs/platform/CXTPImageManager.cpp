@@ -1,4 +1,4 @@
-#include "platform/CXTPImageManager.h"
+#include "kestotool/platform/CXTPImageManager.h"
 
 #include <algorithm>
 #include <tuple>

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "platform/CSize.h"
+#include "kestotool/platform/CSize.h"
+#include "kestotool/platform/Export.h"
 
 #include <cstdint>
 #include <map>
@@ -25,7 +26,7 @@ enum class XTPImageState {
 };
 
 // The images of a command bar's commands, kept per command ID, icon size and state.
-class CXTPImageManager {
+class KESTO_API CXTPImageManager {
 public:
     // The icon side that suits a screen: 16 pixels at 96 dots per inch, in proportion above
     // (20 at 120, 24 at 144, 32 at 192); never below 16.

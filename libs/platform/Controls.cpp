@@ -1,7 +1,7 @@
 // Run-time classes of the controls whose behaviour is all in their headers.
-#include "platform/CButton.h"
-#include "platform/CComboBox.h"
-#include "platform/CStatic.h"
+#include "kestotool/platform/CButton.h"
+#include "kestotool/platform/CComboBox.h"
+#include "kestotool/platform/CStatic.h"
 
 namespace Platform {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/CRect.h"
+#include "kestotool/platform/CRect.h"
 
 #include <string>
 #include <vector>

@@ -1,10 +1,10 @@
-#include "platform/HeadlessBackend.h"
+#include "kestotool/platform/HeadlessBackend.h"
 
-#include "platform/CButton.h"
-#include "platform/CDialog.h"
-#include "platform/CEdit.h"
-#include "platform/CSliderCtrl.h"
-#include "platform/CSpinButtonCtrl.h"
+#include "kestotool/platform/CButton.h"
+#include "kestotool/platform/CDialog.h"
+#include "kestotool/platform/CEdit.h"
+#include "kestotool/platform/CSliderCtrl.h"
+#include "kestotool/platform/CSpinButtonCtrl.h"
 
 namespace Platform {
 

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "platform/ManualClock.h"
-#include "platform/WindowBackend.h"
+#include "kestotool/platform/Export.h"
+#include "kestotool/platform/ManualClock.h"
+#include "kestotool/platform/WindowBackend.h"
 
 #include <functional>
 
@@ -14,7 +15,7 @@ class CString;
 // The back end without a display: window state stays in the window tree, time is a fake clock
 // that only moves when told, and a modal run plays a script. Tests and command-line tools drive
 // dialogs through it as a user would, deterministically.
-class HeadlessBackend : public WindowBackend {
+class KESTO_API HeadlessBackend : public WindowBackend {
 public:
     using ModalScript = std::function<void(CDialog&)>;
 
@@ -61,6 +62,6 @@ private:
 };
 
 // The headless back end that is installed by default.
-HeadlessBackend& Headless();
+KESTO_API HeadlessBackend& Headless();
 
 } // namespace Platform

@@ -1,6 +1,6 @@
-#include "platform/ManualClock.h"
+#include "kestotool/platform/ManualClock.h"
 
-#include "platform/CWnd.h"
+#include "kestotool/platform/CWnd.h"
 
 #include <algorithm>
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "kestotool/platform/Export.h"
+
 #include <vector>
 
 namespace Platform {
@@ -8,7 +10,7 @@ class CWnd;
 
 // Window timers on a clock that only moves when told: the headless back end's time, and any
 // back end's time in a test or a scripted session that must not depend on the wall clock.
-class ManualClock {
+class KESTO_API ManualClock {
 public:
     long long Now() const { return m_now; }
     // Starts (or restarts) the window's timer id; it falls due every period, at least 1 ms.

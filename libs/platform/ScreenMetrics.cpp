@@ -1,4 +1,4 @@
-#include "platform/ScreenMetrics.h"
+#include "kestotool/platform/ScreenMetrics.h"
 
 namespace Platform::ScreenMetrics {
 namespace {

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "platform/WindowPeer.h"
+#include "kestotool/platform/Export.h"
+#include "kestotool/platform/WindowPeer.h"
 
 #include <memory>
 
@@ -11,7 +12,7 @@ class CDialog;
 // What a window system supplies to the window tree: a peer per window that shows it, a clock
 // and timers, the keyboard focus and modal runs. The headless back end is installed until
 // another one is.
-class WindowBackend {
+class KESTO_API WindowBackend {
 public:
     virtual ~WindowBackend() = default;
 
@@ -32,8 +33,8 @@ public:
 };
 
 // The installed back end.
-WindowBackend& Backend();
+KESTO_API WindowBackend& Backend();
 // Installs a back end (null reinstalls the headless one) and answers the previous one.
-WindowBackend* SetBackend(WindowBackend* backend);
+KESTO_API WindowBackend* SetBackend(WindowBackend* backend);
 
 } // namespace Platform

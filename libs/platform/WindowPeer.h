@@ -1,5 +1,7 @@
 #pragma once
 
+#include "kestotool/platform/Export.h"
+
 namespace Platform {
 
 class CWnd;
@@ -10,7 +12,7 @@ enum class WindowKind { Window, Dialog, Edit, Slider, Spin, ComboBox, Button, St
 // A back end's half of one window: it shows the window's state (the window tree keeps it) and
 // feeds the user's input back to the window through its handlers and its edit path
 // (CEdit::SetTextFromUser). Made by WindowBackend::CreatePeer when the window is created.
-class WindowPeer {
+class KESTO_API WindowPeer {
 public:
     explicit WindowPeer(CWnd& window) : m_window(&window) {}
     virtual ~WindowPeer() = default;

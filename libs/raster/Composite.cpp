@@ -1,4 +1,4 @@
-#include "raster/Composite.h"
+#include "kestotool/raster/Composite.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
-#include "raster/Isa.h"
+#include "kestotool/raster/Isa.h"
 
-#include "raster/Kernels_p.h"
+#include "kestotool/raster/Kernels_p.h"
 
 #include <cstdlib>
 #include <cstring>

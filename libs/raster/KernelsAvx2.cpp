@@ -1,7 +1,7 @@
 // The row kernels built for this translation unit's instruction set (see Kernels_p.h).
-#include "raster/Kernels_p.h"
+#include "kestotool/raster/Kernels_p.h"
 
-#include "raster/KernelsImpl.inc"
+#include "kestotool/raster/KernelsImpl.inc"
 
 namespace KestoRaster::Kernels {
 

@@ -3,7 +3,7 @@
 // The per-ISA row kernels. Each kernel translation unit compiles KernelsImpl.inc with its own
 // instruction-set flags inside a namespace of its own; nothing else is shared with it, so no
 // inline function compiled for a wider instruction set can stand in for another unit's copy.
-#include "raster/Isa.h"
+#include "kestotool/raster/Isa.h"
 
 #include <cstdint>
 

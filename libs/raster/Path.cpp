@@ -1,4 +1,4 @@
-#include "raster/Path.h"
+#include "kestotool/raster/Path.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "raster/Paint.h"
+#include "kestotool/platform/Export.h"
+#include "kestotool/raster/Paint.h"
 
 #include <vector>
 
@@ -9,7 +10,7 @@ namespace KestoRaster {
 // An outline of straight and cubic Bezier pieces in paint space: the shapes of a small drawing
 // that a vector fill repeats. Each piece started by MoveTo is closed when it is filled; a path
 // that does not begin with MoveTo begins at the first point given.
-class Path {
+class KESTO_API Path {
 public:
     enum class Verb { Move, Line, Cubic, Close };
 
@@ -45,6 +46,6 @@ private:
 // rule, so edges are anti-aliased without sampling. Pieces that wind the same way over a pixel
 // add up and clamp at full; pieces winding against each other cancel. Nothing outside the clip
 // is written.
-void RenderCoverage(const Path& path, const Affine& toDevice, const Target& mask, const Clip& clip);
+KESTO_API void RenderCoverage(const Path& path, const Affine& toDevice, const Target& mask, const Clip& clip);
 
 } // namespace KestoRaster

@@ -1,6 +1,6 @@
-#include "raster/PreparedPaint.h"
+#include "kestotool/raster/PreparedPaint.h"
 
-#include "raster/Kernels_p.h"
+#include "kestotool/raster/Kernels_p.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "raster/Paint.h"
-#include "raster/Shading_p.h"
+#include "kestotool/platform/Export.h"
+#include "kestotool/raster/Paint.h"
+#include "kestotool/raster/Shading_p.h"
 
 #include <memory>
 #include <vector>
@@ -12,7 +13,7 @@ namespace KestoRaster {
 // geometry and, for the ramp kinds, a colour table. Immutable and cheap to copy; the colour
 // table is shared, so preparing the same paint at a new placement (a drag moving geometry)
 // reuses it through Prepare's previous argument.
-class PreparedPaint {
+class KESTO_API PreparedPaint {
 public:
     // Ramp kinds keep this many samples of their ramp, 0 .. 10000 evenly.
     static constexpr int TableSize = 256;
@@ -54,10 +55,10 @@ private:
 // Paints every pixel of the clip (inside the target) with the prepared paint, sampling pixel
 // centres, replacing what was there. Ramp kinds read their table; the others are computed
 // per pixel.
-void Render(const PreparedPaint& paint, const Target& target, const Clip& clip);
+KESTO_API void Render(const PreparedPaint& paint, const Target& target, const Clip& clip);
 
 // The same by the definition, in double precision and without tables: the reference that
 // Render is tested against.
-void RenderReference(const Paint& paint, const Affine& paintToDevice, const Target& target, const Clip& clip);
+KESTO_API void RenderReference(const Paint& paint, const Affine& paintToDevice, const Target& target, const Clip& clip);
 
 } // namespace KestoRaster

@@ -1,4 +1,4 @@
-#include "raster/Shading_p.h"
+#include "kestotool/raster/Shading_p.h"
 
 #include <algorithm>
 #include <cmath>

@@ -2,7 +2,7 @@
 
 // What the reference renderer and the kernels share: where a paint-space point lies on a
 // kind's ramp, the ramp's colour there, the corner kinds' colours, and the output rules.
-#include "raster/Paint.h"
+#include "kestotool/raster/Paint.h"
 
 #include <array>
 #include <vector>

@@ -1,4 +1,4 @@
-#include "ui/FillPreview.h"
+#include "kestotool/ui/FillPreview.h"
 
 namespace KestoUI {
 

@@ -1,13 +1,14 @@
 #pragma once
 
-#include "gdi/CFill.h"
-#include "platform/CWnd.h"
+#include "kestotool/gdi/CFill.h"
+#include "kestotool/platform/CWnd.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoUI {
 
 // A window that shows a fill over a rectangle of document units. It keeps its own copy of the
 // fill; each change counts as one refresh of the picture.
-class FillPreview : public Platform::CWnd {
+class KESTO_API FillPreview : public Platform::CWnd {
 public:
     void SetBounds(const Platform::CRect& bounds);
     const Platform::CRect& GetBounds() const { return m_bounds; }

@@ -1,6 +1,6 @@
-#include "ui/KCResourceDialog.h"
+#include "kestotool/ui/KCResourceDialog.h"
 
-#include "platform/CResourceModule.h"
+#include "kestotool/platform/CResourceModule.h"
 
 namespace KestoUI {
 

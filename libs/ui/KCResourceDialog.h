@@ -1,12 +1,13 @@
 #pragma once
 
-#include "platform/CDialog.h"
+#include "kestotool/platform/CDialog.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoUI {
 
 // A dialog whose template comes from the resource modules by id (the library's localised
 // module first). A template no module has leaves the dialog unable to run: DoModal answers -1.
-class KCResourceDialog : public Platform::CDialog {
+class KESTO_API KCResourceDialog : public Platform::CDialog {
 public:
     KCResourceDialog(int templateId, Platform::CWnd* parent);
     int GetTemplateId() const { return m_templateId; }

@@ -1,6 +1,6 @@
-#include "ui/KUISpinButtonBuddy.h"
+#include "kestotool/ui/KUISpinButtonBuddy.h"
 
-#include "platform/CSpinButtonCtrl.h"
+#include "kestotool/platform/CSpinButtonCtrl.h"
 
 namespace KestoUI {
 

@@ -1,7 +1,7 @@
-#include "dialogs/SolidTransparencyDlg.h"
+#include "kestotool/dialogs/SolidTransparencyDlg.h"
 
-#include "gdi/CMonoColour.h"
-#include "resources/ResourceIds.h"
+#include "kestotool/gdi/CMonoColour.h"
+#include "kestotool/resources/ResourceIds.h"
 #include "support/UserInput.h"
 
 #include <gtest/gtest.h>

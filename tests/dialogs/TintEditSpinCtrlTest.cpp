@@ -1,8 +1,8 @@
-#include "dialogs/TintEditSpinCtrl.h"
+#include "kestotool/dialogs/TintEditSpinCtrl.h"
 
-#include "kernel/VerifyReporter.h"
-#include "platform/CDialog.h"
-#include "platform/CSpinButtonCtrl.h"
+#include "kestotool/kernel/VerifyReporter.h"
+#include "kestotool/platform/CDialog.h"
+#include "kestotool/platform/CSpinButtonCtrl.h"
 #include "support/UserInput.h"
 
 #include <gtest/gtest.h>

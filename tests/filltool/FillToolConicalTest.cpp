@@ -1,12 +1,12 @@
-#include "filltool/FillToolConical.h"
+#include "kestotool/filltool/FillToolConical.h"
 
-#include "gdi/CFillConical.h"
-#include "gdi/CFillLinear.h"
-#include "gdi/CRGBColour.h"
-#include "gdi/CTransparencyConical.h"
-#include "kernel/VerifyReporter.h"
+#include "kestotool/gdi/CFillConical.h"
+#include "kestotool/gdi/CFillLinear.h"
+#include "kestotool/gdi/CRGBColour.h"
+#include "kestotool/gdi/CTransparencyConical.h"
+#include "kestotool/kernel/VerifyReporter.h"
 #include "support/TestToolSite.h"
-#include "tool/Module.h"
+#include "kestotool/tool/Module.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,11 @@
-#include "filltool/FillToolFourColour.h"
-#include "filltool/FillToolThreeColour.h"
+#include "kestotool/filltool/FillToolFourColour.h"
+#include "kestotool/filltool/FillToolThreeColour.h"
 
-#include "gdi/CFillFourColour.h"
-#include "gdi/CFillThreeColour.h"
-#include "gdi/CRGBColour.h"
-#include "gdi/CRecordingRenderTarget.h"
-#include "kernel/VerifyReporter.h"
+#include "kestotool/gdi/CFillFourColour.h"
+#include "kestotool/gdi/CFillThreeColour.h"
+#include "kestotool/gdi/CRGBColour.h"
+#include "kestotool/gdi/CRecordingRenderTarget.h"
+#include "kestotool/kernel/VerifyReporter.h"
 #include "support/TestToolSite.h"
 
 #include <gtest/gtest.h>

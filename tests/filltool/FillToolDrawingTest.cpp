@@ -1,9 +1,9 @@
-#include "filltool/FillTool.h"
+#include "kestotool/filltool/FillTool.h"
 
-#include "gdi/CFillLinear.h"
-#include "gdi/CRecordingRenderContext.h"
-#include "gdi/CRecordingRenderTarget.h"
-#include "gdi/CTransparencyLinear.h"
+#include "kestotool/gdi/CFillLinear.h"
+#include "kestotool/gdi/CRecordingRenderContext.h"
+#include "kestotool/gdi/CRecordingRenderTarget.h"
+#include "kestotool/gdi/CTransparencyLinear.h"
 #include "support/TestToolSite.h"
 
 #include <gtest/gtest.h>

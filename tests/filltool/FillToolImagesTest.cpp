@@ -1,7 +1,7 @@
-#include "filltool/FillCommands.h"
-#include "filltool/FillToolImages.h"
+#include "kestotool/filltool/FillCommands.h"
+#include "kestotool/filltool/FillToolImages.h"
 
-#include "tool/ToolIdMap.h"
+#include "kestotool/tool/ToolIdMap.h"
 
 #include <gtest/gtest.h>
 

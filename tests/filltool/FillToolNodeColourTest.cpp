@@ -1,15 +1,15 @@
-#include "filltool/FillTool.h"
+#include "kestotool/filltool/FillTool.h"
 
-#include "filltool/FillCommands.h"
-#include "filltool/FillToolImages.h"
-#include "gdi/CFillBitmap.h"
-#include "gdi/CFillLinear.h"
-#include "gdi/CFillNone.h"
-#include "gdi/CFillSolid.h"
-#include "gdi/CRGBColour.h"
+#include "kestotool/filltool/FillCommands.h"
+#include "kestotool/filltool/FillToolImages.h"
+#include "kestotool/gdi/CFillBitmap.h"
+#include "kestotool/gdi/CFillLinear.h"
+#include "kestotool/gdi/CFillNone.h"
+#include "kestotool/gdi/CFillSolid.h"
+#include "kestotool/gdi/CRGBColour.h"
 #include "support/TestDocument.h"
 #include "support/TestToolSite.h"
-#include "tool/ToolIdMap.h"
+#include "kestotool/tool/ToolIdMap.h"
 
 #include <gtest/gtest.h>
 

@@ -1,16 +1,15 @@
-#include "filltool/FillToolElliptical.h"
-#include "filltool/FillToolRadial.h"
+#include "kestotool/filltool/FillToolElliptical.h"
+#include "kestotool/filltool/FillToolRadial.h"
 
-#include "gdi/CFillEllipse.h"
-#include "gdi/CFillLinear.h"
-#include "gdi/CFillRadial.h"
-#include "gdi/CRGBColour.h"
-#include "gdi/CTransparencyEllipse.h"
-#include "gdi/CTransparencyRadial.h"
-#include "geometry/K2DGeometry.h"
-#include "kernel/VerifyReporter.h"
+#include "kestotool/gdi/CFillEllipse.h"
+#include "kestotool/gdi/CFillLinear.h"
+#include "kestotool/gdi/CFillRadial.h"
+#include "kestotool/gdi/CRGBColour.h"
+#include "kestotool/gdi/CTransparencyEllipse.h"
+#include "kestotool/gdi/CTransparencyRadial.h"
+#include "kestotool/kernel/VerifyReporter.h"
 #include "support/TestToolSite.h"
-#include "tool/Module.h"
+#include "kestotool/tool/Module.h"
 
 #include <gtest/gtest.h>
 
@@ -174,7 +173,7 @@ TEST_F(RoundTest, RadialShapes)
     const K2DArrayPoint box = tool->GetEffectiveBBox(nullptr);
     ASSERT_EQ(box.GetSize(), 5);
     for (int i = 0; i < 4; ++i)
-        EXPECT_NEAR(Kesto2D::K2DGeometry::CalcDist(box.GetAt(i), {100, 100}), 50 * std::sqrt(2.0), 1.0);
+        EXPECT_NEAR(std::hypot(box.GetAt(i).x - 100, box.GetAt(i).y - 100), 50 * std::sqrt(2.0), 1.0);
     EXPECT_EQ(box.GetBBox(), CRect(30, 30, 170, 170));
 }
 

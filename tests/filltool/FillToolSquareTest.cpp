@@ -1,8 +1,8 @@
-#include "filltool/FillToolSquare.h"
+#include "kestotool/filltool/FillToolSquare.h"
 
-#include "gdi/CFillSquare.h"
-#include "gdi/CRGBColour.h"
-#include "kernel/VerifyReporter.h"
+#include "kestotool/gdi/CFillSquare.h"
+#include "kestotool/gdi/CRGBColour.h"
+#include "kestotool/kernel/VerifyReporter.h"
 #include "support/TestToolSite.h"
 
 #include <gtest/gtest.h>

@@ -1,16 +1,16 @@
-#include "filltool/FillTool.h"
+#include "kestotool/filltool/FillTool.h"
 
-#include "filltool/FillCommands.h"
-#include "filltool/FillToolImages.h"
-#include "gdi/CFillBitmap.h"
-#include "gdi/CFillLinear.h"
-#include "gdi/CFillSolid.h"
-#include "gdi/CFillThreeColour.h"
-#include "gdi/CFillVector.h"
-#include "gdi/CRGBColour.h"
-#include "gdi/CTransparencyLinear.h"
+#include "kestotool/filltool/FillCommands.h"
+#include "kestotool/filltool/FillToolImages.h"
+#include "kestotool/gdi/CFillBitmap.h"
+#include "kestotool/gdi/CFillLinear.h"
+#include "kestotool/gdi/CFillSolid.h"
+#include "kestotool/gdi/CFillThreeColour.h"
+#include "kestotool/gdi/CFillVector.h"
+#include "kestotool/gdi/CRGBColour.h"
+#include "kestotool/gdi/CTransparencyLinear.h"
 #include "support/TestToolSite.h"
-#include "tool/ToolIdMap.h"
+#include "kestotool/tool/ToolIdMap.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
-#include "filltool/FillToolBitmap.h"
-#include "filltool/FillToolPlasma.h"
+#include "kestotool/filltool/FillToolBitmap.h"
+#include "kestotool/filltool/FillToolPlasma.h"
 
-#include "gdi/CFillBitmap.h"
-#include "gdi/CFillFractal.h"
-#include "gdi/CRGBColour.h"
-#include "kernel/VerifyReporter.h"
+#include "kestotool/gdi/CFillBitmap.h"
+#include "kestotool/gdi/CFillFractal.h"
+#include "kestotool/gdi/CRGBColour.h"
+#include "kestotool/kernel/VerifyReporter.h"
 #include "support/TestToolSite.h"
 
 #include <gtest/gtest.h>

@@ -1,14 +1,14 @@
-#include "filltool/FillToolVector.h"
+#include "kestotool/filltool/FillToolVector.h"
 
-#include "filltool/FillCommands.h"
-#include "gdi/CFillSolid.h"
-#include "gdi/CRGBColour.h"
-#include "gdi/FillPaint.h"
-#include "kernel/VerifyReporter.h"
-#include "platform/CCmdUI.h"
-#include "raster/PreparedPaint.h"
+#include "kestotool/filltool/FillCommands.h"
+#include "kestotool/gdi/CFillSolid.h"
+#include "kestotool/gdi/CRGBColour.h"
+#include "kestotool/gdi/FillPaint.h"
+#include "kestotool/kernel/VerifyReporter.h"
+#include "kestotool/platform/CCmdUI.h"
+#include "kestotool/raster/PreparedPaint.h"
 #include "support/TestToolSite.h"
-#include "tool/ToolIdMap.h"
+#include "kestotool/tool/ToolIdMap.h"
 
 #include <gtest/gtest.h>
 

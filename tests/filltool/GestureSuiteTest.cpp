@@ -6,7 +6,7 @@
 // that one session; KESTO_GESTURE_SESSIONS and KESTO_GESTURE_STEPS make a longer soak.
 #include "support/GestureSession.h"
 
-#include "tool/ToolIdMap.h"
+#include "kestotool/tool/ToolIdMap.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "gdi/CFillVector.h"
+#include "kestotool/gdi/CFillVector.h"
 
 #include <gtest/gtest.h>
 

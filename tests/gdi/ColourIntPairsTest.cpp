@@ -1,6 +1,6 @@
-#include "gdi/CMonoColour.h"
-#include "gdi/CRGBColour.h"
-#include "gdi/ColourIntPairs.h"
+#include "kestotool/gdi/CMonoColour.h"
+#include "kestotool/gdi/CRGBColour.h"
+#include "kestotool/gdi/ColourIntPairs.h"
 
 #include <gtest/gtest.h>
 

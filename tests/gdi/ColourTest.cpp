@@ -1,5 +1,5 @@
-#include "gdi/CMonoColour.h"
-#include "gdi/CRGBColour.h"
+#include "kestotool/gdi/CMonoColour.h"
+#include "kestotool/gdi/CRGBColour.h"
 
 #include <gtest/gtest.h>
 

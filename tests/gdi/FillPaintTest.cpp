@@ -1,12 +1,12 @@
-#include "gdi/CFillDiscreteMesh.h"
-#include "gdi/CFillFractal.h"
-#include "gdi/CFillLinear.h"
-#include "gdi/CFillThreeColour.h"
-#include "gdi/CMonoColour.h"
-#include "gdi/CRGBColour.h"
-#include "gdi/CTransparencyLinear.h"
-#include "gdi/FillPaint.h"
-#include "gdi/CFillFourColour.h"
+#include "kestotool/gdi/CFillDiscreteMesh.h"
+#include "kestotool/gdi/CFillFractal.h"
+#include "kestotool/gdi/CFillLinear.h"
+#include "kestotool/gdi/CFillThreeColour.h"
+#include "kestotool/gdi/CMonoColour.h"
+#include "kestotool/gdi/CRGBColour.h"
+#include "kestotool/gdi/CTransparencyLinear.h"
+#include "kestotool/gdi/FillPaint.h"
+#include "kestotool/gdi/CFillFourColour.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "gdi/PngFile.h"
+#include "kestotool/gdi/PngFile.h"
 
 #include <gtest/gtest.h>
 

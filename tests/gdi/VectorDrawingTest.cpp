@@ -1,8 +1,8 @@
-#include "gdi/VectorDrawing.h"
+#include "kestotool/gdi/VectorDrawing.h"
 
-#include "gdi/CFillLinear.h"
-#include "gdi/CFillSolid.h"
-#include "gdi/CRGBColour.h"
+#include "kestotool/gdi/CFillLinear.h"
+#include "kestotool/gdi/CFillSolid.h"
+#include "kestotool/gdi/CRGBColour.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "geometry/K2DGeometry.h"
-#include "geometry/K2DLtGeneral.h"
-#include "geometry/KCAngle.h"
+#include "kestotool/geometry/K2DGeometry.h"
+#include "kestotool/geometry/K2DLtGeneral.h"
+#include "kestotool/geometry/KCAngle.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "geometry/K2DCurve.h"
+#include "kestotool/geometry/K2DCurve.h"
 
 #include <gtest/gtest.h>
 

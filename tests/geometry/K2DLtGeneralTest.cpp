@@ -1,5 +1,5 @@
-#include "geometry/K2DLtGeneral.h"
-#include "kernel/VerifyReporter.h"
+#include "kestotool/geometry/K2DLtGeneral.h"
+#include "kestotool/kernel/VerifyReporter.h"
 
 #include <gtest/gtest.h>
 

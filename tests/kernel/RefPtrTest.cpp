@@ -1,6 +1,6 @@
-#include "kernel/CRefCount.h"
-#include "kernel/RefPtr.h"
-#include "kernel/VerifyReporter.h"
+#include "kestotool/kernel/CRefCount.h"
+#include "kestotool/kernel/RefPtr.h"
+#include "kestotool/kernel/VerifyReporter.h"
 
 #include <gtest/gtest.h>
 

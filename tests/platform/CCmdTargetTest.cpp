@@ -1,5 +1,5 @@
-#include "platform/CCmdTarget.h"
-#include "platform/CCmdUI.h"
+#include "kestotool/platform/CCmdTarget.h"
+#include "kestotool/platform/CCmdUI.h"
 
 #include <gtest/gtest.h>
 

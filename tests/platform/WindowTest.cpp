@@ -1,7 +1,7 @@
-#include "platform/CDialog.h"
-#include "platform/CEdit.h"
-#include "platform/CSpinButtonCtrl.h"
-#include "platform/HeadlessBackend.h"
+#include "kestotool/platform/CDialog.h"
+#include "kestotool/platform/CEdit.h"
+#include "kestotool/platform/CSpinButtonCtrl.h"
+#include "kestotool/platform/HeadlessBackend.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "raster/Isa.h"
-#include "raster/PreparedPaint.h"
+#include "kestotool/raster/Isa.h"
+#include "kestotool/raster/PreparedPaint.h"
 
 #include <gtest/gtest.h>
 

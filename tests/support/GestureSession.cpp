@@ -1,16 +1,16 @@
 #include "support/GestureSession.h"
 
-#include "filltool/FillCommands.h"
-#include "filltool/FillToolFactory.h"
-#include "gdi/CFillWithStops.h"
-#include "gdi/CMonoColour.h"
-#include "gdi/CRGBColour.h"
-#include "gdi/FillKinds.h"
-#include "geometry/CoordinateRange.h"
-#include "kernel/VerifyReporter.h"
-#include "platform/CCmdUI.h"
-#include "platform/CXTPControlComboBox.h"
-#include "tool/ToolIdMap.h"
+#include "kestotool/filltool/FillCommands.h"
+#include "kestotool/filltool/FillToolFactory.h"
+#include "kestotool/gdi/CFillWithStops.h"
+#include "kestotool/gdi/CMonoColour.h"
+#include "kestotool/gdi/CRGBColour.h"
+#include "kestotool/gdi/FillKinds.h"
+#include "kestotool/geometry/CoordinateRange.h"
+#include "kestotool/kernel/VerifyReporter.h"
+#include "kestotool/platform/CCmdUI.h"
+#include "kestotool/platform/CXTPControlComboBox.h"
+#include "kestotool/tool/ToolIdMap.h"
 
 #include <cmath>
 #include <limits>

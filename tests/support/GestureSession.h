@@ -1,6 +1,6 @@
 #pragma once
 
-#include "filltool/FillTool.h"
+#include "kestotool/filltool/FillTool.h"
 #include "support/TestDocument.h"
 #include "support/TestToolSite.h"
 #include "support/UndoHistory.h"

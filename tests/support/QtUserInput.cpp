@@ -2,8 +2,8 @@
 // method's commit, mouse clicks on buttons, the slider's thumb pressed, moved and let go.
 #include "support/UserInput.h"
 
-#include "qt/QtBackend.h"
-#include "qt/QtConvert.h"
+#include "kestotool/qt/QtBackend.h"
+#include "kestotool/qt/QtConvert.h"
 
 #include <QAbstractButton>
 #include <QApplication>

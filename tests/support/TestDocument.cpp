@@ -1,6 +1,6 @@
 #include "support/TestDocument.h"
 
-#include "platform/CXTPControlPopupColor.h"
+#include "kestotool/platform/CXTPControlPopupColor.h"
 
 namespace KestoTest {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "tool/IDocumentEx.h"
-#include "tool/IToolHelper.h"
+#include "kestotool/tool/IDocumentEx.h"
+#include "kestotool/tool/IToolHelper.h"
 
 #include <deque>
 #include <memory>

@@ -1,7 +1,7 @@
 #include "support/TestToolSite.h"
 
-#include "geometry/Rounding.h"
-#include "tool/SiteGeometry.h"
+#include "kestotool/geometry/Rounding.h"
+#include "kestotool/tool/SiteGeometry.h"
 
 
 namespace KestoTest {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "filltool/FillTool.h"
-#include "tool/IToolSite.h"
+#include "kestotool/filltool/FillTool.h"
+#include "kestotool/tool/IToolSite.h"
 
 #include <string>
 #include <vector>

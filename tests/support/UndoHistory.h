@@ -1,6 +1,6 @@
 #pragma once
 
-#include "gdi/CFill.h"
+#include "kestotool/gdi/CFill.h"
 
 #include <vector>
 

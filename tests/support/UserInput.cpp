@@ -1,6 +1,6 @@
 #include "support/UserInput.h"
 
-#include "platform/HeadlessBackend.h"
+#include "kestotool/platform/HeadlessBackend.h"
 
 namespace KestoTest {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/CDialog.h"
-#include "platform/CSliderCtrl.h"
-#include "platform/CSpinButtonCtrl.h"
+#include "kestotool/platform/CDialog.h"
+#include "kestotool/platform/CSliderCtrl.h"
+#include "kestotool/platform/CSpinButtonCtrl.h"
 
 #include <functional>
 #include <ostream>

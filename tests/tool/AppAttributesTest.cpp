@@ -1,4 +1,4 @@
-#include "tool/AppAttributes.h"
+#include "kestotool/tool/AppAttributes.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,7 @@
 // A localised resource module as a translator would ship it, reduced to two texts.
-extern "C" const wchar_t* KestoToolLocString(int id)
+#include "kestotool/platform/Export.h"
+
+extern "C" KESTO_API const wchar_t* KestoToolLocString(int id)
 {
     switch (id) {
     case 117: return L"Original";

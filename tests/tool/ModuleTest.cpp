@@ -1,8 +1,8 @@
-#include "tool/Module.h"
+#include "kestotool/tool/Module.h"
 
-#include "platform/CResourceModule.h"
+#include "kestotool/platform/CResourceModule.h"
 
-#include "kernel/VerifyReporter.h"
+#include "kestotool/kernel/VerifyReporter.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "tool/WadManager.h"
+#include "kestotool/tool/WadManager.h"
 
-#include "kernel/VerifyReporter.h"
+#include "kestotool/kernel/VerifyReporter.h"
 
 #include <gtest/gtest.h>
 
@@ -46,6 +46,9 @@ TEST(WadManager, ArchivePathDropsOneTrailingDOrNFromTheTitle)
     EXPECT_EQ(WadManager::ArchivePathFor(L"/opt/k/lib/libKestoToolN.so"), L"/opt/k/lib/libKestoTool.wad");
     EXPECT_EQ(WadManager::ArchivePathFor(L"/opt/k/lib/libKestoToold.so"), L"/opt/k/lib/libKestoToold.wad");
     EXPECT_EQ(WadManager::ArchivePathFor(L"/opt/k/lib/libKestoToolDN.so"), L"/opt/k/lib/libKestoToolD.wad");
+    EXPECT_EQ(WadManager::ArchivePathFor(L"/usr/lib/libKestoTool.so.0.1.0"), L"/usr/lib/libKestoTool.wad");
+    EXPECT_EQ(WadManager::ArchivePathFor(L"/usr/lib/libKestoTool.so.0"), L"/usr/lib/libKestoTool.wad");
+    EXPECT_EQ(WadManager::ArchivePathFor(L"/usr/lib/libKesto.Tool2.so"), L"/usr/lib/libKesto.Tool2.wad");
 }
 
 TEST(WadManager, ArchiveOfTheBuiltLibraryLiesBesideIt)

@@ -6,14 +6,14 @@
 #include "Palette.h"
 #include "ScriptPlayer.h"
 
-#include "filltool/FillToolLinear.h"
-#include "filltool/FillToolRadial.h"
-#include "gdi/CFillLinear.h"
-#include "gdi/CFillRadial.h"
-#include "gdi/CFillWithStops.h"
+#include "kestotool/filltool/FillToolLinear.h"
+#include "kestotool/filltool/FillToolRadial.h"
+#include "kestotool/gdi/CFillLinear.h"
+#include "kestotool/gdi/CFillRadial.h"
+#include "kestotool/gdi/CFillWithStops.h"
 #include "support/ReferenceImage.h"
 #include "support/UserInput.h"
-#include "tool/ToolIdMap.h"
+#include "kestotool/tool/ToolIdMap.h"
 
 #include <QApplication>
 #include <QFile>

@@ -1,6 +1,6 @@
-#include "qt/QtBackend.h"
+#include "kestotool/qt/QtBackend.h"
 
-#include "dialogs/SolidTransparencyDlg.h"
+#include "kestotool/dialogs/SolidTransparencyDlg.h"
 #include "support/UserInput.h"
 
 #include <QApplication>

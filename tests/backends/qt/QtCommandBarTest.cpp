@@ -1,16 +1,16 @@
-#include "qt/QtCommandBar.h"
+#include "kestotool/qt/QtCommandBar.h"
 
-#include "qt/QtConvert.h"
+#include "kestotool/qt/QtConvert.h"
 
-#include "filltool/FillCommands.h"
-#include "filltool/FillToolFactory.h"
-#include "gdi/CMonoColour.h"
-#include "gdi/CTransparencyLinear.h"
-#include "gdi/ColourIntPairs.h"
+#include "kestotool/filltool/FillCommands.h"
+#include "kestotool/filltool/FillToolFactory.h"
+#include "kestotool/gdi/CMonoColour.h"
+#include "kestotool/gdi/CTransparencyLinear.h"
+#include "kestotool/gdi/ColourIntPairs.h"
 #include "support/TestDocument.h"
 #include "support/TestToolSite.h"
 #include "support/UserInput.h"
-#include "tool/ToolIdMap.h"
+#include "kestotool/tool/ToolIdMap.h"
 
 #include <QComboBox>
 #include <QDoubleSpinBox>
