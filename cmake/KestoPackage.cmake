@@ -16,10 +16,12 @@ install(FILES ${PROJECT_BINARY_DIR}/KestoToolConfig.cmake ${PROJECT_BINARY_DIR}/
 
 # The .pc file finds its prefix from where it lies, so that an installed tree can be moved.
 file(RELATIVE_PATH KESTO_PC_TO_PREFIX /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+string(REGEX REPLACE "/$" "" KESTO_PC_TO_PREFIX "${KESTO_PC_TO_PREFIX}")
 configure_file(cmake/kestotool.pc.in ${PROJECT_BINARY_DIR}/kestotool.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/kestotool.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT dev)
 
-install(FILES LICENSE CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT dev)
+install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT runtime)
+install(FILES CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT dev)
 
 # Debian packages: libkestotool0 (the library and its archive) and libkestotool-dev (headers,
 # the CMake package, kestotool.pc, the Qt back end). scripts/package builds them.

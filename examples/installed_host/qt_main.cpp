@@ -1,0 +1,51 @@
+// The same rectangle in a Qt host: the linear tool's context toolbar on a QToolBar through the
+// Qt back end (KestoTool::Qt), and one of its buttons clicked as a user would.
+#include "RectangleSite.h"
+
+#include <kestotool/filltool/FillCommands.h>
+#include <kestotool/filltool/FillToolFactory.h>
+#include <kestotool/gdi/CFillLinear.h>
+#include <kestotool/qt/QtCommandBar.h>
+#include <kestotool/tool/ToolIdMap.h>
+
+#include <QApplication>
+#include <QToolBar>
+#include <QToolButton>
+
+#include <cstdio>
+
+int main(int argc, char** argv)
+{
+    QApplication app(argc, argv);
+    KestoTool::Init(20000, 20100);
+    RectangleSite site;
+    KestoGDI::CFillLinear linear;
+    linear.SetDefaultControls(site.object);
+    site.fill = linear.Clone();
+    const auto tool = KestoTool::FillToolFactory::Create(site.fill.get(), &site);
+
+    site.tool = tool.get();
+    tool->InitContextButtons(&site.bars);
+    QToolBar toolbar;
+    KestoToolQt::QtCommandBar shown(toolbar);
+    shown.Show(site.bars, *tool);
+
+    std::printf("Qt context toolbar: %d widgets for %d controls\n", int(toolbar.actions().size()),
+                site.bars.GetCount());
+
+    // A click on "Rotate Left" turns the fill a quarter turn: the tool commits a new fill.
+    const int base = KestoTool::ToolIdMap::GetInstance().AllocateRange(KestoTool::FillToolKey,
+                                                                       KestoTool::FillCommands::Count());
+    auto* rotate = qobject_cast<QToolButton*>(shown.WidgetOf(base + KestoTool::FillCmdRotateLeft));
+    const KestoGDI::CFill* before = site.fill.get();
+    if (rotate)
+        rotate->click();
+    const bool rotated = rotate && site.fill.get() != before;
+    shown.Clear();
+    if (!rotated) {
+        std::fprintf(stderr, "InstalledQtHost: the Rotate Left button did not commit a new fill\n");
+        return 1;
+    }
+    std::printf("Rotate Left clicked: a new fill committed\n");
+    return 0;
+}
