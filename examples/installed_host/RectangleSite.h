@@ -1,9 +1,12 @@
 #pragma once
 
 #include <kestotool/filltool/FillTool.h>
-#include <kestotool/gdi/CFill.h>
+#include <kestotool/filltool/FillToolFactory.h>
+#include <kestotool/gdi/CFillLinear.h>
 #include <kestotool/platform/CXTPCommandBars.h>
 #include <kestotool/tool/NullToolSite.h>
+
+#include <memory>
 
 // The host's side of one selected rectangle: it keeps the fill the tool commits and makes a
 // control on its context toolbar for each item the tool asks for.
@@ -14,6 +17,20 @@ public:
     bool inDrag = false;
     KestoTool::FillTool* tool = nullptr;
     Platform::CXTPCommandBars bars;
+
+    // Gives the rectangle a linear fill and makes the tool that edits it, with its context
+    // toolbar in bars; null if the library has no tool for the kind.
+    std::unique_ptr<KestoTool::FillTool> SelectWithLinearFill()
+    {
+        KestoGDI::CFillLinear linear;
+        linear.SetDefaultControls(object);
+        fill = linear.Clone();
+        std::unique_ptr<KestoTool::FillTool> made = KestoTool::FillToolFactory::Create(fill.get(), this);
+        tool = made.get();
+        if (tool)
+            tool->InitContextButtons(&bars);
+        return made;
+    }
 
     void AddContextItem(int hostCommand) override
     {

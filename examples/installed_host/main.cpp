@@ -5,7 +5,6 @@
 #include "RectangleSite.h"
 
 #include <kestotool/Version.h>
-#include <kestotool/filltool/FillToolFactory.h>
 #include <kestotool/gdi/CFillLinear.h>
 #include <kestotool/tool/ToolIdMap.h>
 
@@ -30,15 +29,9 @@ int main()
 
     KestoTool::Init(20000, 20100);
     RectangleSite site;
-    KestoGDI::CFillLinear linear;
-    linear.SetDefaultControls(site.object);
-    site.fill = linear.Clone();
-
-    const auto tool = KestoTool::FillToolFactory::Create(site.fill.get(), &site);
+    const auto tool = site.SelectWithLinearFill();
     if (!tool)
         return Fail("no tool for a linear fill");
-    site.tool = tool.get();
-    tool->InitContextButtons(&site.bars);
     const int images = site.bars.GetImageManager()->GetImageCount();
     std::printf("context toolbar: %d controls, %d command images\n", site.bars.GetCount(), images);
     if (site.bars.GetCount() == 0)

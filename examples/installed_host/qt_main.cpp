@@ -3,8 +3,6 @@
 #include "RectangleSite.h"
 
 #include <kestotool/filltool/FillCommands.h>
-#include <kestotool/filltool/FillToolFactory.h>
-#include <kestotool/gdi/CFillLinear.h>
 #include <kestotool/qt/QtCommandBar.h>
 #include <kestotool/tool/ToolIdMap.h>
 
@@ -19,13 +17,9 @@ int main(int argc, char** argv)
     QApplication app(argc, argv);
     KestoTool::Init(20000, 20100);
     RectangleSite site;
-    KestoGDI::CFillLinear linear;
-    linear.SetDefaultControls(site.object);
-    site.fill = linear.Clone();
-    const auto tool = KestoTool::FillToolFactory::Create(site.fill.get(), &site);
-
-    site.tool = tool.get();
-    tool->InitContextButtons(&site.bars);
+    const auto tool = site.SelectWithLinearFill();
+    if (!tool)
+        return 1;
     QToolBar toolbar;
     KestoToolQt::QtCommandBar shown(toolbar);
     shown.Show(site.bars, *tool);
