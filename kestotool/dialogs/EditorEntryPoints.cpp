@@ -34,7 +34,7 @@ using namespace KestoGDI;
 namespace {
 
 // Runs an editor with the helper's setting and hands over its fill after OK.
-RefPtr<CFill> Run(CFillEditorDlg&& dialog, bool helperSetting)
+RefPtr<CFill> Run(ExpandingFillPreviewDlg&& dialog, bool helperSetting)
 {
     dialog.SetHelperSetting(helperSetting);
     return dialog.DoModal() == Platform::IDOK ? dialog.TakeFill() : nullptr;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "kestotool/dialogs/FillEditorDlg.h"
+#include "kestotool/dialogs/ExpandingFillPreviewDlg.h"
 #include "kestotool/gdi/CFillVector.h"
 #include "kestotool/geometry/K2DLtGeneral.h"
 #include "kestotool/platform/Export.h"
@@ -8,11 +8,11 @@
 namespace KestoTool {
 
 // The editor of vector fills; it also knows the object's transform, to place the tiles.
-class KESTO_API CVectorFillDlgBase : public CFillEditorDlg {
+class KESTO_API CVectorFillDlgBase : public ExpandingFillPreviewDlg {
 public:
     CVectorFillDlgBase(IDocumentEx* document, const KestoGDI::CFillVector* fill, const CRect& objectRect,
                        Platform::CWnd* parent, int templateId, const Kesto2D::K2DLtGeneral& objectTransform)
-        : CFillEditorDlg(templateId, document, fill, objectRect, parent), m_objectTransform(objectTransform)
+        : ExpandingFillPreviewDlg(templateId, document, fill, objectRect, parent, CommitRule::ToolOnly), m_objectTransform(objectTransform)
     {
     }
     const Kesto2D::K2DLtGeneral& GetObjectTransform() const { return m_objectTransform; }

@@ -1,0 +1,107 @@
+#pragma once
+
+#include "kestotool/filltool/FillTool.h"
+#include "kestotool/gdi/CFill.h"
+#include "kestotool/gdi/ColourIntPairs.h"
+#include "kestotool/platform/Export.h"
+#include "kestotool/tool/IToolSite.h"
+#include "kestotool/tool/KestoToolImports.h"
+#include "kestotool/ui/FillPreview.h"
+#include "kestotool/ui/KCResourceDialog.h"
+
+#include <memory>
+
+namespace KestoTool {
+
+class IDocumentEx;
+
+// The base of the editors that preview the fill they edit: a dialog from its own template with
+// a preview and a pane of three buttons. It is also the site of the same on-canvas tool the
+// document uses, run inside the preview on the dialog's copy of the fill, so that the user
+// drags handles there as on the page and every commit comes back to the dialog. After OK the
+// edited fill is handed over.
+class KESTO_API ExpandingFillPreviewDlg : public KestoUI::KCResourceDialog, public IToolSite {
+public:
+    ~ExpandingFillPreviewDlg() override;
+
+    // The host's yes/no setting (its meaning is the host's). At start-up a dialog whose setting
+    // is no hides the third button of its preview pane. Yes unless set.
+    void SetHelperSetting(bool setting) { m_helperSetting = setting; }
+    bool GetHelperSetting() const { return m_helperSetting; }
+
+    // After OK: the edited fill, handed over once; empty before OK and after the first call.
+    RefPtr<KestoGDI::CFill> TakeFill() { return std::move(m_result); }
+    // The fill being edited (the dialog's own copy).
+    const KestoGDI::CFill* GetFill() const { return m_fill.get(); }
+    // Makes fill the edited fill and builds its tool; a kind without a tool keeps the tool
+    // there was (or none).
+    void SetEditedFill(const KestoGDI::CFill* fill);
+    // The tool running in the preview; null until a fill of a kind with a tool is set.
+    FillTool* GetTool() const { return m_tool.get(); }
+    const KestoUI::FillPreview& GetPreview() const { return m_preview; }
+    const CRect& GetObjectRect() const { return m_objectRect; }
+
+    // The preview's mouse gesture, in document units, as the drag protocol: the drag flag is
+    // set from the press to the end of the release.
+    void PreviewPress(CPoint point, unsigned flags);
+    void PreviewMove(CPoint point, unsigned flags);
+    void PreviewRelease(CPoint point, unsigned flags);
+
+    // The site of the preview's tool.
+    unsigned long GetToolColour() override { return 0xC00000; }
+    Kesto2D::K2DLtGeneral GetObjectToSpreadTransform() override { return {}; }
+    Kesto2D::K2DLtGeneral GetAppObjectToSpreadTransform() override { return {}; }
+    void ClientToPaper(Platform::SIZE* size) override;
+    CRect GetObjectBBox() override { return m_objectRect; }
+    CRect GetTransformedObjectBBox() override { return m_objectRect; }
+    bool IsCreate() override { return false; }
+    bool IsInDrag() override { return m_inDrag; }
+    void ConstrainAngle(CPoint, CPoint&, bool) override {}
+    void ConstrainAnglePolar(CPoint, CPoint&) override {}
+    void Snap(const CPoint&, CPoint&) override {}
+    CString GetCurrentSelectionDescription() override { return {}; }
+    void AddContextItem(int) override {}
+    IDocumentEx* GetDocument() override { return m_document; }
+    void UpdateFill(const KestoGDI::CFill* fill, const wchar_t* undoName) override;
+    void UpdateTransparency(const KestoGDI::CFill* fill, const wchar_t* undoName, bool flag) override;
+    void SetFillType(const Platform::CRuntimeClass*) override {}
+    void SetTransparencyType(const Platform::CRuntimeClass*) override {}
+    void NotifyHandlesReset() override {}
+    double GetAngleSnapTolerance() override { return 5.0; }
+
+protected:
+    // What a commit of the preview's tool does besides giving the fill back to the tool.
+    enum class CommitRule {
+        // The stop list becomes the dialog's editing state, and the dialog's fill is rebuilt
+        // from it and shown (gradient and plasma editors).
+        TakeStops,
+        // Nothing more: the tool's fill is the edited one (three/four-colour and vector editors).
+        ToolOnly,
+    };
+
+    ExpandingFillPreviewDlg(int templateId, IDocumentEx* document, const KestoGDI::CFill* fill, const CRect& objectRect,
+                            Platform::CWnd* parent, CommitRule rule);
+
+    bool OnInitDialog() override;
+    void DoDataExchange(Platform::CDataExchange* pDX) override;
+    void OnOK() override;
+
+    // The stop list being edited (TakeStops editors).
+    const KestoGDI::ColourIntPairs& GetEditedStops() const { return m_stops; }
+
+private:
+    void Commit(const KestoGDI::CFill* fill);
+
+    IDocumentEx* m_document;
+    CommitRule m_rule;
+    RefPtr<KestoGDI::CFill> m_fill;
+    RefPtr<KestoGDI::CFill> m_result;
+    KestoGDI::ColourIntPairs m_stops;
+    CRect m_objectRect;
+    bool m_helperSetting = true;
+    bool m_inDrag = false;
+    KestoUI::FillPreview m_preview;
+    std::unique_ptr<FillTool> m_tool;
+};
+
+} // namespace KestoTool
