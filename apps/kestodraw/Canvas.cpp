@@ -476,7 +476,7 @@ KestoGDI::CColour* Canvas::AskUserForNewColour(const KestoGDI::CColour* current,
 CPoint Canvas::ToDocument(const QPointF& device) const
 {
     const QPointF p = (device - m_pan) / m_zoom;
-    return Kesto2D::SaturatePoint(std::llround(std::clamp(p.x(), -2e9, 2e9)), std::llround(std::clamp(p.y(), -2e9, 2e9)));
+    return Kesto2D::RoundToRange({p.x(), p.y()});
 }
 
 unsigned Canvas::DragFlags(Qt::KeyboardModifiers modifiers)

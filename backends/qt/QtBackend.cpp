@@ -1,11 +1,13 @@
 #include "kestotool/qt/QtBackend.h"
 
+#include "kestotool/qt/QtConvert.h"
 #include "kestotool/qt/QtWindowPeer.h"
 
 #include "kestotool/platform/CDialog.h"
 #include "kestotool/platform/ScreenMetrics.h"
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QDialog>
 #include <QScreen>
 #include <QTimer>
@@ -140,6 +142,21 @@ void QtBackend::EndModal(Platform::CDialog& dialog, int result)
 {
     if (auto* widget = qobject_cast<QDialog*>(WidgetOf(dialog)))
         widget->done(result);
+}
+
+bool QtBackend::ChooseColour(CWnd* owner, Platform::COLORREF initial, Platform::COLORREF* chosen)
+{
+    std::optional<Platform::COLORREF> answer;
+    if (m_colourScript) {
+        answer = m_colourScript(initial);
+    } else {
+        const QColor colour = QColorDialog::getColor(ToQColor(initial), owner ? WidgetOf(*owner) : nullptr);
+        if (colour.isValid())
+            answer = Platform::RGB(colour.red(), colour.green(), colour.blue());
+    }
+    if (answer && chosen)
+        *chosen = *answer;
+    return answer.has_value();
 }
 
 void QtBackend::WindowDestroyed(CWnd* window)

@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <memory>
 #include <utility>
 
@@ -40,10 +41,16 @@ public:
     int RunModal(Platform::CDialog& dialog) override;
     void EndModal(Platform::CDialog& dialog, int result) override;
     void WindowDestroyed(Platform::CWnd* window) override;
+    // QColorDialog over the owner's widget, or the colour script's answer when there is one.
+    bool ChooseColour(Platform::CWnd* owner, Platform::COLORREF initial, Platform::COLORREF* chosen) override;
 
     // A script that each modal run plays once its dialog is showing, from the dialog's event
     // loop; a dialog the script leaves open is cancelled. Null runs the dialog for the user.
     void SetModalScript(ModalScript script) { m_script = std::move(script); }
+    // What the user picks in the colour chooser from now on, without showing it (nothing
+    // cancels); null shows the chooser to the user.
+    using ColourScript = std::function<std::optional<Platform::COLORREF>(Platform::COLORREF initial)>;
+    void SetColourScript(ColourScript script) { m_colourScript = std::move(script); }
 
     // Timers from now on wait for AdvanceClock instead of the wall clock (or go back to it).
     void UseManualClock(bool manual);
@@ -71,6 +78,7 @@ private:
     Platform::CWnd* m_focus = nullptr;
     bool m_settingFocus = false;
     ModalScript m_script;
+    ColourScript m_colourScript;
 };
 
 } // namespace KestoToolQt

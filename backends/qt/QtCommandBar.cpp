@@ -36,13 +36,7 @@ QIcon IconOf(Platform::CXTPCommandBars& bars, int id)
     const Platform::CSize size =
         Platform::CXTPImageManager::GetPreferredIconSizeforDPI(Platform::ScreenMetrics::GetLogPixelsX());
     const Platform::XTPImage* image = bars.GetImageManager()->GetImage(id, size);
-    if (!image || image->width <= 0 || image->height <= 0)
-        return {};
-    QImage picture(image->width, image->height, QImage::Format_ARGB32);
-    for (int y = 0; y < image->height; ++y)
-        for (int x = 0; x < image->width; ++x)
-            picture.setPixel(x, y, image->argb[static_cast<std::size_t>(y) * image->width + x]);
-    return QIcon(QPixmap::fromImage(picture));
+    return image ? ToQIcon(*image) : QIcon();
 }
 
 QIcon Swatch(Platform::COLORREF colour, int side)

@@ -2,6 +2,7 @@
 
 #include "kestotool/platform/CListItems.h"
 #include "kestotool/platform/CString.h"
+#include "kestotool/platform/CXTPImageManager.h"
 #include "kestotool/platform/ColourRef.h"
 #include "kestotool/gdi/RenderBrush.h"
 #include "kestotool/gdi/RenderPen.h"
@@ -11,6 +12,9 @@
 
 #include <QColor>
 #include <QComboBox>
+#include <QIcon>
+#include <QImage>
+#include <QPixmap>
 #include <QPen>
 #include <QPolygonF>
 #include <QString>
@@ -21,6 +25,18 @@
 
 // Conversions at the border between the library's types and Qt's.
 namespace KestoToolQt {
+
+// A command image as an icon; an empty image gives the null icon.
+inline QIcon ToQIcon(const Platform::XTPImage& image)
+{
+    if (image.width <= 0 || image.height <= 0)
+        return {};
+    QImage picture(image.width, image.height, QImage::Format_ARGB32);
+    for (int y = 0; y < image.height; ++y)
+        for (int x = 0; x < image.width; ++x)
+            picture.setPixel(x, y, image.argb[static_cast<std::size_t>(y) * image.width + x]);
+    return QIcon(QPixmap::fromImage(picture));
+}
 
 inline QString ToQString(const Platform::CString& text)
 {

@@ -1,10 +1,15 @@
 #include "kestotool/qt/QtFillPreview.h"
 
 #include "kestotool/gdi/FillPaint.h"
-#include "kestotool/ui/FillPreview.h"
+#include "kestotool/qt/QtRenderTarget.h"
+#include "kestotool/ui/FillControl.h"
 
 #include <QImage>
+#include <QMouseEvent>
 #include <QPainter>
+
+#include <algorithm>
+#include <cmath>
 
 namespace KestoToolQt {
 
@@ -12,11 +17,37 @@ namespace {
 
 constexpr int kCheckSize = 8;
 
+KestoRaster::Affine ToAffine(const Kesto2D::K2DLtGeneral& t)
+{
+    const Kesto2D::K2DVector move = t.GetTranslation();
+    return {t.GetM11(), t.GetM12(), t.GetM21(), t.GetM22(), move.dx, move.dy};
+}
+
+unsigned KeysOf(const QMouseEvent& event)
+{
+    const Qt::KeyboardModifiers modifiers = event.modifiers();
+    return (modifiers & Qt::ShiftModifier ? Platform::MK_SHIFT : 0u) |
+           (modifiers & Qt::ControlModifier ? Platform::MK_CONTROL : 0u) |
+           (event.buttons() & Qt::LeftButton ? Platform::MK_LBUTTON : 0u);
+}
+
 } // namespace
 
-QtFillPreview::QtFillPreview(QWidget* parent, const Platform::CWnd& window) : QWidget(parent), m_window(&window)
+QtFillPreview::QtFillPreview(QWidget* parent, Platform::CWnd& window) : QWidget(parent), m_window(&window)
 {
     setFocusPolicy(Qt::NoFocus);
+}
+
+double QtFillPreview::Scale() const
+{
+    const int units = m_window->GetWindowRect().Width();
+    return units > 0 ? static_cast<double>(width()) / units : 1.0;
+}
+
+Platform::CPoint QtFillPreview::ClientPoint(const QMouseEvent& event) const
+{
+    const QPointF p = event.position() / Scale();
+    return {static_cast<int>(std::lround(p.x())), static_cast<int>(std::lround(p.y()))};
 }
 
 QImage QtFillPreview::Picture() const
@@ -32,18 +63,30 @@ QImage QtFillPreview::Picture() const
                                  ((x + y) / kCheckSize) % 2 ? QColor(0xD0, 0xD0, 0xD0) : QColor(Qt::white));
     }
     const auto* preview = dynamic_cast<const KestoUI::FillPreview*>(m_window);
-    if (!preview || !preview->GetFill())
+    if (!preview)
         return image;
     const Platform::CRect bounds = preview->GetBounds();
     if (bounds.Width() <= 0 || bounds.Height() <= 0)
         return image;
-    const double sx = static_cast<double>(image.width()) / bounds.Width();
-    const double sy = static_cast<double>(image.height()) / bounds.Height();
-    const KestoRaster::Affine place{sx, 0, 0, sy, -bounds.left * sx, -bounds.top * sy};
     const KestoRaster::Target canvas{image.bits(), image.width(), image.height(), image.bytesPerLine(),
                                      KestoRaster::Output::Argb32};
-    KestoGDI::FillPaint::PaintOver(*preview->GetFill(), place, std::min(sx, sy), canvas,
-                                   {0, 0, image.width(), image.height()});
+    const auto* control = dynamic_cast<const KestoUI::FillControl*>(preview);
+    if (!control) {
+        const double sx = static_cast<double>(image.width()) / bounds.Width();
+        const double sy = static_cast<double>(image.height()) / bounds.Height();
+        if (preview->GetFill())
+            KestoGDI::FillPaint::PaintOver(*preview->GetFill(), {sx, 0, 0, sy, -bounds.left * sx, -bounds.top * sy},
+                                           std::min(sx, sy), canvas, {0, 0, image.width(), image.height()});
+        return image;
+    }
+    const double k = Scale();
+    const Kesto2D::K2DLtGeneral view = control->GetViewTransform().Then(Kesto2D::K2DLtGeneral(k, 0, 0, k, 0, 0));
+    if (control->GetFill())
+        KestoGDI::FillPaint::PaintOver(*control->GetFill(), ToAffine(view), std::min(std::abs(view.GetM11()), std::abs(view.GetM22())),
+                                       canvas, {0, 0, image.width(), image.height()});
+    QPainter painter(&image);
+    QtRenderTarget target(painter);
+    control->DrawOverlay(target, view);
     return image;
 }
 
@@ -53,6 +96,25 @@ void QtFillPreview::paintEvent(QPaintEvent*)
     painter.drawImage(0, 0, Picture());
     painter.setPen(palette().color(QPalette::Mid));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void QtFillPreview::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    m_window->OnLButtonDown(KeysOf(*event), ClientPoint(*event));
+}
+
+void QtFillPreview::mouseMoveEvent(QMouseEvent* event)
+{
+    m_window->OnMouseMove(KeysOf(*event), ClientPoint(*event));
+}
+
+void QtFillPreview::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    m_window->OnLButtonUp(KeysOf(*event), ClientPoint(*event));
 }
 
 } // namespace KestoToolQt

@@ -4,11 +4,13 @@
 #include "kestotool/qt/QtFillPreview.h"
 #include "kestotool/qt/QtConvert.h"
 
+#include "kestotool/platform/CButton.h"
 #include "kestotool/platform/CComboBox.h"
 #include "kestotool/platform/CEdit.h"
 #include "kestotool/platform/CSliderCtrl.h"
 #include "kestotool/platform/CSpinButtonCtrl.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
 #include <QKeyEvent>
@@ -220,28 +222,38 @@ private:
     QComboBox* Combo() const { return static_cast<QComboBox*>(Widget()); }
 };
 
-// A click focuses the button and tells its parent, as a click on a classic push button does.
-class ButtonPeer final : public QtWindowPeer {
+// A click focuses the button and tells its parent, as a click on a classic push button does. A
+// button with an image shows the image instead of its text.
+class ButtonPeer : public QtWindowPeer {
 public:
-    ButtonPeer(CWnd& window, QtBackend& backend, QWidget* parent) : QtWindowPeer(window, backend, new QPushButton(parent))
+    ButtonPeer(CWnd& window, QtBackend& backend, QAbstractButton* button) : QtWindowPeer(window, backend, button)
     {
-        Button()->setAutoDefault(false);
-        QObject::connect(Button(), &QPushButton::clicked, Button(), [this] {
-            CWnd& button = GetWindow();
-            button.SetFocus();
-            button.NotifyParent(Platform::BN_CLICKED);
+        QObject::connect(button, &QAbstractButton::clicked, button, [this] {
+            if (auto* clicked = dynamic_cast<Platform::CButton*>(&GetWindow()))
+                clicked->Click();
         });
+    }
+    static ButtonPeer* Push(CWnd& window, QtBackend& backend, QWidget* parent)
+    {
+        auto* push = new QPushButton(parent);
+        push->setAutoDefault(false);
+        return new ButtonPeer(window, backend, push);
     }
 
 protected:
     void ShowState() override
     {
-        Button()->setText(ToQString(GetWindow().GetWindowText()));
-        Button()->setDefault(GetWindow().GetDlgCtrlID() == Platform::IDOK);
+        const auto* button = dynamic_cast<const Platform::CButton*>(&GetWindow());
+        const QIcon icon = button ? ToQIcon(button->GetImage()) : QIcon();
+        Button()->setIcon(icon);
+        Button()->setText(icon.isNull() ? ToQString(GetWindow().GetWindowText()) : QString());
+        if (auto* push = qobject_cast<QPushButton*>(Button()))
+            push->setDefault(GetWindow().GetDlgCtrlID() == Platform::IDOK);
+        if (const auto* box = dynamic_cast<const Platform::CCheckBox*>(button))
+            Button()->setChecked(box->GetCheck());
     }
 
-private:
-    QPushButton* Button() const { return static_cast<QPushButton*>(Widget()); }
+    QAbstractButton* Button() const { return static_cast<QAbstractButton*>(Widget()); }
 };
 
 class StaticPeer final : public QtWindowPeer {
@@ -289,10 +301,13 @@ std::unique_ptr<QtWindowPeer> QtWindowPeer::Make(CWnd& window, WindowKind kind, 
     case WindowKind::ComboBox:
         return std::make_unique<ComboPeer>(window, backend, parent);
     case WindowKind::Button:
-        return std::make_unique<ButtonPeer>(window, backend, parent);
+        return std::unique_ptr<QtWindowPeer>(ButtonPeer::Push(window, backend, parent));
+    case WindowKind::CheckBox:
+        return std::make_unique<ButtonPeer>(window, backend, new QCheckBox(parent));
     case WindowKind::Static:
         return std::make_unique<StaticPeer>(window, backend, parent);
     case WindowKind::FillPreview:
+    case WindowKind::FillControl:
         return std::make_unique<PreviewPeer>(window, backend, parent);
     case WindowKind::Window:
         break;
@@ -319,6 +334,7 @@ void QtWindowPeer::Update()
     const bool wasUpdating = std::exchange(m_updating, true);
     ShowGeometry();
     m_widget->setEnabled(GetWindow().IsWindowEnabled());
+    m_widget->setToolTip(ToQString(GetWindow().GetToolTipText()));
     // A top-level window shows when it runs; a child follows its window's visible state.
     if (!m_widget->isWindow())
         m_widget->setVisible(GetWindow().IsWindowVisible());

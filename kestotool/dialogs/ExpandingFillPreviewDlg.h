@@ -6,7 +6,9 @@
 #include "kestotool/platform/Export.h"
 #include "kestotool/tool/IToolSite.h"
 #include "kestotool/tool/KestoToolImports.h"
-#include "kestotool/ui/FillPreview.h"
+#include "kestotool/platform/CButton.h"
+#include "kestotool/platform/CComboBox.h"
+#include "kestotool/ui/FillControl.h"
 #include "kestotool/ui/KCResourceDialog.h"
 
 #include <memory>
@@ -16,11 +18,14 @@ namespace KestoTool {
 class IDocumentEx;
 
 // The base of the editors that preview the fill they edit: a dialog from its own template with
-// a preview and a pane of three buttons. It is also the site of the same on-canvas tool the
-// document uses, run inside the preview on the dialog's copy of the fill, so that the user
-// drags handles there as on the page and every commit comes back to the dialog. After OK the
-// edited fill is handed over.
-class KESTO_API ExpandingFillPreviewDlg : public KestoUI::KCResourceDialog, public IToolSite {
+// a preview pane (the preview, zoom in and out, a zoom box) that a button shows and hides. It
+// is also the site of the same on-canvas tool the document uses, run inside the preview on the
+// dialog's copy of the fill, so that the user drags handles there as on the page and every
+// commit comes back to the dialog. After OK the edited fill is handed over; after Cancel
+// nothing is.
+class KESTO_API ExpandingFillPreviewDlg : public KestoUI::KCResourceDialog,
+                                          public IToolSite,
+                                          private KestoUI::FillControlClient {
 public:
     ~ExpandingFillPreviewDlg() override;
 
@@ -31,18 +36,26 @@ public:
 
     // After OK: the edited fill, handed over once; empty before OK and after the first call.
     RefPtr<KestoGDI::CFill> TakeFill() { return std::move(m_result); }
-    // The fill being edited (the dialog's own copy).
+    // The fill the dialog holds: as opened, or as rebuilt from the stop list by the gradient and
+    // plasma editors.
     const KestoGDI::CFill* GetFill() const { return m_fill.get(); }
+    // What OK would hand over now: the dialog's fill, or the tool's for the editors whose
+    // commits only go to the tool.
+    const KestoGDI::CFill* GetCurrentFill() const;
     // Makes fill the edited fill and builds its tool; a kind without a tool keeps the tool
     // there was (or none).
     void SetEditedFill(const KestoGDI::CFill* fill);
     // The tool running in the preview; null until a fill of a kind with a tool is set.
     FillTool* GetTool() const { return m_tool.get(); }
-    const KestoUI::FillPreview& GetPreview() const { return m_preview; }
+    KestoUI::FillControl& GetPreview() { return m_preview; }
+    const KestoUI::FillControl& GetPreview() const { return m_preview; }
+    Platform::CComboBox& GetZoomCombo() { return m_zoomCombo; }
     const CRect& GetObjectRect() const { return m_objectRect; }
+    // Whether the preview pane shows.
+    bool IsExpanded() const { return m_expanded; }
 
-    // The preview's mouse gesture, in document units, as the drag protocol: the drag flag is
-    // set from the press to the end of the release.
+    // The preview's mouse gesture, in document units, as the drag protocol (flags the tool's
+    // DragFlag keys): the drag flag is set from the press to the end of the release.
     void PreviewPress(CPoint point, unsigned flags);
     void PreviewMove(CPoint point, unsigned flags);
     void PreviewRelease(CPoint point, unsigned flags);
@@ -85,12 +98,27 @@ protected:
     bool OnInitDialog() override;
     void DoDataExchange(Platform::CDataExchange* pDX) override;
     void OnOK() override;
+    const Platform::AFX_MSGMAP* GetMessageMap() const override;
 
     // The stop list being edited (TakeStops editors).
     const KestoGDI::ColourIntPairs& GetEditedStops() const { return m_stops; }
+    // The edited fill changed (a commit, or a new fill set): editors show it in their controls.
+    virtual void OnEditedFillChanged() {}
 
 private:
     void Commit(const KestoGDI::CFill* fill);
+    void ShowZoom();
+    void OnZoomIn();
+    void OnZoomOut();
+    void OnZoomSelected();
+    void OnExpand();
+    void ShowExpandImage();
+
+    void OnControlPress(KestoUI::FillControl& control, CPoint point, unsigned flags) override;
+    void OnControlDrag(KestoUI::FillControl& control, CPoint point, unsigned flags) override;
+    void OnControlRelease(KestoUI::FillControl& control, CPoint point, unsigned flags) override;
+    void DrawOverlay(const KestoUI::FillControl& control, KestoGDI::IRenderTarget& target,
+                     const Kesto2D::K2DLtGeneral& view) const override;
 
     IDocumentEx* m_document;
     CommitRule m_rule;
@@ -100,7 +128,13 @@ private:
     CRect m_objectRect;
     bool m_helperSetting = true;
     bool m_inDrag = false;
-    KestoUI::FillPreview m_preview;
+    bool m_expanded = true;
+    int m_expandedWidth = 0;
+    KestoUI::FillControl m_preview;
+    Platform::CComboBox m_zoomCombo;
+    Platform::CButton m_zoomIn;
+    Platform::CButton m_zoomOut;
+    Platform::CButton m_expand;
     std::unique_ptr<FillTool> m_tool;
 };
 

@@ -6,15 +6,17 @@
 
 namespace KestoTool {
 
-namespace {
-
-Platform::XTPImage ToImage(const CLtBitmap& bitmap)
+Platform::XTPImage ToXTPImage(const CLtBitmap& bitmap)
 {
     const auto n = static_cast<std::size_t>(bitmap.GetWidth()) * static_cast<std::size_t>(bitmap.GetHeight());
     return {bitmap.GetWidth(), bitmap.GetHeight(), {bitmap.GetBits(), bitmap.GetBits() + n}};
 }
 
-} // namespace
+Platform::XTPImage LoadXTPImage(const wchar_t* name)
+{
+    const RefPtr<CLtBitmap> bitmap = WadManager::GetInstance().LoadImage(name);
+    return bitmap ? ToXTPImage(*bitmap) : Platform::XTPImage{};
+}
 
 void RegisterFillToolImages(Platform::CXTPImageManager& images, int start)
 {
@@ -26,7 +28,7 @@ void RegisterFillToolImages(Platform::CXTPImageManager& images, int start)
         for (const int folder : WadManager::Folders) {
             if (const RefPtr<CLtBitmap> bitmap = archive.Load(WadManager::EntryName(folder, row.icon).c_str())) {
                 const Platform::CSize size = Platform::CXTPImageManager::GetPreferredIconSizeforDPI(folder);
-                images.SetIcons(ToImage(*bitmap), &id, 1, size, Platform::XTPImageState::Normal);
+                images.SetIcons(ToXTPImage(*bitmap), &id, 1, size, Platform::XTPImageState::Normal);
             }
         }
     }

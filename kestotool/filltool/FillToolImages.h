@@ -1,9 +1,16 @@
 #pragma once
 
+#include "kestotool/gdi/CLtBitmap.h"
 #include "kestotool/platform/CXTPCommandBars.h"
 #include "kestotool/platform/Export.h"
 
 namespace KestoTool {
+
+// A bitmap of the image archive as a command image.
+KESTO_API Platform::XTPImage ToXTPImage(const KestoGDI::CLtBitmap& bitmap);
+// An image of the archive's folder for the screen's resolution ("Zoom in.png"); empty when the
+// archive lacks it.
+KESTO_API Platform::XTPImage LoadXTPImage(const wchar_t* name);
 
 // Once per process: allocates the fill tools' range, then (given bars) puts every image of every
 // resolution folder on its command at the bars' image manager's preferred size for that folder.

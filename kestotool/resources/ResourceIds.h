@@ -20,6 +20,38 @@ constexpr int IDC_EDITOR_PREVIEW = 14901;
 constexpr int IDC_PREVIEW_ZOOM_IN = 14902;
 constexpr int IDC_PREVIEW_ZOOM_OUT = 14903;
 constexpr int IDC_PREVIEW_EXPAND = 14904;
+constexpr int IDC_PREVIEW_ZOOM_COMBO = 14905;
+constexpr int IDS_PREVIEW_ZOOM_IN = 171;
+constexpr int IDS_PREVIEW_ZOOM_OUT = 172;
+constexpr int IDS_PREVIEW_SHOW_HIDE = 173;
+constexpr int IDS_PREVIEW_ZOOM_TO_FIT = 174;
+
+// The stop list of the gradient and plasma editors, and the gradient's kind and angle.
+constexpr int IDC_GRADIENT_KIND = 14910;
+constexpr int IDC_GRADIENT_BAR = 14911;
+constexpr int IDC_STOP_POSITION = 14912;
+constexpr int IDC_STOP_DELETE = 14913;
+constexpr int IDC_STOP_COLOUR = 14914;
+constexpr int IDC_STOP_LEVEL = 14915;
+constexpr int IDC_STOP_LEVEL_LABEL = 14916;
+constexpr int IDC_FILL_ANGLE = 14917;
+
+// The plasma editor's pattern.
+constexpr int IDC_PLASMA_SEED = 14920;
+constexpr int IDC_PLASMA_NEW_SEED = 14921;
+constexpr int IDC_PLASMA_GRAIN = 14922;
+constexpr int IDC_PLASMA_RESOLUTION = 14923;
+constexpr int IDC_PLASMA_INVERT = 14924;
+
+// The three/four-colour editors: a colour button (fills) or a level box (transparencies) per
+// corner, corners 1 to 4 at consecutive ids.
+constexpr int IDC_CORNER_COLOUR_FIRST = 14930;
+constexpr int IDC_CORNER_LEVEL_FIRST = 14934;
+
+// The vector editor.
+constexpr int IDC_VECTOR_MODE = 14950;
+constexpr int IDC_VECTOR_RESET = 14951;
+constexpr int IDC_VECTOR_TRANSFORM = 14952;
 
 constexpr int IDS_TINT_ORIGINAL = 117;
 

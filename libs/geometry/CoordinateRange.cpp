@@ -1,5 +1,7 @@
 #include "kestotool/geometry/CoordinateRange.h"
 
+#include "kestotool/geometry/Rounding.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -19,6 +21,12 @@ double Saturate(double v)
 K2DDblPoint SaturateToRange(const K2DDblPoint& p)
 {
     return {Saturate(p.x), Saturate(p.y)};
+}
+
+Platform::CPoint RoundToRange(const K2DDblPoint& p)
+{
+    const K2DDblPoint q = SaturateToRange(p);
+    return {RoundHalfAwayFromZero(q.x), RoundHalfAwayFromZero(q.y)};
 }
 
 } // namespace Kesto2D

@@ -34,5 +34,8 @@ constexpr Platform::CPoint OffsetPoint(const Platform::CPoint& p, const Platform
 }
 // A double point clamped into the range: infinities go to the limits, NaN to 0.
 KESTO_API K2DDblPoint SaturateToRange(const K2DDblPoint& p);
+// A double point brought into the range and rounded half away from zero to integers (a pointer
+// position mapped from a window into the document, for example).
+KESTO_API Platform::CPoint RoundToRange(const K2DDblPoint& p);
 
 } // namespace Kesto2D

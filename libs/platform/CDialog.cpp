@@ -26,6 +26,8 @@ std::unique_ptr<CWnd> MakeControl(const std::string& className)
         return std::make_unique<CComboBox>();
     if (className == "Button")
         return std::make_unique<CButton>();
+    if (className == "CheckBox")
+        return std::make_unique<CCheckBox>();
     if (className == "Static")
         return std::make_unique<CStatic>();
     return std::make_unique<CWnd>();

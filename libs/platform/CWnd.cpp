@@ -83,6 +83,7 @@ bool CWnd::SubclassDlgItem(int id, CWnd* parent)
     const bool hadFocus = item->HasFocus();
     m_id = item->m_id;
     m_text = item->m_text;
+    m_toolTip = item->m_toolTip;
     m_enabled = item->m_enabled;
     m_visible = item->m_visible;
     m_rect = item->m_rect;
@@ -211,5 +212,14 @@ void CWnd::OnVScroll(int, int, CWnd*) {}
 void CWnd::OnShowWindow(bool, int) {}
 void CWnd::OnEnable(bool) {}
 void CWnd::OnWindowPosChanging(WINDOWPOS*) {}
+void CWnd::OnLButtonDown(unsigned, CPoint) {}
+void CWnd::OnMouseMove(unsigned, CPoint) {}
+void CWnd::OnLButtonUp(unsigned, CPoint) {}
+
+void CWnd::SetToolTipText(const CString& text)
+{
+    m_toolTip = text;
+    StateChanged();
+}
 
 } // namespace Platform

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kestotool/platform/CCmdTarget.h"
+#include "kestotool/platform/CPoint.h"
 #include "kestotool/platform/CRect.h"
 #include "kestotool/platform/CString.h"
 #include "kestotool/platform/Export.h"
@@ -81,6 +82,16 @@ public:
     virtual void OnShowWindow(bool show, int status);
     virtual void OnEnable(bool enable);
     virtual void OnWindowPosChanging(WINDOWPOS* pos);
+    // The left mouse button and the pointer over this window: point in its client coordinates
+    // (dialog units), flags the MK_ keys held. Between a press and its release the window has the
+    // mouse: moves and the release come to it wherever the pointer is.
+    virtual void OnLButtonDown(unsigned flags, CPoint point);
+    virtual void OnMouseMove(unsigned flags, CPoint point);
+    virtual void OnLButtonUp(unsigned flags, CPoint point);
+
+    // The text shown when the pointer rests on the window; empty shows none.
+    void SetToolTipText(const CString& text);
+    const CString& GetToolTipText() const { return m_toolTip; }
 
 protected:
     // Lets the peer show a change of this window's state.
@@ -100,6 +111,7 @@ private:
     std::vector<CWnd*> m_children;
     std::vector<std::unique_ptr<CWnd>> m_owned;  // children made for a dialog template's items
     CString m_text;
+    CString m_toolTip;
     bool m_enabled = true;
     bool m_visible = true;
     CRect m_rect;

@@ -8,7 +8,7 @@
 namespace Platform {
 
 // One control of a dialog template. The class names the framework knows are "Edit", "Slider",
-// "Spin", "ComboBox", "Button" and "Static"; any other (a custom control) makes a plain window
+// "Spin", "ComboBox", "Button", "CheckBox" and "Static"; any other (a custom control) makes a plain window
 // for the dialog's own object to take over.
 struct DialogItemTemplate {
     std::string className;

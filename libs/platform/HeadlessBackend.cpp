@@ -118,10 +118,29 @@ void HeadlessBackend::ClickSpin(CSpinButtonCtrl& spin, bool up)
 void HeadlessBackend::ClickButton(CWnd& dialog, int id)
 {
     // A click focuses the button first, so an edit box being typed in loses the focus.
-    if (CWnd* item = dialog.GetDlgItem(id)) {
+    if (auto* button = dynamic_cast<CButton*>(dialog.GetDlgItem(id))) {
+        button->Click();
+    } else if (CWnd* item = dialog.GetDlgItem(id)) {
         item->SetFocus();
         item->NotifyParent(BN_CLICKED);
     }
+}
+
+void HeadlessBackend::DragMouse(CWnd& window, CPoint from, CPoint to, unsigned flags)
+{
+    window.OnLButtonDown(flags | MK_LBUTTON, from);
+    // Half way first, so a drag is seen moving and not only arriving.
+    window.OnMouseMove(flags | MK_LBUTTON, CPoint((from.x + to.x) / 2, (from.y + to.y) / 2));
+    window.OnMouseMove(flags | MK_LBUTTON, to);
+    window.OnLButtonUp(flags, to);
+}
+
+bool HeadlessBackend::ChooseColour(CWnd*, COLORREF initial, COLORREF* chosen)
+{
+    const std::optional<COLORREF> answer = m_colourScript ? m_colourScript(initial) : std::nullopt;
+    if (answer && chosen)
+        *chosen = *answer;
+    return answer.has_value();
 }
 
 } // namespace Platform

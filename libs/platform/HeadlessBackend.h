@@ -1,10 +1,12 @@
 #pragma once
 
+#include "kestotool/platform/CPoint.h"
 #include "kestotool/platform/Export.h"
 #include "kestotool/platform/ManualClock.h"
 #include "kestotool/platform/WindowBackend.h"
 
 #include <functional>
+#include <optional>
 
 namespace Platform {
 
@@ -30,9 +32,15 @@ public:
     // The script's run ends when the script returns; nothing to leave.
     void EndModal(CDialog&, int) override {}
     void WindowDestroyed(CWnd* window) override;
+    // Answers from the colour script (cancelled without one).
+    bool ChooseColour(CWnd* owner, COLORREF initial, COLORREF* chosen) override;
 
     // The script the next modal runs play; it stays until replaced.
     void SetModalScript(ModalScript script) { m_script = std::move(script); }
+    // What the user picks in the colour chooser from now on: a colour, or nothing to cancel.
+    // Null cancels every choice.
+    using ColourScript = std::function<std::optional<COLORREF>(COLORREF initial)>;
+    void SetColourScript(ColourScript script) { m_colourScript = std::move(script); }
 
     long long Now() const { return m_clock.Now(); }
     // Moves the clock on, firing every timer that falls due, in time order (a timer repeats
@@ -53,12 +61,16 @@ public:
     void ClickSpin(CSpinButtonCtrl& spin, bool up);
     // The user clicks the button with that id in the dialog (focusing it, as a click does).
     void ClickButton(CWnd& dialog, int id);
+    // The user presses the left button at from in the window (client dialog units), drags
+    // through to and lets go there, holding the MK_ keys in flags.
+    void DragMouse(CWnd& window, CPoint from, CPoint to, unsigned flags = 0);
 
 private:
     ManualClock m_clock;
     long long m_changes = 0;
     CWnd* m_focus = nullptr;
     ModalScript m_script;
+    ColourScript m_colourScript;
 };
 
 // The headless back end that is installed by default.

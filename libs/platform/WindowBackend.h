@@ -1,5 +1,6 @@
 #pragma once
 
+#include "kestotool/platform/ColourRef.h"
 #include "kestotool/platform/Export.h"
 #include "kestotool/platform/WindowPeer.h"
 
@@ -30,6 +31,9 @@ public:
     virtual void EndModal(CDialog& dialog, int result) = 0;
     // A window is going away: forget its timers and its focus.
     virtual void WindowDestroyed(CWnd* window) = 0;
+    // The system's colour chooser, modal over owner, starting at initial: true with the colour
+    // the user chose, false when the user cancelled.
+    virtual bool ChooseColour(CWnd* owner, COLORREF initial, COLORREF* chosen) = 0;
 };
 
 // The installed back end.

@@ -22,6 +22,11 @@ constexpr unsigned VK_BACK = 8;
 constexpr unsigned VK_RETURN = 13;
 constexpr unsigned VK_DELETE = 46;
 
+// Keys held during a mouse message.
+constexpr unsigned MK_LBUTTON = 0x0001;
+constexpr unsigned MK_SHIFT = 0x0004;
+constexpr unsigned MK_CONTROL = 0x0008;
+
 constexpr int BN_CLICKED = 0;
 constexpr int CBN_SELCHANGE = 1;
 constexpr int EN_SETFOCUS = 0x0100;

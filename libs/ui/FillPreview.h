@@ -16,9 +16,6 @@ public:
     void SetFill(const KestoGDI::CFill* fill);
     const KestoGDI::CFill* GetFill() const { return m_fill.get(); }
     int GetRefreshCount() const { return m_refreshes; }
-    // The view's scale: document units per pixel of the window (1 until the view is zoomed).
-    void SetUnitsPerPixel(double units) { m_unitsPerPixel = units; }
-    double GetUnitsPerPixel() const { return m_unitsPerPixel; }
 
 protected:
     Platform::WindowKind GetWindowKind() const override { return Platform::WindowKind::FillPreview; }
@@ -27,7 +24,6 @@ private:
     Platform::CRect m_bounds;
     Kernel::RefPtr<KestoGDI::CFill> m_fill;
     int m_refreshes = 0;
-    double m_unitsPerPixel = 1.0;
 };
 
 } // namespace KestoUI

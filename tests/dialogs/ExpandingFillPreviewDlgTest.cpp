@@ -30,6 +30,8 @@ CFillLinear Linear(const CRect& box)
 
 TEST(ExpandingFillPreviewDlg, IsTheSiteOfItsPreviewsToolAsTheTableSays)
 {
+    KestoTest::UserInput& input = *KestoTest::UserInputs().front();
+    input.Install();
     KestoTest::TestDocument document;
     const CFillLinear fill = Linear(CRect(0, 0, 1000, 1000));
     CGradientFillDlg dialog(&document, &fill, CRect(), nullptr);
@@ -48,19 +50,30 @@ TEST(ExpandingFillPreviewDlg, IsTheSiteOfItsPreviewsToolAsTheTableSays)
     site.ConstrainAngle(CPoint(0, 0), p, true);
     EXPECT_EQ(p, CPoint(13, 17));
 
-    // Screen pixels to paper: dots per inch over 96, times the preview's units per pixel.
-    Platform::ScreenMetrics::SetLogPixelsX(192);
-    const_cast<KestoUI::FillPreview&>(dialog.GetPreview()).SetUnitsPerPixel(2.5);
-    Platform::SIZE size{4, 10};
-    site.ClientToPaper(&size);
-    EXPECT_EQ(size.cx, 20);
-    EXPECT_EQ(size.cy, 50);
-    Platform::ScreenMetrics::SetLogPixelsX(96);
+    // Screen pixels to paper: dots per inch over 96, times the preview's units per pixel. The
+    // preview 270 units wide shows the 1000-unit object fitted into 80% of it; zoomed to 200%,
+    // a unit is half as many document units.
+    input.SetModalScript([&](Platform::CDialog&) {
+        Platform::ScreenMetrics::SetLogPixelsX(192);
+        const struct {
+            int zoom, cx, cy;
+        } rows[] = {{100, 370, 185}, {200, 185, 93}};
+        for (const auto& row : rows) {
+            dialog.GetPreview().SetZoom(row.zoom);
+            Platform::SIZE size{40, 20};
+            site.ClientToPaper(&size);
+            EXPECT_EQ(size.cx, row.cx) << row.zoom;
+            EXPECT_EQ(size.cy, row.cy) << row.zoom;
+        }
+        Platform::ScreenMetrics::SetLogPixelsX(96);
+    });
+    dialog.DoModal();
 
     ASSERT_NE(dynamic_cast<FillToolLinear*>(dialog.GetTool()), nullptr);
     CString hint;
     dialog.GetTool()->GetHintLine(&hint);
     EXPECT_FALSE(hint.IsEmpty());
+    input.Uninstall();
 }
 
 TEST(ExpandingFillPreviewDlg, AKindWithoutAToolKeepsThePreviousTool)

@@ -7,12 +7,12 @@ cmake_minimum_required(VERSION 3.25)
 # What hosts and back ends use of each foundation namespace (classes and free functions).
 set(public_Platform
   CObject CCmdTarget CCmdUI CWnd CDialog CEdit CButton CStatic CComboBox CListItems CSliderCtrl
-  CSpinButtonCtrl CRect CString CResourceModule CXTPCommandBars CXTPControl CXTPControlButton
+  CCheckBox CSpinButtonCtrl CRect CString CResourceModule CXTPCommandBars CXTPControl CXTPControlButton
   CXTPControlPopup CXTPControlSplitButtonPopup CXTPControlEdit CXTPControlComboBox
   CXTPControlPopupColor CXTPImageManager HeadlessBackend Headless ManualClock WindowBackend
   WindowPeer Backend SetBackend ScreenMetrics)
 set(public_Kesto2D K2DDblPoint K2DArrayPoint K2DCurve K2DLtGeneral KCAngle RoundHalfAwayFromZero MulDiv
-  SaturateToRange)
+  SaturateToRange RoundToRange)
 set(public_KestoRaster Path PreparedPaint Render CompositeOver)
 # A few that a host must find.
 set(required KestoTool::Version KestoTool::FillToolFactory::Create KestoTool::Init Platform::CWnd
