@@ -8,6 +8,9 @@
 #include "kestotool/resources/ResourceIds.h"
 #include "kestotool/tool/Module.h"
 
+#include <cmath>
+#include <cwchar>
+
 namespace KestoTool {
 
 namespace {
@@ -149,6 +152,23 @@ void ExpandingFillPreviewDlg::OnExpand()
     frame.right = frame.left + (m_expanded ? m_expandedWidth : m_preview.GetWindowRect().left);
     MoveWindow(frame);
     ShowExpandImage();
+}
+
+std::optional<double> ExpandingFillPreviewDlg::NumberIn(const Platform::CEdit& edit)
+{
+    const CString text = edit.GetWindowText();
+    wchar_t* end = nullptr;
+    const double value = std::wcstod(text.GetString(), &end);
+    if (end == text.GetString() || !std::isfinite(value))
+        return std::nullopt;
+    return value;
+}
+
+void ExpandingFillPreviewDlg::ShowNumber(Platform::CEdit& edit, double value)
+{
+    CString text;
+    text.Format(L"%g", value);
+    edit.SetWindowText(text);
 }
 
 const KestoGDI::CFill* ExpandingFillPreviewDlg::GetCurrentFill() const

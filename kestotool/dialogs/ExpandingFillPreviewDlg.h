@@ -8,10 +8,12 @@
 #include "kestotool/tool/KestoToolImports.h"
 #include "kestotool/platform/CButton.h"
 #include "kestotool/platform/CComboBox.h"
+#include "kestotool/platform/CEdit.h"
 #include "kestotool/ui/FillControl.h"
 #include "kestotool/ui/KCResourceDialog.h"
 
 #include <memory>
+#include <optional>
 
 namespace KestoTool {
 
@@ -83,6 +85,14 @@ public:
     double GetAngleSnapTolerance() override { return 5.0; }
 
 protected:
+    // The number a box holds; nothing for text that is no number.
+    static std::optional<double> NumberIn(const Platform::CEdit& edit);
+    // Shows a number in a box without needless digits ("37.5", "12").
+    static void ShowNumber(Platform::CEdit& edit, double value);
+
+    // Pixels: the side of the colour swatch a colour button shows.
+    static constexpr int SwatchSide = 14;
+
     // What a commit of the preview's tool does besides giving the fill back to the tool.
     enum class CommitRule {
         // The stop list becomes the dialog's editing state, and the dialog's fill is rebuilt

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "kestotool/dialogs/ExpandingFillPreviewDlg.h"
+#include "kestotool/dialogs/GradientDlgBase.h"
 #include "kestotool/gdi/CFillGradient.h"
 #include "kestotool/platform/Export.h"
 #include "kestotool/resources/ResourceIds.h"
@@ -8,10 +8,10 @@
 namespace KestoTool {
 
 // The editor of linear, radial, elliptical, conical and square fills.
-class KESTO_API CGradientFillDlg : public ExpandingFillPreviewDlg {
+class KESTO_API CGradientFillDlg : public GradientDlgBase {
 public:
     CGradientFillDlg(IDocumentEx* document, const KestoGDI::CFillGradient* fill, const CRect& objectRect, Platform::CWnd* parent)
-        : ExpandingFillPreviewDlg(IDD_GRADIENT_FILL, document, fill, objectRect, parent, CommitRule::TakeStops)
+        : GradientDlgBase(IDD_GRADIENT_FILL, document, fill, objectRect, parent)
     {
     }
 };

@@ -1,19 +1,50 @@
 #pragma once
 
-#include "kestotool/dialogs/ExpandingFillPreviewDlg.h"
+#include "kestotool/dialogs/StopListEditorDlg.h"
 #include "kestotool/gdi/CFillFractal.h"
+#include "kestotool/platform/CButton.h"
+#include "kestotool/platform/CSliderCtrl.h"
 #include "kestotool/platform/Export.h"
 #include "kestotool/resources/ResourceIds.h"
 
+#include <functional>
+
 namespace KestoTool {
 
-// The editor of plasma fills, and of plasma transparencies too.
-class KESTO_API CPlasmaFillDlg : public ExpandingFillPreviewDlg {
+// The editor of plasma fills, and of plasma transparencies too: the stop list that colours the
+// pattern, and the pattern itself (seed, with a button for a new one, grain, resolution, tile
+// inversion).
+class KESTO_API CPlasmaFillDlg : public StopListEditorDlg {
 public:
-    CPlasmaFillDlg(IDocumentEx* document, const KestoGDI::CFillFractal* fill, const CRect& objectRect, Platform::CWnd* parent)
-        : ExpandingFillPreviewDlg(IDD_PLASMA_FILL, document, fill, objectRect, parent, CommitRule::TakeStops)
-    {
-    }
+    CPlasmaFillDlg(IDocumentEx* document, const KestoGDI::CFillFractal* fill, const CRect& objectRect, Platform::CWnd* parent);
+
+    // Where New Seed takes its seeds from (a random device unless set).
+    void SetSeedSource(std::function<unsigned()> source) { m_seedSource = std::move(source); }
+    Platform::CEdit& GetSeedEdit() { return m_seed; }
+    Platform::CEdit& GetResolutionEdit() { return m_resolution; }
+    Platform::CSliderCtrl& GetGrainSlider() { return m_grain; }
+    Platform::CCheckBox& GetInvertBox() { return m_invert; }
+
+protected:
+    bool OnInitDialog() override;
+    void DoDataExchange(Platform::CDataExchange* pDX) override;
+    const Platform::AFX_MSGMAP* GetMessageMap() const override;
+    void OnEditedFillChanged() override;
+    void OnHScroll(int code, int pos, Platform::CWnd* bar) override;
+
+private:
+    // Applies a change to a copy of the plasma.
+    void Change(const std::function<void(KestoGDI::CFillFractal&)>& change);
+    void OnNewSeed();
+    void OnSeedEntered();
+    void OnResolutionEntered();
+    void OnInvert();
+
+    std::function<unsigned()> m_seedSource;
+    Platform::CEdit m_seed;
+    Platform::CEdit m_resolution;
+    Platform::CSliderCtrl m_grain;
+    Platform::CCheckBox m_invert;
 };
 
 } // namespace KestoTool

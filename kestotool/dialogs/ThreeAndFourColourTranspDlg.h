@@ -1,6 +1,6 @@
 #pragma once
 
-#include "kestotool/dialogs/ExpandingFillPreviewDlg.h"
+#include "kestotool/dialogs/CornerColourDlgBase.h"
 #include "kestotool/gdi/CFillGradient.h"
 #include "kestotool/platform/Export.h"
 #include "kestotool/resources/ResourceIds.h"
@@ -8,10 +8,10 @@
 namespace KestoTool {
 
 // The editor of three- and four-point transparencies.
-class KESTO_API CThreeAndFourColourTranspDlg : public ExpandingFillPreviewDlg {
+class KESTO_API CThreeAndFourColourTranspDlg : public CornerColourDlgBase {
 public:
     CThreeAndFourColourTranspDlg(IDocumentEx* document, const KestoGDI::CFillGradient* fill, const CRect& objectRect, Platform::CWnd* parent)
-        : ExpandingFillPreviewDlg(IDD_THREE_FOUR_COLOUR_TRANSPARENCY, document, fill, objectRect, parent, CommitRule::ToolOnly)
+        : CornerColourDlgBase(IDD_THREE_FOUR_COLOUR_TRANSPARENCY, document, fill, objectRect, parent, CommitRule::ToolOnly)
     {
     }
 };

@@ -4,6 +4,8 @@
 #include "kestotool/tool/ToolIdMap.h"
 #include "kestotool/tool/WadManager.h"
 
+#include <algorithm>
+
 namespace KestoTool {
 
 Platform::XTPImage ToXTPImage(const CLtBitmap& bitmap)
@@ -16,6 +18,15 @@ Platform::XTPImage LoadXTPImage(const wchar_t* name)
 {
     const RefPtr<CLtBitmap> bitmap = WadManager::GetInstance().LoadImage(name);
     return bitmap ? ToXTPImage(*bitmap) : Platform::XTPImage{};
+}
+
+Platform::XTPImage SwatchImage(Platform::COLORREF colour, int side)
+{
+    const std::uint32_t argb = 0xFF000000u | (static_cast<std::uint32_t>(Platform::GetRValue(colour)) << 16) |
+                               (static_cast<std::uint32_t>(Platform::GetGValue(colour)) << 8) |
+                               static_cast<std::uint32_t>(Platform::GetBValue(colour));
+    const int n = std::max(0, side);
+    return {n, n, std::vector<std::uint32_t>(static_cast<std::size_t>(n) * static_cast<std::size_t>(n), argb)};
 }
 
 void RegisterFillToolImages(Platform::CXTPImageManager& images, int start)

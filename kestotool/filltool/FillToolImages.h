@@ -2,6 +2,7 @@
 
 #include "kestotool/gdi/CLtBitmap.h"
 #include "kestotool/platform/CXTPCommandBars.h"
+#include "kestotool/platform/ColourRef.h"
 #include "kestotool/platform/Export.h"
 
 namespace KestoTool {
@@ -11,6 +12,9 @@ KESTO_API Platform::XTPImage ToXTPImage(const KestoGDI::CLtBitmap& bitmap);
 // An image of the archive's folder for the screen's resolution ("Zoom in.png"); empty when the
 // archive lacks it.
 KESTO_API Platform::XTPImage LoadXTPImage(const wchar_t* name);
+
+// A square of one colour, side pixels wide: the swatch of a colour button.
+KESTO_API Platform::XTPImage SwatchImage(Platform::COLORREF colour, int side);
 
 // Once per process: allocates the fill tools' range, then (given bars) puts every image of every
 // resolution folder on its command at the bars' image manager's preferred size for that folder.

@@ -103,7 +103,7 @@ Items CornerItems()
     Items items;
     for (int i = 0; i < 4; ++i) {
         const int top = 14 + i * 34;
-        items.push_back({"Static", -1, CRect(10, top + 4, 90, top + 22), names[i]});
+        items.push_back({"Static", IDC_CORNER_LABEL_FIRST + i, CRect(10, top + 4, 90, top + 22), names[i]});
         items.push_back({"Button", IDC_CORNER_COLOUR_FIRST + i, CRect(94, top, 200, top + 26), L"Colour..."});
         items.push_back({"Edit", IDC_CORNER_LEVEL_FIRST + i, CRect(94, top, 150, top + 26), L""});
     }

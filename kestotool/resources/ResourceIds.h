@@ -43,10 +43,11 @@ constexpr int IDC_PLASMA_GRAIN = 14922;
 constexpr int IDC_PLASMA_RESOLUTION = 14923;
 constexpr int IDC_PLASMA_INVERT = 14924;
 
-// The three/four-colour editors: a colour button (fills) or a level box (transparencies) per
-// corner, corners 1 to 4 at consecutive ids.
+// The three/four-colour editors: a name, and a colour button (fills) or a level box
+// (transparencies) per corner, corners 1 to 4 at consecutive ids.
 constexpr int IDC_CORNER_COLOUR_FIRST = 14930;
 constexpr int IDC_CORNER_LEVEL_FIRST = 14934;
+constexpr int IDC_CORNER_LABEL_FIRST = 14938;
 
 // The vector editor.
 constexpr int IDC_VECTOR_MODE = 14950;
