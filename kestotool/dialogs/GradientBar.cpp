@@ -85,7 +85,7 @@ void GradientBar::OnControlPress(KestoUI::FillControl&, CPoint point, unsigned)
     const int hit = StopAt(point.x);
     if (hit != -1) {
         m_selected = hit;
-    } else if (m_stops.GetSize() < m_maxStops) {
+    } else if (m_maxStops < 0 || m_stops.GetSize() < m_maxStops) {
         const int position = std::clamp(point.x, 0, Width);
         const std::unique_ptr<KestoGDI::CColour> colour = m_stops.MakeColourForValue(position);
         m_selected = m_stops.Add(*colour, position);

@@ -29,7 +29,7 @@ public:
     std::function<void(bool done)> onStopsChanged;
 
     // Shows a stop list of a fill (a transparency's grey levels are how clear it is), keeping
-    // the selection where it can; maxStops bounds how many a click may add.
+    // the selection where it can; maxStops bounds how many a click may add (-1: no bound).
     void SetStops(const KestoGDI::ColourIntPairs& stops, bool transparency, int maxStops);
     const KestoGDI::ColourIntPairs& GetStops() const { return m_stops; }
     // The selected stop's index, always a valid one while there are stops.

@@ -49,7 +49,7 @@ public:
 
     auto begin() const { return Read().begin(); }
     auto end() const { return Read().end(); }
-    friend bool operator==(const ColourIntPairs& a, const ColourIntPairs& b);
+    friend KESTO_API bool operator==(const ColourIntPairs& a, const ColourIntPairs& b);
 
 private:
     using Stops = std::vector<CColourIntPair>;

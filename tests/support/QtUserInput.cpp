@@ -8,7 +8,9 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QInputMethodEvent>
+#include <QComboBox>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QSlider>
 #include <QTest>
 #include <QToolButton>
@@ -51,6 +53,7 @@ public:
     void Uninstall() override
     {
         m_backend->SetModalScript(nullptr);
+        m_backend->SetColourScript(nullptr);
         Platform::SetBackend(nullptr);
     }
     void SetModalScript(std::function<void(Platform::CDialog&)> script) override
@@ -104,6 +107,32 @@ public:
             QTest::mouseClick(button, Qt::LeftButton);
     }
     void AdvanceClock(int milliseconds) override { m_backend->AdvanceClock(milliseconds); }
+    void DragMouse(Platform::CWnd& window, Platform::CPoint from, Platform::CPoint to, unsigned flags) override
+    {
+        QWidget* widget = QtBackend::WidgetOf(window);
+        if (!widget)
+            return;
+        const Qt::KeyboardModifiers modifiers = (flags & Platform::MK_SHIFT ? Qt::ShiftModifier : Qt::NoModifier) |
+                                                (flags & Platform::MK_CONTROL ? Qt::ControlModifier : Qt::NoModifier);
+        const double scale = QtBackend::PixelsPerUnit();
+        const auto send = [&](QEvent::Type type, Platform::CPoint at, Qt::MouseButtons buttons) {
+            const QPointF local(at.x * scale, at.y * scale);
+            QMouseEvent event(type, local, widget->mapToGlobal(local), Qt::LeftButton, buttons, modifiers);
+            QApplication::sendEvent(widget, &event);
+        };
+        send(QEvent::MouseButtonPress, from, Qt::LeftButton);
+        send(QEvent::MouseMove, Platform::CPoint((from.x + to.x) / 2, (from.y + to.y) / 2), Qt::LeftButton);
+        send(QEvent::MouseMove, to, Qt::LeftButton);
+        send(QEvent::MouseButtonRelease, to, Qt::NoButton);
+    }
+    void SelectItem(Platform::CComboBox& combo, int index) override
+    {
+        if (auto* box = qobject_cast<QComboBox*>(QtBackend::WidgetOf(combo))) {
+            box->setCurrentIndex(index);
+            emit box->activated(index);
+        }
+    }
+    void SetColourScript(ColourScript script) override { m_backend->SetColourScript(std::move(script)); }
 
 private:
     // The widget of the window that has the focus: where the user's keys go.

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "kestotool/platform/CComboBox.h"
 #include "kestotool/platform/CDialog.h"
 #include "kestotool/platform/CSliderCtrl.h"
 #include "kestotool/platform/CSpinButtonCtrl.h"
+#include "kestotool/platform/ColourRef.h"
 
 #include <functional>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -39,6 +42,15 @@ public:
     // Clicks the button with that id in the dialog.
     virtual void ClickButton(Platform::CWnd& dialog, int id) = 0;
     virtual void AdvanceClock(int milliseconds) = 0;
+    // Presses the left button at from in the window (client dialog units), drags through to
+    // and lets go there, holding the MK_ keys in flags.
+    virtual void DragMouse(Platform::CWnd& window, Platform::CPoint from, Platform::CPoint to, unsigned flags = 0) = 0;
+    // Picks an item of the drop-down list.
+    virtual void SelectItem(Platform::CComboBox& combo, int index) = 0;
+    // What the user picks in the colour chooser from now on (nothing cancels); null for no
+    // script.
+    using ColourScript = std::function<std::optional<Platform::COLORREF>(Platform::COLORREF initial)>;
+    virtual void SetColourScript(ColourScript script) = 0;
 };
 
 // Every back end of this build: headless always, Qt when the build has it.
