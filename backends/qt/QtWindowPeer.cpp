@@ -223,7 +223,7 @@ private:
 };
 
 // A click focuses the button and tells its parent, as a click on a classic push button does. A
-// button with an image shows the image instead of its text.
+// button with an image shows it before its text.
 class ButtonPeer : public QtWindowPeer {
 public:
     ButtonPeer(CWnd& window, QtBackend& backend, QAbstractButton* button) : QtWindowPeer(window, backend, button)
@@ -246,7 +246,7 @@ protected:
         const auto* button = dynamic_cast<const Platform::CButton*>(&GetWindow());
         const QIcon icon = button ? ToQIcon(button->GetImage()) : QIcon();
         Button()->setIcon(icon);
-        Button()->setText(icon.isNull() ? ToQString(GetWindow().GetWindowText()) : QString());
+        Button()->setText(ToQString(GetWindow().GetWindowText()));
         if (auto* push = qobject_cast<QPushButton*>(Button()))
             push->setDefault(GetWindow().GetDlgCtrlID() == Platform::IDOK);
         if (const auto* box = dynamic_cast<const Platform::CCheckBox*>(button))

@@ -47,6 +47,8 @@ bool CornerColourDlgBase::OnInitDialog()
         const auto at = static_cast<std::size_t>(i);
         const bool corner = i < CornerCount();
         m_labels[at].ShowWindow(corner ? Platform::SW_SHOW : Platform::SW_HIDE);
+        if (transparency)
+            m_labels[at].SetWindowText(m_labels[at].GetWindowText() + L" (%)");
         m_colours[at].ShowWindow(corner && !transparency ? Platform::SW_SHOW : Platform::SW_HIDE);
         m_levels[at].ShowWindow(corner && transparency ? Platform::SW_SHOW : Platform::SW_HIDE);
     }

@@ -22,7 +22,8 @@ GradientBar::GradientBar()
 {
     SetClient(this);
     SetFit(Fit::Stretch);
-    SetBounds(CRect(0, 0, Width, Height));
+    // A margin either side, so that the end stops' markers show whole.
+    SetBounds(CRect(-Width / 30, 0, Width + Width / 30, Height));
 }
 
 void GradientBar::SetStops(const KestoGDI::ColourIntPairs& stops, bool transparency, int maxStops)

@@ -7,7 +7,7 @@
 namespace Platform {
 
 // A push button: a click tells the parent BN_CLICKED under the button's id. It shows its text,
-// or its image when it has one.
+// and its image before the text when it has one.
 class KESTO_API CButton : public CWnd {
     KESTO_DECLARE_DYNAMIC(CButton)
 public:

@@ -6,6 +6,7 @@
 #include "Palette.h"
 #include "ScriptPlayer.h"
 
+#include "kestotool/dialogs/GradientFillDlg.h"
 #include "kestotool/filltool/FillToolLinear.h"
 #include "kestotool/filltool/FillToolRadial.h"
 #include "kestotool/gdi/CFillLinear.h"
@@ -134,6 +135,26 @@ TEST_F(KestoDrawWindow, GesturesDropsKeysAndTheTypeBoxEachMakeOneUndoStep)
 
     KestoTest::ExpectMatchesReference(window->grab().toImage(), QStringLiteral(KESTO_REFERENCE_DIR),
                                       QStringLiteral(KESTO_DIFFERENCE_DIR), "kestodraw-gestures");
+}
+
+// Edit Fill opens the gradient editor on the selected shape's fill: OK with a stop deleted is
+// one step; Cancel leaves the drawing as it was.
+TEST_F(KestoDrawWindow, EditFillOpensTheEditorAndOnlyOKChangesTheDrawing)
+{
+    Step("click 550 525");
+    KestoTest::UserInput& input = KestoTest::QtUserInput();
+    for (const int button : {Platform::IDCANCEL, Platform::IDOK}) {
+        input.SetModalScript([&](Platform::CDialog& dialog) {
+            auto* editor = dynamic_cast<KestoTool::CGradientFillDlg*>(&dialog);
+            ASSERT_NE(editor, nullptr);
+            editor->GetBar().Select(1);
+            input.ClickButton(dialog, KestoTool::IDC_STOP_DELETE);
+            input.ClickButton(dialog, button);
+        });
+        window->EditFill(false);
+    }
+    ASSERT_EQ(window->Undo().count(), 1);
+    EXPECT_EQ(StopPositions(FillOf(*window, 0)).size(), 3u);
 }
 
 TEST_F(KestoDrawWindow, ShapesAreDrawnAndAShapeWithoutAToolGetsALinearFillFromADrag)

@@ -1,7 +1,22 @@
 // Pictures of the Qt back end compared with references: a real dialog window grabbed from the
 // X display, and tools drawing their handles over their fills into a QImage through both
 // render paths.
+#include "kestotool/dialogs/GradientFillDlg.h"
+#include "kestotool/dialogs/GradientTranspDlg.h"
+#include "kestotool/dialogs/PlasmaFillDlg.h"
 #include "kestotool/dialogs/SolidTransparencyDlg.h"
+#include "kestotool/dialogs/ThreeAndFourColourFillDlg.h"
+#include "kestotool/dialogs/ThreeAndFourColourTranspDlg.h"
+#include "kestotool/dialogs/VectorFillDlgBase.h"
+#include "kestotool/gdi/CFillFourColour.h"
+#include "kestotool/gdi/CFillFractal.h"
+#include "kestotool/gdi/CFillRadial.h"
+#include "kestotool/gdi/CFillSolid.h"
+#include "kestotool/gdi/CTransparencyLinear.h"
+#include "kestotool/gdi/CTransparencyThreePoint.h"
+#include "kestotool/gdi/VectorDrawing.h"
+#include "kestotool/resources/ResourceIds.h"
+#include "support/TestDocument.h"
 #include "kestotool/filltool/FillToolFactory.h"
 #include "kestotool/gdi/CFillLinear.h"
 #include "kestotool/gdi/CFillSquare.h"
@@ -65,6 +80,112 @@ TEST_F(QtScreenshots, SolidTransparencyDialogInARealWindow)
     });
     ASSERT_EQ(dialog.DoModal(), Platform::IDOK);
     ExpectMatchesReference(shot, "solid-transparency-dialog");
+}
+
+namespace {
+
+KestoGDI::ColourIntPairs Stops(std::initializer_list<Platform::COLORREF> colours)
+{
+    KestoGDI::ColourIntPairs stops;
+    int at = 0;
+    for (const Platform::COLORREF c : colours) {
+        stops.Add(KestoGDI::CRGBColour(c), colours.size() > 1 ? at * 10000 / static_cast<int>(colours.size() - 1) : 0);
+        ++at;
+    }
+    return stops;
+}
+
+KestoGDI::ColourIntPairs Levels(std::initializer_list<int> levels)
+{
+    KestoGDI::ColourIntPairs stops;
+    int at = 0;
+    for (const int level : levels) {
+        stops.Add(KestoGDI::CMonoColour(level), levels.size() > 1 ? at * 10000 / static_cast<int>(levels.size() - 1) : 0);
+        ++at;
+    }
+    return stops;
+}
+
+template <class Fill>
+Kernel::RefPtr<Fill> Placed(const KestoGDI::ColourIntPairs& stops)
+{
+    auto fill = Kernel::MakeRef<Fill>();
+    fill->SetDefaultControls(Platform::CRect(0, 0, 1000, 1000));
+    fill->SetColourIntPairs(stops);
+    return fill;
+}
+
+// A drawing of a red disc-like diamond and a blue bar, for the vector editor.
+Kernel::RefPtr<const KestoGDI::VectorDrawing> Motif()
+{
+    auto drawing = Kernel::MakeRef<KestoGDI::VectorDrawing>(400, 400);
+    KestoRaster::Path diamond;
+    diamond.MoveTo({200, 20});
+    diamond.LineTo({380, 200});
+    diamond.LineTo({200, 380});
+    diamond.LineTo({20, 200});
+    diamond.Close();
+    drawing->AddShape(diamond, Kernel::MakeRef<KestoGDI::CFillSolid>(KestoGDI::CRGBColour(Platform::RGB(220, 40, 40)), true));
+    KestoRaster::Path bar;
+    bar.MoveTo({0, 180});
+    bar.LineTo({400, 180});
+    bar.LineTo({400, 220});
+    bar.LineTo({0, 220});
+    bar.Close();
+    drawing->AddShape(bar, Kernel::MakeRef<KestoGDI::CFillSolid>(KestoGDI::CRGBColour(Platform::RGB(30, 60, 200)), true));
+    return drawing;
+}
+
+} // namespace
+
+// Each editor in a real window, as the user first sees it (the gradient editor after a stop was
+// added on its bar and a handle dragged in its preview).
+TEST_F(QtScreenshots, EditorsInRealWindows)
+{
+    ASSERT_EQ(QGuiApplication::platformName(), QStringLiteral("xcb")) << "run under xvfb-run with QT_QPA_PLATFORM=xcb";
+    using Platform::RGB;
+    KestoTest::TestDocument document;
+    const Platform::CRect object(0, 0, 1000, 1000);
+    const auto radial = Placed<KestoGDI::CFillRadial>(Stops({RGB(250, 220, 60), RGB(230, 80, 30), RGB(90, 20, 90)}));
+    const auto transparency = Placed<KestoGDI::CTransparencyLinear>(Levels({0, 255}));
+    const auto plasma = Placed<KestoGDI::CFillFractal>(Stops({RGB(10, 30, 90), RGB(60, 160, 220), RGB(250, 250, 255)}));
+    const auto four = Placed<KestoGDI::CFillFourColour>(
+        Stops({RGB(230, 40, 40), RGB(240, 220, 40), RGB(40, 120, 230), RGB(40, 200, 90)}));
+    const auto three = Placed<KestoGDI::CTransparencyThreePoint>(Levels({0, 128, 255}));
+    auto vector = Kernel::MakeRef<KestoGDI::CFillVector>(Motif());
+    vector->SetDefaultControls(object);
+
+    CGradientFillDlg gradient(&document, radial.get(), object, nullptr);
+    CGradientTranspDlg gradientTransparency(&document, transparency.get(), object, nullptr);
+    CPlasmaFillDlg plasmaDialog(&document, plasma.get(), object, nullptr);
+    CThreeAndFourColourFillDlg fourDialog(&document, four.get(), object, nullptr);
+    CThreeAndFourColourTranspDlg threeDialog(&document, three.get(), object, nullptr);
+    CVectorFillDlgBase vectorDialog(&document, vector.get(), object, nullptr, IDD_VECTOR_FILL, {});
+    const std::pair<ExpandingFillPreviewDlg*, const char*> editors[] = {
+        {&gradient, "editor-gradient"},       {&gradientTransparency, "editor-gradient-transparency"},
+        {&plasmaDialog, "editor-plasma"},     {&fourDialog, "editor-four-colour"},
+        {&threeDialog, "editor-three-point"}, {&vectorDialog, "editor-vector"},
+    };
+    for (const auto& [editor, name] : editors) {
+        QImage shot;
+        input.SetModalScript([&, editorName = std::string(name)](Platform::CDialog& d) {
+            if (editorName == "editor-gradient") {
+                GradientBar& bar = gradient.GetBar();
+                const Platform::CPoint at = bar.GetViewTransform().ApplyTo(Platform::CPoint(2500, 500));
+                input.DragMouse(bar, at, at);
+                KestoUI::FillControl& preview = gradient.GetPreview();
+                const Platform::CPoint rim = preview.GetViewTransform().ApplyTo(gradient.GetFill()->GetControlPoint(1).Round());
+                input.DragMouse(preview, rim, Platform::CPoint(rim.x + 15, rim.y - 25));
+            }
+            QWidget* window = QtBackend::WidgetOf(d);
+            ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
+            window->repaint();
+            shot = window->screen()->grabWindow(window->winId()).toImage();
+            input.ClickButton(d, Platform::IDOK);
+        });
+        ASSERT_EQ(editor->DoModal(), Platform::IDOK) << name;
+        ExpectMatchesReference(shot, name);
+    }
 }
 
 TEST_F(QtScreenshots, ToolHandlesOverTheirFillsThroughBothRenderPaths)
