@@ -49,7 +49,7 @@ void ExpandingFillPreviewDlg::SetEditedFill(const KestoGDI::CFill* fill)
     m_fill = fill ? fill->Clone() : nullptr;
     if (const auto* stops = dynamic_cast<const KestoGDI::CFillWithStops*>(m_fill.get()))
         m_stops = stops->GetColourIntPairs();
-    if (std::unique_ptr<FillTool> tool = FillToolFactory::Create(m_fill.get(), this))
+    if (std::unique_ptr<FillTool> tool = FillToolFactory::CreateWrapped(m_fill.get(), this))
         m_tool = std::move(tool);
     m_preview.SetFill(m_fill.get());
     OnEditedFillChanged();

@@ -10,6 +10,7 @@
 #include "kestotool/filltool/FillToolSquare.h"
 #include "kestotool/filltool/FillToolThreeColour.h"
 #include "kestotool/filltool/FillToolVector.h"
+#include "kestotool/filltool/FillToolWrapper.h"
 #include "kestotool/gdi/CFillConical.h"
 #include "kestotool/gdi/CFillBitmap.h"
 #include "kestotool/gdi/CFillEllipse.h"
@@ -30,7 +31,7 @@ using namespace KestoGDI;
 // tool do.
 class ToolChoice final : public ConstFillVisitor {
 public:
-    explicit ToolChoice(IToolSite* site) : m_site(site) {}
+    ToolChoice(IToolSite* site, bool wrapped) : m_site(site), m_wrapped(wrapped) {}
 
     std::unique_ptr<FillTool> tool;
 
@@ -52,21 +53,39 @@ private:
     template <class Tool>
     void Make(const CFill& fill)
     {
-        tool = std::make_unique<Tool>(&fill, m_site);
+        if (m_wrapped)
+            tool = std::make_unique<FillToolWrapper<Tool>>(&fill, m_site);
+        else
+            tool = std::make_unique<Tool>(&fill, m_site);
     }
 
     IToolSite* m_site;
+    bool m_wrapped;
 };
+
+} // namespace
+
+namespace {
+
+std::unique_ptr<FillTool> Choose(const CFill* fill, IToolSite* site, bool wrapped)
+{
+    if (!fill)
+        return nullptr;
+    ToolChoice choice(site, wrapped);
+    fill->Accept(choice);
+    return std::move(choice.tool);
+}
 
 } // namespace
 
 std::unique_ptr<FillTool> FillToolFactory::Create(const CFill* fill, IToolSite* site)
 {
-    if (!fill)
-        return nullptr;
-    ToolChoice choice(site);
-    fill->Accept(choice);
-    return std::move(choice.tool);
+    return Choose(fill, site, false);
+}
+
+std::unique_ptr<FillTool> FillToolFactory::CreateWrapped(const CFill* fill, IToolSite* site)
+{
+    return Choose(fill, site, true);
 }
 
 } // namespace KestoTool

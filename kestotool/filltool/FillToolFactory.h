@@ -18,6 +18,8 @@ public:
     // A new tool with its own copy of fill and site as its host; null for a kind without a
     // tool (or no fill).
     static std::unique_ptr<FillTool> Create(const CFill* fill, IToolSite* site);
+    // The same tool as FillToolWrapper<Tool>, as the editor dialogs hold them.
+    static std::unique_ptr<FillTool> CreateWrapped(const CFill* fill, IToolSite* site);
 };
 
 } // namespace KestoTool

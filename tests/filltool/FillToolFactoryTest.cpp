@@ -1,4 +1,5 @@
 #include "kestotool/filltool/FillToolFactory.h"
+#include "kestotool/filltool/FillToolWrapper.h"
 
 #include "kestotool/filltool/FillToolBitmap.h"
 #include "kestotool/filltool/FillToolConical.h"
@@ -16,24 +17,37 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <utility>
 #include <typeinfo>
 
 using namespace KestoTool;
 
+namespace {
+
+// A tool class as the host gets it and as the editor dialogs get it.
+using ToolTypes = std::pair<const std::type_info*, const std::type_info*>;
+template <class Tool>
+ToolTypes Types()
+{
+    return {&typeid(Tool), &typeid(FillToolWrapper<Tool>)};
+}
+
+} // namespace
+
 TEST(FillToolFactory, EachKindGetsItsToolOrNone)
 {
     // The kinds whose tools exist; every other kind, fill or transparency, gets no tool.
-    const std::map<int, const std::type_info*> tools = {
-        {KestoGDI::FillType::Linear, &typeid(FillToolLinear)},
-        {KestoGDI::FillType::Radial, &typeid(FillToolRadial)},
-        {KestoGDI::FillType::Elliptical, &typeid(FillToolElliptical)},
-        {KestoGDI::FillType::Conical, &typeid(FillToolConical)},
-        {KestoGDI::FillType::Square, &typeid(FillToolSquare)},
-        {KestoGDI::FillType::ThreeColour, &typeid(FillToolThreeColour)},
-        {KestoGDI::FillType::FourColour, &typeid(FillToolFourColour)},
-        {KestoGDI::FillType::Plasma, &typeid(FillToolPlasma)},
-        {KestoGDI::FillType::Bitmap, &typeid(FillToolBitmap)},
-        {KestoGDI::FillType::Vector, &typeid(FillToolVector)},
+    const std::map<int, ToolTypes> tools = {
+        {KestoGDI::FillType::Linear, Types<FillToolLinear>()},
+        {KestoGDI::FillType::Radial, Types<FillToolRadial>()},
+        {KestoGDI::FillType::Elliptical, Types<FillToolElliptical>()},
+        {KestoGDI::FillType::Conical, Types<FillToolConical>()},
+        {KestoGDI::FillType::Square, Types<FillToolSquare>()},
+        {KestoGDI::FillType::ThreeColour, Types<FillToolThreeColour>()},
+        {KestoGDI::FillType::FourColour, Types<FillToolFourColour>()},
+        {KestoGDI::FillType::Plasma, Types<FillToolPlasma>()},
+        {KestoGDI::FillType::Bitmap, Types<FillToolBitmap>()},
+        {KestoGDI::FillType::Vector, Types<FillToolVector>()},
     };
     KestoTest::TestToolSite site;
     for (const KestoGDI::FillKind& kind : KestoGDI::FillKinds::All()) {
@@ -43,13 +57,17 @@ TEST(FillToolFactory, EachKindGetsItsToolOrNone)
             SCOPED_TRACE(c->m_lpszClassName);
             const RefPtr<CFill> fill = CFill::CreateFromClass(c);
             const std::unique_ptr<FillTool> tool = FillToolFactory::Create(fill.get(), &site);
+            const std::unique_ptr<FillTool> wrapped = FillToolFactory::CreateWrapped(fill.get(), &site);
             const auto expected = tools.find(kind.type);
             if (expected == tools.end()) {
                 EXPECT_EQ(tool, nullptr);
+                EXPECT_EQ(wrapped, nullptr);
                 continue;
             }
             ASSERT_NE(tool, nullptr);
-            EXPECT_EQ(typeid(*tool), *expected->second);
+            ASSERT_NE(wrapped, nullptr);
+            EXPECT_EQ(typeid(*tool), *expected->second.first);
+            EXPECT_EQ(typeid(*wrapped), *expected->second.second);
             EXPECT_TRUE(tool->GetFill()->IsEqual(*fill));
         }
     }
