@@ -48,8 +48,9 @@ DialogTemplate EditorTemplate(int id, const wchar_t* caption, Items own)
     return {id, caption, CRect(0, 0, 580, 326), std::move(items)};
 }
 
-// The stop list: the bar, the selected stop's position, colour and level, and the angle.
-Items StopItems(const wchar_t* levelLabel)
+// The stop list: the bar, the selected stop's position, colour and level (the editor names the
+// level for a transparency), and the angle.
+Items StopItems()
 {
     return {
         {"FillControl", IDC_GRADIENT_BAR, CRect(10, 44, 290, 84), L""},
@@ -58,7 +59,7 @@ Items StopItems(const wchar_t* levelLabel)
         {"Static", -1, CRect(154, 98, 170, 116), L"%"},
         {"Button", IDC_STOP_DELETE, CRect(200, 94, 290, 118), L"Delete"},
         {"Button", IDC_STOP_COLOUR, CRect(10, 126, 100, 150), L"Colour..."},
-        {"Static", IDC_STOP_LEVEL_LABEL, CRect(110, 130, 200, 148), levelLabel},
+        {"Static", IDC_STOP_LEVEL_LABEL, CRect(110, 130, 200, 148), L"Opacity"},
         {"Edit", IDC_STOP_LEVEL, CRect(204, 126, 260, 150), L""},
         {"Static", -1, CRect(264, 130, 280, 148), L"%"},
         {"Static", -1, CRect(10, 162, 80, 180), L"Angle"},
@@ -67,20 +68,20 @@ Items StopItems(const wchar_t* levelLabel)
     };
 }
 
-Items GradientItems(const wchar_t* levelLabel)
+Items GradientItems()
 {
     Items items{
         {"Static", -1, CRect(10, 14, 60, 32), L"Type"},
         {"ComboBox", IDC_GRADIENT_KIND, CRect(64, 10, 220, 34), L""},
     };
-    const Items stops = StopItems(levelLabel);
+    const Items stops = StopItems();
     items.insert(items.end(), stops.begin(), stops.end());
     return items;
 }
 
 Items PlasmaItems()
 {
-    Items items = StopItems(L"Opacity");
+    Items items = StopItems();
     const Items pattern{
         {"Static", -1, CRect(10, 198, 80, 216), L"Seed"},
         {"Edit", IDC_PLASMA_SEED, CRect(84, 194, 170, 218), L""},
@@ -120,8 +121,8 @@ Items VectorItems()
 }
 
 const DialogTemplate kEditors[] = {
-    EditorTemplate(IDD_GRADIENT_FILL, L"Gradient Fill", GradientItems(L"Opacity")),
-    EditorTemplate(IDD_GRADIENT_TRANSPARENCY, L"Gradient Transparency", GradientItems(L"Transparency")),
+    EditorTemplate(IDD_GRADIENT_FILL, L"Gradient Fill", GradientItems()),
+    EditorTemplate(IDD_GRADIENT_TRANSPARENCY, L"Gradient Transparency", GradientItems()),
     EditorTemplate(IDD_PLASMA_FILL, L"Plasma Fill", PlasmaItems()),
     EditorTemplate(IDD_THREE_FOUR_COLOUR_FILL, L"Multi-Colour Fill", CornerItems()),
     EditorTemplate(IDD_THREE_FOUR_COLOUR_TRANSPARENCY, L"Multi-Point Transparency", CornerItems()),

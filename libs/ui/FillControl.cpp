@@ -87,7 +87,9 @@ void FillControl::DrawOverlay(KestoGDI::IRenderTarget& target, const Kesto2D::K2
 
 void FillControl::OnLButtonDown(unsigned flags, Platform::CPoint point)
 {
-    if (m_pressed || !IsWindowEnabled())
+    // A press while the control still has the mouse means its release was lost (the window
+    // hidden mid-drag): the new press starts over.
+    if (!IsWindowEnabled())
         return;
     m_pressed = true;
     if (m_client)
