@@ -154,6 +154,7 @@ TEST_F(QtScreenshots, EditorsInRealWindows)
     const auto three = Placed<KestoGDI::CTransparencyThreePoint>(Levels({0, 128, 255}));
     auto vector = Kernel::MakeRef<KestoGDI::CFillVector>(Motif());
     vector->SetDefaultControls(object);
+    vector->UpdateBBox(object, {});  // as the tool's Edit Fill hands it over
 
     CGradientFillDlg gradient(&document, radial.get(), object, nullptr);
     CGradientTranspDlg gradientTransparency(&document, transparency.get(), object, nullptr);
