@@ -12,9 +12,11 @@
 #include "kestotool/platform/CXTPControlComboBox.h"
 #include "kestotool/tool/ToolIdMap.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <sstream>
+#include <vector>
 
 namespace KestoTest {
 
@@ -84,15 +86,19 @@ void SessionSite::Keep(const CFill* fill)
 
 const Platform::CRuntimeClass* GestureSession::PickKind()
 {
-    std::vector<const Platform::CRuntimeClass*> withTools;
-    TestToolSite probe;
-    for (const KestoGDI::FillKind& kind : KestoGDI::FillKinds::All()) {
-        for (const Platform::CRuntimeClass* c : {kind.fillClass, kind.transparencyClass}) {
-            const Kernel::RefPtr<CFill> sample = CFill::CreateFromClass(c);
-            if (sample && FillToolFactory::Create(sample.get(), &probe))
-                withTools.push_back(c);
+    // The kinds the factory makes tools for are fixed for the process: asked once, not per session.
+    static const std::vector<const Platform::CRuntimeClass*> withTools = [] {
+        std::vector<const Platform::CRuntimeClass*> classes;
+        TestToolSite probe;
+        for (const KestoGDI::FillKind& kind : KestoGDI::FillKinds::All()) {
+            for (const Platform::CRuntimeClass* c : {kind.fillClass, kind.transparencyClass}) {
+                const Kernel::RefPtr<CFill> sample = CFill::CreateFromClass(c);
+                if (sample && FillToolFactory::Create(sample.get(), &probe))
+                    classes.push_back(c);
+            }
         }
-    }
+        return classes;
+    }();
     return withTools[static_cast<std::size_t>(Int(0, static_cast<int>(withTools.size()) - 1))];
 }
 
@@ -104,15 +110,19 @@ Kernel::RefPtr<CFill> GestureSession::StartingFill(const Platform::CRuntimeClass
     if (!withStops || withStops->GetMaxStops() >= 0)
         return fill;
     const int n = Chance(80) ? Int(2, 8) : Int(2, 1000);
+    // Positions are drawn first and sorted as numbers: the list is built in order, since a
+    // session of up to 1,000 stops would otherwise spend most of its time sorting coloured stops.
+    std::vector<int> values(static_cast<std::size_t>(n));
+    for (int i = 0; i < n; ++i)
+        values[static_cast<std::size_t>(i)] = i == 0 ? 0 : i == n - 1 ? 10000 : Int(1, 9999);
+    std::sort(values.begin(), values.end());
     KestoGDI::ColourIntPairs stops;
-    for (int i = 0; i < n; ++i) {
-        const int value = i == 0 ? 0 : i == n - 1 ? 10000 : Int(1, 9999);
+    for (const int value : values) {
         if (fill->IsTransparency())
             stops.Add(KestoGDI::CMonoColour(Int(0, 255)), value);
         else
             stops.Add(*AnyColour(), value);
     }
-    stops.Sort();
     withStops->SetColourIntPairs(stops);
     return fill;
 }
