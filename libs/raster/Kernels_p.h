@@ -49,7 +49,7 @@ struct PlasmaRow {
     double u0, v0, du, dv;
     int x0;
     int count;
-    const float* tile;  // padded: (n + 2) x (n + 2), one sample more on every side
+    const std::uint64_t* cells;  // (n + 1) x (n + 1), see PreparedPaint::PlasmaCells
     int n;
     bool mirrored;
     const std::uint32_t* table;  // 256 entries

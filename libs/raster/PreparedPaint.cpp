@@ -158,13 +158,32 @@ void RenderRampRows(const PreparedPaint& prepared, const Target& target, const C
     RunAlongAxes(prepared, target, clip, row, Kernels::Active().ramp, ux, uy, vx, vy, 1.0);
 }
 
+// The plasma cells (see PreparedPaint::PlasmaCells) of a padded (n + 2) x (n + 2) tile.
+std::vector<std::uint64_t> PlasmaCellsOf(const std::vector<float>& padded, int n)
+{
+    const auto level = [](float v) {
+        return static_cast<std::uint64_t>(std::lround(std::clamp(v, 0.0f, 1.0f) * 65535.0f));
+    };
+    const std::size_t stride = static_cast<std::size_t>(n) + 2;
+    std::vector<std::uint64_t> cells;
+    cells.reserve((stride - 1) * (stride - 1));
+    for (std::size_t y = 0; y + 1 < stride; ++y) {
+        for (std::size_t x = 0; x + 1 < stride; ++x) {
+            const float* top = &padded[y * stride + x];
+            const float* bottom = top + stride;
+            cells.push_back(level(top[0]) | level(top[1]) << 16 | level(bottom[0]) << 32 | level(bottom[1]) << 48);
+        }
+    }
+    return cells;
+}
+
 // The plasma kind's rows through the active instruction set's kernel.
 void RenderPlasmaRows(const PreparedPaint& prepared, const Target& target, const Clip& clip)
 {
     const Paint& paint = prepared.GetPaint();
     const Geometry& g = prepared.GetGeometry();
     Kernels::PlasmaRow row{};
-    row.tile = prepared.PaddedPlasmaTile().data();
+    row.cells = prepared.PlasmaCells().data();
     row.n = Shading::PlasmaResolution(paint.plasma);
     row.mirrored = paint.mirroredTiles;
     row.table = prepared.Table().data();
@@ -254,7 +273,7 @@ PreparedPaint::PreparedPaint(const Paint& paint, const Affine& paintToDevice, Ou
     if (sameColours) {
         m_table = previous->m_table;
         m_plasmaTile = previous->m_plasmaTile;
-        m_paddedPlasmaTile = previous->m_paddedPlasmaTile;
+        m_plasmaCells = previous->m_plasmaCells;
         m_texels = previous->m_texels;
         return;
     }
@@ -266,8 +285,8 @@ PreparedPaint::PreparedPaint(const Paint& paint, const Affine& paintToDevice, Ou
         m_plasmaTile = same ? previous->m_plasmaTile
                             : std::make_shared<const std::vector<float>>(Shading::PlasmaTile(paint.plasma));
         const int n = Shading::PlasmaResolution(paint.plasma);
-        m_paddedPlasmaTile =
-            std::make_shared<const std::vector<float>>(Shading::PadTile(*m_plasmaTile, n, n, paint.mirroredTiles));
+        m_plasmaCells = std::make_shared<const std::vector<std::uint64_t>>(
+            PlasmaCellsOf(Shading::PadTile(*m_plasmaTile, n, n, paint.mirroredTiles), n));
     }
     auto table = std::make_shared<std::vector<std::uint32_t>>();
     if (IsRamp()) {
@@ -284,10 +303,10 @@ const std::vector<float>& PreparedPaint::PlasmaTile() const
     return m_plasmaTile ? *m_plasmaTile : none;
 }
 
-const std::vector<float>& PreparedPaint::PaddedPlasmaTile() const
+const std::vector<std::uint64_t>& PreparedPaint::PlasmaCells() const
 {
-    static const std::vector<float> none;
-    return m_paddedPlasmaTile ? *m_paddedPlasmaTile : none;
+    static const std::vector<std::uint64_t> none;
+    return m_plasmaCells ? *m_plasmaCells : none;
 }
 
 bool PreparedPaint::IsRamp() const

@@ -34,9 +34,11 @@ public:
     bool SharesTexelsWith(const PreparedPaint& other) const { return m_texels == other.m_texels; }
     // The plasma kind's tile; empty for other kinds.
     const std::vector<float>& PlasmaTile() const;
-    // The same padded by one sample on every side as the tiling continues (see the bitmap's
-    // texels); empty for other kinds.
-    const std::vector<float>& PaddedPlasmaTile() const;
+    // The tile's cells for bilinear sampling: (n + 1) x (n + 1) of them over the tile padded by
+    // one sample on every side as the tiling continues, each the four samples around it as
+    // 16-bit intensities (0 .. 65535): bits 0-15 top left, 16-31 top right, 32-47 bottom left,
+    // 48-63 bottom right. One load gives a pixel all it blends. Empty for other kinds.
+    const std::vector<std::uint64_t>& PlasmaCells() const;
     // The bitmap kind's pixels as output values, padded by one texel on every side as the tiling
     // continues ((w + 2) x (h + 2)); empty for other kinds or without an image.
     const std::vector<std::uint32_t>& Texels() const { return *m_texels; }
@@ -48,7 +50,7 @@ private:
     Shading::Geometry m_geometry;
     std::shared_ptr<const std::vector<std::uint32_t>> m_table;
     std::shared_ptr<const std::vector<float>> m_plasmaTile;
-    std::shared_ptr<const std::vector<float>> m_paddedPlasmaTile;
+    std::shared_ptr<const std::vector<std::uint64_t>> m_plasmaCells;
     std::shared_ptr<const std::vector<std::uint32_t>> m_texels;
 };
 
