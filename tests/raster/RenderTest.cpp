@@ -52,6 +52,14 @@ std::vector<Named> Paints()
         {"three colour", Make(K::ThreeColour, {{5, 5}, {55, 8}, {10, 40}}, {}, {C(255, 0, 0), C(0, 255, 0), C(0, 0, 255, 100)})},
         {"four colour", Make(K::FourColour, {{4, 4}, {60, 10}, {8, 44}, {50, 40}}, {},
                              {C(255, 0, 0), C(0, 255, 0), C(0, 0, 255), C(255, 255, 0, 60)})},
+        // Over the whole frame: rows inside the parallelogram, or on one side of an edge, are
+        // painted by the fixed-point path (premultiplied, opaque and as a transparency).
+        {"three colour covering", Make(K::ThreeColour, {{-30, -20}, {150, -10}, {-20, 120}}, {},
+                                       {C(255, 0, 0), C(0, 255, 0), C(0, 0, 255, 100)})},
+        {"three colour covering opaque", Make(K::ThreeColour, {{-30, -20}, {150, -10}, {-20, 120}}, {},
+                                              {C(250, 3, 0), C(0, 255, 40), C(7, 0, 255)})},
+        {"three colour transparency", Make(K::ThreeColour, {{-30, -20}, {150, -10}, {-20, 120}}, {},
+                                           {C(255, 255, 255), C(0, 0, 0), C(90, 90, 90)}, true)},
         {"linear transparency", Make(K::Linear, {{0, 0}, {64, 0}}, levels, {}, true)},
         {"plasma", Make(K::Plasma, {{3, 2}, {40, 10}, {0, 30}}, ramp, {})},
     };
@@ -70,23 +78,35 @@ std::vector<Named> Paints()
     bitmap.recolour = true;
     bitmap.stops = ramp;
     all.push_back({"bitmap recoloured", bitmap});
-    Paint plasma = all[9].paint;
+    Paint plasma = std::find_if(all.begin(), all.end(), [](const Named& n) { return n.paint.kind == K::Plasma; })->paint;
     plasma.mirroredTiles = true;
     plasma.plasma = {77, 90, 16};
     all.push_back({"plasma, mirrored, grainy", plasma});
     return all;
 }
 
+Paint PaintNamed(const std::string& name)
+{
+    for (const auto& [n, paint] : Paints())
+        if (name == n)
+            return paint;
+    return {};
+}
+
 struct Image {
     Output format;
+    int w, h;
     std::vector<std::uint32_t> words;
     std::vector<std::uint8_t> bytes;
-    explicit Image(Output f, std::uint32_t fill = 0) : format(f), words(W * H, fill), bytes(W * H, static_cast<std::uint8_t>(fill)) {}
+    explicit Image(Output f, std::uint32_t fill = 0, int width = W, int height = H)
+        : format(f), w(width), h(height), words(w * h, fill), bytes(w * h, static_cast<std::uint8_t>(fill))
+    {
+    }
     Target Of()
     {
-        return format == Output::Argb32 ? Target{words.data(), W, H, W * 4, format} : Target{bytes.data(), W, H, W, format};
+        return format == Output::Argb32 ? Target{words.data(), w, h, w * 4, format} : Target{bytes.data(), w, h, w, format};
     }
-    std::uint32_t At(int x, int y) const { return format == Output::Argb32 ? words[y * W + x] : bytes[y * W + x]; }
+    std::uint32_t At(int x, int y) const { return format == Output::Argb32 ? words[y * w + x] : bytes[y * w + x]; }
 };
 
 int ChannelDistance(std::uint32_t a, std::uint32_t b)
@@ -112,15 +132,15 @@ const Clip kAll{0, 0, W, H};
 } // namespace
 
 // The largest channel distance between Render and the reference, and what it may be.
-std::pair<int, int> AgainstReference(const Paint& paint, const Affine& placement, Output out)
+std::pair<int, int> AgainstReference(const Paint& paint, const Affine& placement, Output out, int w = W, int h = H)
 {
     const PreparedPaint prepared(paint, placement, out);
-    Image fast(out), reference(out);
-    Render(prepared, fast.Of(), kAll);
-    RenderReference(paint, placement, reference.Of(), kAll);
+    Image fast(out, 0, w, h), reference(out, 0, w, h);
+    Render(prepared, fast.Of(), {0, 0, w, h});
+    RenderReference(paint, placement, reference.Of(), {0, 0, w, h});
     int worst = 0;
-    for (int y = 0; y < H; ++y)
-        for (int x = 0; x < W; ++x)
+    for (int y = 0; y < h; ++y)
+        for (int x = 0; x < w; ++x)
             worst = std::max(worst, ChannelDistance(fast.At(x, y), reference.At(x, y)));
     // Table kernels within their table's step, direct kernels within 1, bitmaps within 2.
     const int direct = paint.kind == Paint::Kind::Bitmap ? 2 : 1;
@@ -141,6 +161,35 @@ TEST(Render, EveryKindMatchesTheReferenceWithinItsTableStepInBothOutputsOnEveryI
                     const auto [worst, tolerance] = AgainstReference(paint, placement, out);
                     EXPECT_LE(worst, tolerance) << name << (out == Output::Argb32 ? " argb " : " mask ") << IsaName(isa);
                 }
+            }
+        }
+    }
+    SetActiveIsa(active);
+}
+
+// Long rows cross the corner kinds' edges between blocks and inside them: every block, on
+// whichever sides of the edges it lies, matches the reference, and a clip changes no pixel.
+TEST(Render, LongCornerRowsMatchTheReferenceAcrossTheirEdges)
+{
+    constexpr int wide = 1100;
+    const Affine turned{0.95, 0.31, -0.31, 0.95, 20, -15};
+    const Isa active = ActiveIsa();
+    for (const Isa isa : {Isa::Scalar, Isa::Avx2, Isa::Avx512}) {
+        if (!IsaAvailable(isa))
+            continue;
+        SetActiveIsa(isa);
+        for (const char* name : {"three colour", "three colour covering opaque", "three colour transparency"}) {
+            Paint paint = PaintNamed(name);
+            paint.points = {{300, -40}, {700, 30}, {250, 90}};
+            for (const Output out : {Output::Argb32, Output::Mask8}) {
+                const auto [worst, tolerance] = AgainstReference(paint, turned, out, wide, 6);
+                EXPECT_LE(worst, tolerance) << name << (out == Output::Argb32 ? " argb " : " mask ") << IsaName(isa);
+                const PreparedPaint prepared(paint, turned, out);
+                Image full(out, 0, wide, 6), part(out, 0, wide, 6);
+                Render(prepared, full.Of(), {0, 0, wide, 6});
+                Render(prepared, part.Of(), {333, 1, 901, 5});
+                for (int x = 333; x < 901; ++x)
+                    ASSERT_EQ(part.At(x, 3), full.At(x, 3)) << name << " at " << x << " " << IsaName(isa);
             }
         }
     }
@@ -216,7 +265,7 @@ TEST(Render, ThePlasmaIsAPureFunctionOfItsSeedAndTilesSeamlessly)
 
 TEST(Render, APaintPreparedAgainWithTheSameColoursSharesItsTable)
 {
-    const Paint linear = Paints()[1].paint;
+    const Paint linear = PaintNamed("linear");
     const PreparedPaint first(linear, {}, Output::Argb32);
     Paint moved = linear;
     moved.points[1] = {60, 40};
@@ -227,7 +276,7 @@ TEST(Render, APaintPreparedAgainWithTheSameColoursSharesItsTable)
     EXPECT_FALSE(PreparedPaint(recoloured, {}, Output::Argb32, &first).SharesTableWith(first));
 
     // A bitmap's texels likewise, until its image or its recolouring changes.
-    const Paint bitmap = Paints()[10].paint;
+    const Paint bitmap = PaintNamed("bitmap");
     const PreparedPaint placed(bitmap, {}, Output::Argb32);
     Paint shifted = bitmap;
     shifted.points[0] = {9, 9};
