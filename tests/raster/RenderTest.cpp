@@ -178,9 +178,9 @@ TEST(Render, LongCornerRowsMatchTheReferenceAcrossTheirEdges)
         if (!IsaAvailable(isa))
             continue;
         SetActiveIsa(isa);
-        for (const char* name : {"three colour", "three colour covering opaque", "three colour transparency"}) {
+        for (const char* name : {"three colour", "three colour covering opaque", "three colour transparency", "four colour"}) {
             Paint paint = PaintNamed(name);
-            paint.points = {{300, -40}, {700, 30}, {250, 90}};
+            paint.points = {{300, -40}, {700, 30}, {250, 90}, {800, 70}};
             for (const Output out : {Output::Argb32, Output::Mask8}) {
                 const auto [worst, tolerance] = AgainstReference(paint, turned, out, wide, 6);
                 EXPECT_LE(worst, tolerance) << name << (out == Output::Argb32 ? " argb " : " mask ") << IsaName(isa);
