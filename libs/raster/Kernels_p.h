@@ -84,6 +84,7 @@ struct BitmapRow {
     int x0;
     int count;
     const std::uint32_t* texels;
+    const std::uint32_t* maskCells;  // for a mask's bilinear samples, see PreparedPaint::MaskCells
     int w, h;
     int stride;
     bool mirrored;

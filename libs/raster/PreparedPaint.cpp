@@ -158,6 +158,22 @@ void RenderRampRows(const PreparedPaint& prepared, const Target& target, const C
     RunAlongAxes(prepared, target, clip, row, Kernels::Active().ramp, ux, uy, vx, vy, 1.0);
 }
 
+// The mask cells (see PreparedPaint::MaskCells) of padded (w + 2) x (h + 2) mask texels.
+std::vector<std::uint32_t> MaskCellsOf(const std::vector<std::uint32_t>& padded, int w, int h)
+{
+    const std::size_t stride = static_cast<std::size_t>(w) + 2;
+    std::vector<std::uint32_t> cells;
+    cells.reserve((stride - 1) * (static_cast<std::size_t>(h) + 1));
+    for (std::size_t y = 0; y <= static_cast<std::size_t>(h); ++y) {
+        for (std::size_t x = 0; x + 1 < stride; ++x) {
+            const std::uint32_t* top = &padded[y * stride + x];
+            const std::uint32_t* bottom = top + stride;
+            cells.push_back((top[0] & 0xFF) | (top[1] & 0xFF) << 8 | (bottom[0] & 0xFF) << 16 | (bottom[1] & 0xFF) << 24);
+        }
+    }
+    return cells;
+}
+
 // The plasma cells (see PreparedPaint::PlasmaCells) of a padded (n + 2) x (n + 2) tile.
 std::vector<std::uint64_t> PlasmaCellsOf(const std::vector<float>& padded, int n)
 {
@@ -224,6 +240,7 @@ void RenderBitmapRows(const PreparedPaint& prepared, const Target& target, const
     const Geometry& g = prepared.GetGeometry();
     Kernels::BitmapRow row{};
     row.texels = prepared.Texels().data();
+    row.maskCells = prepared.MaskCells().data();
     row.w = paint.image->width;
     row.h = paint.image->height;
     row.stride = row.w + 2;
@@ -275,10 +292,14 @@ PreparedPaint::PreparedPaint(const Paint& paint, const Affine& paintToDevice, Ou
         m_plasmaTile = previous->m_plasmaTile;
         m_plasmaCells = previous->m_plasmaCells;
         m_texels = previous->m_texels;
+        m_maskCells = previous->m_maskCells;
         return;
     }
     m_texels = std::make_shared<const std::vector<std::uint32_t>>(
         paint.kind == Paint::Kind::Bitmap ? PaddedTexels(paint, output) : std::vector<std::uint32_t>());
+    m_maskCells = std::make_shared<const std::vector<std::uint32_t>>(
+        output == Output::Mask8 && !m_texels->empty() ? MaskCellsOf(*m_texels, paint.image->width, paint.image->height)
+                                                      : std::vector<std::uint32_t>());
     if (paint.kind == Paint::Kind::Plasma) {
         const bool same = previous && previous->m_paint->kind == Paint::Kind::Plasma &&
                           previous->m_paint->plasma == paint.plasma;

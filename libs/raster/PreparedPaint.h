@@ -42,6 +42,10 @@ public:
     // The bitmap kind's pixels as output values, padded by one texel on every side as the tiling
     // continues ((w + 2) x (h + 2)); empty for other kinds or without an image.
     const std::vector<std::uint32_t>& Texels() const { return *m_texels; }
+    // A mask's texels as cells for bilinear sampling: (w + 1) x (h + 1) of them over the padded
+    // texels, each the four around it, a byte each from the low one: top left, top right,
+    // bottom left, bottom right. Empty for colour output and other kinds.
+    const std::vector<std::uint32_t>& MaskCells() const { return *m_maskCells; }
 
 private:
     std::shared_ptr<const Paint> m_paint;
@@ -52,6 +56,7 @@ private:
     std::shared_ptr<const std::vector<float>> m_plasmaTile;
     std::shared_ptr<const std::vector<std::uint64_t>> m_plasmaCells;
     std::shared_ptr<const std::vector<std::uint32_t>> m_texels;
+    std::shared_ptr<const std::vector<std::uint32_t>> m_maskCells;
 };
 
 // Paints every pixel of the clip (inside the target) with the prepared paint, sampling pixel
