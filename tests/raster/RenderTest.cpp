@@ -147,14 +147,24 @@ std::pair<int, int> AgainstReference(const Paint& paint, const Affine& placement
     return {worst, prepared.IsRamp() ? TableStep(prepared) + 1 : direct};
 }
 
+// Runs check(isa) with each instruction set the machine has active, then restores the active one.
+template <class Check>
+void OnEveryIsa(Check check)
+{
+    const Isa active = ActiveIsa();
+    for (const Isa isa : {Isa::Scalar, Isa::Avx2, Isa::Avx512}) {
+        if (IsaAvailable(isa)) {
+            SetActiveIsa(isa);
+            check(isa);
+        }
+    }
+    SetActiveIsa(active);
+}
+
 TEST(Render, EveryKindMatchesTheReferenceWithinItsTableStepInBothOutputsOnEveryIsa)
 {
     const Affine rotated{0.9, 0.3, -0.25, 1.1, 3, -2};
-    const Isa active = ActiveIsa();
-    for (const Isa isa : {Isa::Scalar, Isa::Avx2, Isa::Avx512}) {
-        if (!IsaAvailable(isa))
-            continue;
-        SetActiveIsa(isa);
+    OnEveryIsa([&](Isa isa) {
         for (const auto& [name, paint] : Paints()) {
             for (const Output out : {Output::Argb32, Output::Mask8}) {
                 for (const Affine& placement : {Affine{}, rotated}) {
@@ -163,8 +173,7 @@ TEST(Render, EveryKindMatchesTheReferenceWithinItsTableStepInBothOutputsOnEveryI
                 }
             }
         }
-    }
-    SetActiveIsa(active);
+    });
 }
 
 // Long rows cross the corner kinds' edges between blocks and inside them: every block, on
@@ -173,13 +182,13 @@ TEST(Render, LongCornerRowsMatchTheReferenceAcrossTheirEdges)
 {
     constexpr int wide = 1100;
     const Affine turned{0.95, 0.31, -0.31, 0.95, 20, -15};
-    const Isa active = ActiveIsa();
-    for (const Isa isa : {Isa::Scalar, Isa::Avx2, Isa::Avx512}) {
-        if (!IsaAvailable(isa))
-            continue;
-        SetActiveIsa(isa);
-        for (const char* name : {"three colour", "three colour covering opaque", "three colour transparency", "four colour"}) {
-            Paint paint = PaintNamed(name);
+    Paint opaqueQuad = PaintNamed("four colour");
+    opaqueQuad.colours.back().a = 255;
+    std::vector<Named> paints = {{"four colour opaque", opaqueQuad}};
+    for (const char* name : {"three colour", "three colour covering opaque", "three colour transparency", "four colour"})
+        paints.push_back({name, PaintNamed(name)});
+    OnEveryIsa([&](Isa isa) {
+        for (auto [name, paint] : paints) {
             paint.points = {{300, -40}, {700, 30}, {250, 90}, {800, 70}};
             for (const Output out : {Output::Argb32, Output::Mask8}) {
                 const auto [worst, tolerance] = AgainstReference(paint, turned, out, wide, 6);
@@ -192,8 +201,7 @@ TEST(Render, LongCornerRowsMatchTheReferenceAcrossTheirEdges)
                     ASSERT_EQ(part.At(x, 3), full.At(x, 3)) << name << " at " << x << " " << IsaName(isa);
             }
         }
-    }
-    SetActiveIsa(active);
+    });
 }
 
 TEST(Render, AClipPaintsOnlyItsPixelsAndASubRectangleEqualsTheFullRender)
