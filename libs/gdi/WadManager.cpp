@@ -12,6 +12,29 @@
 
 namespace KestoGDI {
 
+namespace {
+
+// Whether every chunk of a PNG held in memory fits in the bytes there are. The decoder
+// allocates a chunk's declared length before it reads the chunk (a text chunk of 1.9 GB in an
+// 80-byte file), so a length the data cannot hold is refused first. Data that is not a PNG, or
+// ends early, is left to the decoder.
+bool ChunksFit(const unsigned char* data, std::size_t size)
+{
+    constexpr std::size_t signature = 8, framing = 12;  // length, type and CRC around a chunk's data
+    for (std::size_t at = signature; at + framing <= size;) {
+        const std::uint32_t length = static_cast<std::uint32_t>(data[at]) << 24 | static_cast<std::uint32_t>(data[at + 1]) << 16 |
+                                     static_cast<std::uint32_t>(data[at + 2]) << 8 | data[at + 3];
+        if (length > size - at - framing)
+            return false;
+        if (std::equal(data + at + 4, data + at + 8, "IEND"))
+            return true;
+        at += framing + length;
+    }
+    return true;
+}
+
+} // namespace
+
 std::string WadManager::EntryKey(const wchar_t* entryName)
 {
     std::string key = Platform::CString(entryName).ToUtf8();
@@ -32,6 +55,8 @@ Kernel::RefPtr<CLtBitmap> WadManager::LoadFromMemory(const void* data, std::size
 Kernel::RefPtr<CLtBitmap> WadManager::DecodePng(const void* data, std::size_t size)
 {
     if (!data || size == 0)
+        return {};
+    if (!ChunksFit(static_cast<const unsigned char*>(data), size))
         return {};
     png_image image{};
     image.version = PNG_IMAGE_VERSION;
