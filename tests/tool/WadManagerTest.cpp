@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <atomic>
 #include <fstream>
 #include <iterator>
 #include <vector>
@@ -101,6 +103,51 @@ TEST(WadManager, AbsurdPngDimensionsAreRefusedBeforeDecoding)
                                     0, 1, 0x86, 0xA0, 0, 1, 0x86, 0xA0, 8, 6, 0, 0, 0,
                                     0x00, 0x00, 0x00, 0x00};
     EXPECT_FALSE(WadManager::DecodePng(header, sizeof header));
+}
+
+#if defined(__SANITIZE_ADDRESS__)
+// The sanitizer runtime's allocation hooks (declared here: GCC ships no header for them).
+extern "C" int __sanitizer_install_malloc_and_free_hooks(void (*)(const volatile void*, std::size_t),
+                                                         void (*)(const volatile void*));
+
+namespace {
+
+// The largest allocation made while recording, seen through the sanitizer's allocation hooks.
+std::atomic<bool> g_recording{false};
+std::atomic<std::size_t> g_largest{0};
+
+void OnAllocate(const volatile void*, std::size_t size)
+{
+    if (g_recording)
+        g_largest = std::max(g_largest.load(), size);
+}
+
+void OnRelease(const volatile void*) {}
+
+} // namespace
+#endif
+
+TEST(WadManager, APngChunkLongerThanTheDataIsRefusedBeforeItIsAllocated)
+{
+#if defined(__SANITIZE_ADDRESS__)
+    // A 16 x 16 image whose second chunk, a text chunk, declares 0x73544552 bytes (1.9 GB).
+    const unsigned char png[] = {
+        0x89, 0x50, 0x4E, 0x47, 0x0D, 0x0A, 0x1A, 0x0A, 0x00, 0x00, 0x00, 0x0D, 0x49, 0x48, 0x44, 0x52, 0x00, 0x00,
+        0x00, 0x10, 0x00, 0x00, 0x00, 0x10, 0x08, 0x06, 0x00, 0x00, 0x00, 0x1F, 0xF3, 0xFF, 0x61, 0x73, 0x54, 0x45,
+        0x52, 0x69, 0x54, 0x58, 0x74, 0x00, 0xFF, 0x00, 0xA7, 0x23, 0x00, 0x10, 0x01, 0x2E, 0x49, 0x44, 0x00, 0x10,
+        0x00, 0x00, 0x00, 0x10, 0x08, 0x06, 0x00, 0x00, 0x00, 0x41, 0x54, 0x01, 0x49, 0x00, 0x00, 0x49, 0x45, 0x4E,
+        0x3C, 0xAE, 0x42, 0x60, 0x82};
+    static const bool hooked = __sanitizer_install_malloc_and_free_hooks(&OnAllocate, &OnRelease) != 0;
+    ASSERT_TRUE(hooked);
+    g_largest = 0;
+    g_recording = true;
+    const auto decoded = WadManager::DecodePng(png, sizeof png);
+    g_recording = false;
+    EXPECT_FALSE(decoded);
+    EXPECT_LT(g_largest.load(), std::size_t{1} << 20);
+#else
+    GTEST_SKIP() << "the allocation is watched through AddressSanitizer's hooks";
+#endif
 }
 
 TEST(WadManager, AMissingArchiveIsReportedOnceWithItsPath)
