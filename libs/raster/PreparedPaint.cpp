@@ -178,7 +178,7 @@ std::vector<std::uint32_t> MaskCellsOf(const std::vector<std::uint32_t>& padded,
 std::vector<std::uint64_t> PlasmaCellsOf(const std::vector<float>& padded, int n)
 {
     const auto level = [](float v) {
-        return static_cast<std::uint64_t>(std::lround(std::clamp(v, 0.0f, 1.0f) * 65535.0f));
+        return static_cast<std::uint64_t>(std::lround(std::clamp(v, 0.0f, 1.0f) * 32767.0f));
     };
     const std::size_t stride = static_cast<std::size_t>(n) + 2;
     std::vector<std::uint64_t> cells;

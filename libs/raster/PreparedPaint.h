@@ -36,8 +36,9 @@ public:
     const std::vector<float>& PlasmaTile() const;
     // The tile's cells for bilinear sampling: (n + 1) x (n + 1) of them over the tile padded by
     // one sample on every side as the tiling continues, each the four samples around it as
-    // 16-bit intensities (0 .. 65535): bits 0-15 top left, 16-31 top right, 32-47 bottom left,
-    // 48-63 bottom right. One load gives a pixel all it blends. Empty for other kinds.
+    // 15-bit intensities (0 .. 32767, for signed 16-bit multiplies): bits 0-15 top left, 16-31
+    // top right, 32-47 bottom left, 48-63 bottom right. One load gives a pixel all it blends.
+    // Empty for other kinds.
     const std::vector<std::uint64_t>& PlasmaCells() const;
     // The bitmap kind's pixels as output values, padded by one texel on every side as the tiling
     // continues ((w + 2) x (h + 2)); empty for other kinds or without an image.

@@ -82,6 +82,14 @@ std::vector<Named> Paints()
     plasma.mirroredTiles = true;
     plasma.plasma = {77, 90, 16};
     all.push_back({"plasma, mirrored, grainy", plasma});
+    // Tiles wider than a row's block of 64 pixels, with a tile edge inside the image, one
+    // stepping each way: sampled in fixed point.
+    plasma.plasma.resolution = 24;
+    plasma.points = {{20, 5}, {130, 25}, {15, 95}};
+    all.push_back({"plasma, mirrored, wide", plasma});
+    plasma.mirroredTiles = false;
+    plasma.points = {{40, 5}, {-70, 25}, {45, 95}};
+    all.push_back({"plasma, wide, leftwards", plasma});
     return all;
 }
 
