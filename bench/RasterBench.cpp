@@ -1,6 +1,6 @@
 // One 1920 x 1080 frame per iteration, single thread: every paint kind as colour and as mask,
-// with 2, 8 and 64 stops (and 1,000 for linear), axis-aligned and rotated 30 degrees and
-// scaled; beside them, in the same process, pixman (SRC) for linear, radial, conical and a
+// with 2, 8 and 64 stops (and 1,000 for linear), the corner kinds' colours with opaque corners
+// and with one translucent corner, axis-aligned and rotated 30 degrees and scaled; beside them, in the same process, pixman (SRC) for linear, radial, conical and a
 // bilinear rotated and scaled 256 x 256 repeated tile, and a memset of the frame. Pixels are
 // reported as items; the table printed at the end gives each row's ratio to its pixman
 // counterpart (or to memset, or for 1,000 stops to the 2-stop row), which stays stable on a
@@ -36,7 +36,8 @@ std::vector<RampStop> Stops(int n, bool levels)
     return stops;
 }
 
-Paint KindPaint(Paint::Kind kind, int stops, bool mask)
+// translucent: the corner kinds' last corner has alpha 200 (premultiplied output per pixel).
+Paint KindPaint(Paint::Kind kind, int stops, bool mask, bool translucent)
 {
     Paint p;
     p.kind = kind;
@@ -63,7 +64,9 @@ Paint KindPaint(Paint::Kind kind, int stops, bool mask)
     }
     case Paint::Kind::Solid: break;
     }
-    p.colours = {{200, 10, 10, 255}, {10, 200, 10, 255}, {10, 10, 200, 255}, {200, 200, 10, 200}};
+    p.colours = {{200, 10, 10, 255}, {10, 200, 10, 255}, {10, 10, 200, 255}, {200, 200, 10, 255}};
+    if (translucent)
+        p.colours[kind == Paint::Kind::ThreeColour ? 2 : 3].a = 200;
     return p;
 }
 
@@ -78,9 +81,9 @@ Affine Rotated()
     return t;
 }
 
-void Kesto(benchmark::State& state, Paint::Kind kind, bool mask, int stops, bool rotated)
+void Kesto(benchmark::State& state, Paint::Kind kind, bool mask, int stops, bool rotated, bool translucent)
 {
-    const Paint paint = KindPaint(kind, stops, mask);
+    const Paint paint = KindPaint(kind, stops, mask, translucent);
     const Output out = mask ? Output::Mask8 : Output::Argb32;
     const PreparedPaint prepared(paint, rotated ? Rotated() : Affine{}, out);
     std::vector<std::uint32_t> frame(static_cast<std::size_t>(W) * H);
@@ -211,18 +214,28 @@ int main(int argc, char** argv)
                                  Paint::Kind::Plasma, Paint::Kind::Bitmap};
     std::vector<std::string> rows;
     for (const Paint::Kind kind : kinds) {
-        const bool ramp = kind != Paint::Kind::ThreeColour && kind != Paint::Kind::FourColour && kind != Paint::Kind::Bitmap;
+        const bool corners = kind == Paint::Kind::ThreeColour || kind == Paint::Kind::FourColour;
+        const bool ramp = !corners && kind != Paint::Kind::Bitmap;
         for (const bool mask : {false, true}) {
             // A 1,000-stop linear gradient shows that the stop count costs only the table.
             const std::vector<int> counts = kind == Paint::Kind::Linear ? std::vector<int>{2, 8, 64, 1000}
                                             : ramp                      ? std::vector<int>{2, 8, 64}
                                                                         : std::vector<int>{2};
             for (const int stops : counts) {
-                for (const bool rotated : {false, true}) {
-                    const std::string name = std::string("kesto/") + Name(kind) + (mask ? "/mask" : "/colour") + "/stops:" +
-                                             std::to_string(stops) + (rotated ? "/rotated" : "/aligned");
-                    benchmark::RegisterBenchmark(name.c_str(), Kesto, kind, mask, stops, rotated)->Unit(benchmark::kMillisecond);
-                    rows.push_back(name);
+                for (const bool translucent : {false, true}) {
+                    if (translucent && (!corners || mask))
+                        continue;
+                    const std::string variant = !corners   ? "/stops:" + std::to_string(stops)
+                                                : mask       ? "/levels"
+                                                : translucent ? "/translucent"
+                                                              : "/opaque";
+                    for (const bool rotated : {false, true}) {
+                        const std::string name = std::string("kesto/") + Name(kind) + (mask ? "/mask" : "/colour") + variant +
+                                                 (rotated ? "/rotated" : "/aligned");
+                        benchmark::RegisterBenchmark(name.c_str(), Kesto, kind, mask, stops, rotated, translucent)
+                            ->Unit(benchmark::kMillisecond);
+                        rows.push_back(name);
+                    }
                 }
             }
         }
