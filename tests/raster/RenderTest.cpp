@@ -195,9 +195,13 @@ TEST(Render, LongCornerRowsMatchTheReferenceAcrossTheirEdges)
     std::vector<Named> paints = {{"four colour opaque", opaqueQuad}};
     for (const char* name : {"three colour", "three colour covering opaque", "three colour transparency", "four colour"})
         paints.push_back({name, PaintNamed(name)});
+    for (Named& named : paints)
+        named.paint.points = {{300, -40}, {700, 30}, {250, 90}, {800, 70}};
+    // A quadrilateral far from a parallelogram: its levels curve along the rows.
+    opaqueQuad.points = {{0, -40}, {1000, 10}, {100, 90}, {200, 30}};
+    paints.push_back({"four colour opaque, curved", opaqueQuad});
     OnEveryIsa([&](Isa isa) {
-        for (auto [name, paint] : paints) {
-            paint.points = {{300, -40}, {700, 30}, {250, 90}, {800, 70}};
+        for (const auto& [name, paint] : paints) {
             for (const Output out : {Output::Argb32, Output::Mask8}) {
                 const auto [worst, tolerance] = AgainstReference(paint, turned, out, wide, 6);
                 EXPECT_LE(worst, tolerance) << name << (out == Output::Argb32 ? " argb " : " mask ") << IsaName(isa);
