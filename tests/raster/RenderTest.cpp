@@ -200,12 +200,16 @@ TEST(Render, LongCornerRowsMatchTheReferenceAcrossTheirEdges)
     // A quadrilateral far from a parallelogram: its levels curve along the rows.
     opaqueQuad.points = {{0, -40}, {1000, 10}, {100, 90}, {200, 30}};
     paints.push_back({"four colour opaque, curved", opaqueQuad});
+    // Upright (not turned): the rows run along two of its edges' lines.
+    opaqueQuad.points = {{300, -40}, {800, -40}, {300, 90}, {800, 90}};
+    paints.push_back({"four colour opaque, upright", opaqueQuad});
     OnEveryIsa([&](Isa isa) {
         for (const auto& [name, paint] : paints) {
+            const Affine placed = std::string(name).ends_with("upright") ? Affine{} : turned;
             for (const Output out : {Output::Argb32, Output::Mask8}) {
-                const auto [worst, tolerance] = AgainstReference(paint, turned, out, wide, 6);
+                const auto [worst, tolerance] = AgainstReference(paint, placed, out, wide, 6);
                 EXPECT_LE(worst, tolerance) << name << (out == Output::Argb32 ? " argb " : " mask ") << IsaName(isa);
-                const PreparedPaint prepared(paint, turned, out);
+                const PreparedPaint prepared(paint, placed, out);
                 Image full(out, 0, wide, 6), part(out, 0, wide, 6);
                 Render(prepared, full.Of(), {0, 0, wide, 6});
                 Render(prepared, part.Of(), {333, 1, 901, 5});
