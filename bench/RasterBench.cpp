@@ -1,7 +1,8 @@
 // One 1920 x 1080 frame per iteration, single thread: every paint kind as colour and as mask,
 // with 2, 8 and 64 stops (and 1,000 for linear), the corner kinds' colours with opaque corners
-// and with one translucent corner, axis-aligned and rotated 30 degrees and scaled; beside them, in the same process, pixman (SRC) for linear, radial, conical and a
-// bilinear rotated and scaled 256 x 256 repeated tile, and a memset of the frame. Pixels are
+// and with one translucent corner, axis-aligned and rotated 30 degrees and scaled; beside them,
+// in the same process, pixman (SRC) for linear, radial, conical and a bilinear rotated and
+// scaled 256 x 256 repeated tile, and a memset of the frame. Pixels are
 // reported as items; the table printed at the end gives each row's ratio to its pixman
 // counterpart (or to memset, or for 1,000 stops to the 2-stop row), which stays stable on a
 // noisy machine.
