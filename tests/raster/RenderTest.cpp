@@ -188,7 +188,7 @@ TEST(Render, EveryKindMatchesTheReferenceWithinItsTableStepInBothOutputsOnEveryI
 // whichever sides of the edges it lies, matches the reference, and a clip changes no pixel.
 TEST(Render, LongCornerRowsMatchTheReferenceAcrossTheirEdges)
 {
-    constexpr int wide = 1100;
+    constexpr int wide = 1400;
     const Affine turned{0.95, 0.31, -0.31, 0.95, 20, -15};
     Paint opaqueQuad = PaintNamed("four colour");
     opaqueQuad.colours.back().a = 255;
@@ -203,12 +203,23 @@ TEST(Render, LongCornerRowsMatchTheReferenceAcrossTheirEdges)
     // Upright (not turned): the rows run along two of its edges' lines.
     opaqueQuad.points = {{300, -40}, {800, -40}, {300, 90}, {800, 90}};
     paints.push_back({"four colour opaque, upright", opaqueQuad});
+    // Most of the rows inside it, far from its edges.
+    opaqueQuad.points = {{40, -40}, {1250, -10}, {80, 80}, {1280, 60}};
+    paints.push_back({"four colour opaque, wide", opaqueQuad});
+    // Each four-colour quadrilateral as a transparency too: its mask shows the levels.
+    for (std::size_t k = 0, n = paints.size(); k < n; ++k) {
+        if (paints[k].paint.kind == Paint::Kind::FourColour) {
+            paints.push_back(paints[k]);
+            paints.back().paint.transparency = true;
+        }
+    }
     OnEveryIsa([&](Isa isa) {
         for (const auto& [name, paint] : paints) {
             const Affine placed = std::string(name).ends_with("upright") ? Affine{} : turned;
             for (const Output out : {Output::Argb32, Output::Mask8}) {
                 const auto [worst, tolerance] = AgainstReference(paint, placed, out, wide, 6);
-                EXPECT_LE(worst, tolerance) << name << (out == Output::Argb32 ? " argb " : " mask ") << IsaName(isa);
+                EXPECT_LE(worst, tolerance) << name << (paint.transparency ? " transparency" : "")
+                                            << (out == Output::Argb32 ? " argb " : " mask ") << IsaName(isa);
                 const PreparedPaint prepared(paint, placed, out);
                 Image full(out, 0, wide, 6), part(out, 0, wide, 6);
                 Render(prepared, full.Of(), {0, 0, wide, 6});
