@@ -186,11 +186,28 @@ TEST(Render, EveryKindMatchesTheReferenceWithinItsTableStepInBothOutputsOnEveryI
     });
 }
 
+// Six rows 1,400 pixels long, as colour and as mask: within the tolerance of the reference, and
+// a clip changes no pixel.
+void ExpectLongRowsRight(const char* name, const Paint& paint, const Affine& placed, Isa isa)
+{
+    constexpr int wide = 1400, rows = 6;
+    for (const Output out : {Output::Argb32, Output::Mask8}) {
+        const auto [worst, tolerance] = AgainstReference(paint, placed, out, wide, rows);
+        EXPECT_LE(worst, tolerance) << name << (paint.transparency ? " transparency" : "")
+                                    << (out == Output::Argb32 ? " argb " : " mask ") << IsaName(isa);
+        const PreparedPaint prepared(paint, placed, out);
+        Image full(out, 0, wide, rows), part(out, 0, wide, rows);
+        Render(prepared, full.Of(), {0, 0, wide, rows});
+        Render(prepared, part.Of(), {333, 1, 901, 5});
+        for (int x = 333; x < 901; ++x)
+            ASSERT_EQ(part.At(x, 3), full.At(x, 3)) << name << " at " << x << " " << IsaName(isa);
+    }
+}
+
 // Long rows cross the corner kinds' edges between blocks and inside them: every block, on
 // whichever sides of the edges it lies, matches the reference, and a clip changes no pixel.
 TEST(Render, LongCornerRowsMatchTheReferenceAcrossTheirEdges)
 {
-    constexpr int wide = 1400;
     const Affine turned{0.95, 0.31, -0.31, 0.95, 20, -15};
     Paint opaqueQuad = PaintNamed("four colour");
     opaqueQuad.colours.back().a = 255;
@@ -216,20 +233,33 @@ TEST(Render, LongCornerRowsMatchTheReferenceAcrossTheirEdges)
         }
     }
     OnEveryIsa([&](Isa isa) {
-        for (const auto& [name, paint] : paints) {
-            const Affine placed = std::string(name).ends_with("upright") ? Affine{} : turned;
-            for (const Output out : {Output::Argb32, Output::Mask8}) {
-                const auto [worst, tolerance] = AgainstReference(paint, placed, out, wide, 6);
-                EXPECT_LE(worst, tolerance) << name << (paint.transparency ? " transparency" : "")
-                                            << (out == Output::Argb32 ? " argb " : " mask ") << IsaName(isa);
-                const PreparedPaint prepared(paint, placed, out);
-                Image full(out, 0, wide, 6), part(out, 0, wide, 6);
-                Render(prepared, full.Of(), {0, 0, wide, 6});
-                Render(prepared, part.Of(), {333, 1, 901, 5});
-                for (int x = 333; x < 901; ++x)
-                    ASSERT_EQ(part.At(x, 3), full.At(x, 3)) << name << " at " << x << " " << IsaName(isa);
-            }
-        }
+        for (const auto& [name, paint] : paints)
+            ExpectLongRowsRight(name, paint, std::string(name).ends_with("upright") ? Affine{} : turned, isa);
+    });
+}
+
+// Long ramp rows: a linear ramp's blocks inside the ramp, on its pads and where it is too steep
+// for fixed point; a square ramp's blocks between the columns where its largest coordinate
+// changes and across them.
+TEST(Render, LongRampRowsMatchTheReferenceInsideAndAcrossTheirPieces)
+{
+    const std::vector<RampStop> stops = {{0, C(255, 0, 0, 30)}, {4000, C(0, 200, 50, 128)}, {10000, C(20, 40, 250)}};
+    using K = Paint::Kind;
+    std::vector<Named> paints = {
+        {"linear, shallow", Make(K::Linear, {{100, 0}, {1200, 40}}, stops, {})},
+        {"linear, leftwards", Make(K::Linear, {{1300, 10}, {50, -20}}, stops, {})},
+        {"linear, steep", Make(K::Linear, {{600, 0}, {606, 2}}, stops, {})},
+        {"square, centred in the rows", Make(K::Square, {{700, 3}, {1000, 60}, {650, -200}}, stops, {})},
+        {"square, centred far off", Make(K::Square, {{-900, 400}, {800, 60}, {-1000, -900}}, stops, {})},
+    };
+    for (std::size_t k = 0, n = paints.size(); k < n; ++k) {
+        paints.push_back(paints[k]);
+        paints.back().paint.transparency = true;
+    }
+    OnEveryIsa([&](Isa isa) {
+        for (const auto& [name, paint] : paints)
+            for (const Affine& placed : {Affine{}, Affine{0.95, 0.31, -0.31, 0.95, 20, -15}})
+                ExpectLongRowsRight(name, paint, placed, isa);
     });
 }
 
