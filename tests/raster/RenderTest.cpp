@@ -249,6 +249,7 @@ TEST(Render, LongRampRowsMatchTheReferenceInsideAndAcrossTheirPieces)
         {"linear, shallow", Make(K::Linear, {{100, 0}, {1200, 40}}, stops, {})},
         {"linear, leftwards", Make(K::Linear, {{1300, 10}, {50, -20}}, stops, {})},
         {"linear, steep", Make(K::Linear, {{600, 0}, {606, 2}}, stops, {})},
+        {"linear, over 150 pixels", Make(K::Linear, {{600, 0}, {750, 10}}, stops, {})},
         {"square, centred in the rows", Make(K::Square, {{700, 3}, {1000, 60}, {650, -200}}, stops, {})},
         {"square, centred far off", Make(K::Square, {{-900, 400}, {800, 60}, {-1000, -900}}, stops, {})},
     };
