@@ -225,6 +225,12 @@ TEST(Render, LongCornerRowsMatchTheReferenceAcrossTheirEdges)
     // Most of the rows inside it, far from its edges.
     opaqueQuad.points = {{40, -40}, {1250, -10}, {80, 80}, {1280, 60}};
     paints.push_back({"four colour opaque, wide", opaqueQuad});
+    // Two pixels across: a block's levels run far out of 0..255 on either side of its edges.
+    for (const auto& [name, from] : {Named{"three colour, tiny", PaintNamed("three colour covering opaque")},
+                                     Named{"three colour transparency, tiny", PaintNamed("three colour transparency")}}) {
+        paints.push_back({name, from});
+        paints.back().paint.points = {{600, 0}, {601.5, 0.2}, {600.3, 1.5}};
+    }
     // Each four-colour quadrilateral as a transparency too: its mask shows the levels.
     for (std::size_t k = 0, n = paints.size(); k < n; ++k) {
         if (paints[k].paint.kind == Paint::Kind::FourColour) {
