@@ -40,11 +40,11 @@ constexpr int kLength = 1000000;
 
 RefPtr<CFill> LinearWithStops(int n)
 {
-    auto fill = Kernel::MakeRef<KestoGDI::CFillLinear>();
+    auto fill = KestoKernel::MakeRef<KestoGDI::CFillLinear>();
     fill->SetControls(K2DDblPoint(0, 500), K2DDblPoint(kLength, 500));
     KestoGDI::ColourIntPairs stops;
     for (int i = 0; i < n; ++i)
-        stops.Add(KestoGDI::CRGBColour(Platform::RGB(i % 256, (i * 7) % 256, 128)), Kesto2D::MulDiv(i, 10000, n - 1));
+        stops.Add(KestoGDI::CRGBColour(KestoPlatform::RGB(i % 256, (i * 7) % 256, 128)), Kesto2D::MulDiv(i, 10000, n - 1));
     fill->SetColourIntPairs(stops);
     return fill;
 }

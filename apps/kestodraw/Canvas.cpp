@@ -32,9 +32,9 @@
 
 namespace KestoDraw {
 
-using Kernel::RefPtr;
+using KestoKernel::RefPtr;
 using KestoGDI::CFill;
-using Platform::CPoint;
+using KestoPlatform::CPoint;
 
 namespace {
 
@@ -52,14 +52,14 @@ RefPtr<const CFill>& FieldOf(Shape& shape, bool transparency)
 
 // The fill a drag on a shape whose fill has no tool starts from: a linear fill from the shape's
 // colour to white, or a linear transparency from opaque to clear.
-RefPtr<CFill> StarterFill(const CFill* current, bool transparency, const Platform::CRect& box)
+RefPtr<CFill> StarterFill(const CFill* current, bool transparency, const KestoPlatform::CRect& box)
 {
     RefPtr<CFill> fill = transparency ? RefPtr<CFill>(new KestoGDI::CTransparencyLinear) : RefPtr<CFill>(new KestoGDI::CFillLinear);
     fill->SetDefaultControls(box);
     if (const auto* solid = dynamic_cast<const KestoGDI::CFillSolid*>(current); solid && !transparency) {
         KestoGDI::ColourIntPairs stops;
         stops.Add(solid->GetColour(), 0);
-        stops.Add(KestoGDI::CRGBColour(Platform::RGB(255, 255, 255)), 10000);
+        stops.Add(KestoGDI::CRGBColour(KestoPlatform::RGB(255, 255, 255)), 10000);
         static_cast<KestoGDI::CFillWithStops&>(*fill).SetColourIntPairs(stops);
     }
     return fill;
@@ -68,7 +68,7 @@ RefPtr<CFill> StarterFill(const CFill* current, bool transparency, const Platfor
 } // namespace
 
 Canvas::Canvas(Document& document, QUndoStack& undo, QWidget* parent)
-    : QWidget(parent), m_document(document), m_undo(undo), m_bars(std::make_unique<Platform::CXTPCommandBars>())
+    : QWidget(parent), m_document(document), m_undo(undo), m_bars(std::make_unique<KestoPlatform::CXTPCommandBars>())
 {
     setFocusPolicy(Qt::StrongFocus);
     setAcceptDrops(true);
@@ -192,7 +192,7 @@ void Canvas::DeleteSelected()
 
 void Canvas::SetKind(int fillType)
 {
-    const Platform::CRuntimeClass* c = m_editTransparency ? KestoGDI::CTransparency::GetRuntimeClassFromType(fillType)
+    const KestoPlatform::CRuntimeClass* c = m_editTransparency ? KestoGDI::CTransparency::GetRuntimeClassFromType(fillType)
                                                           : CFill::GetRuntimeClassFromType(fillType);
     if (c)
         m_editTransparency ? SetTransparencyType(c) : SetFillType(c);
@@ -211,7 +211,7 @@ QImage Canvas::RenderPage(double pixelsPerUnit)
 QString Canvas::HintLine() const
 {
     if (m_tool) {
-        Platform::CString hint;
+        KestoPlatform::CString hint;
         if (m_tool->GetHintLine(&hint))
             return KestoToolQt::ToQString(hint);
     }
@@ -376,15 +376,15 @@ void Canvas::CycleHandle(int step)
 
 // --- IToolSite and IToolHelper ---
 
-void Canvas::ClientToPaper(Platform::SIZE* size)
+void Canvas::ClientToPaper(KestoPlatform::SIZE* size)
 {
     size->cx = Kesto2D::RoundHalfAwayFromZero(size->cx / m_zoom);
     size->cy = Kesto2D::RoundHalfAwayFromZero(size->cy / m_zoom);
 }
 
-Platform::CRect Canvas::GetObjectBBox()
+KestoPlatform::CRect Canvas::GetObjectBBox()
 {
-    return m_selected >= 0 ? m_document.shapes[m_selected].box : Platform::CRect();
+    return m_selected >= 0 ? m_document.shapes[m_selected].box : KestoPlatform::CRect();
 }
 
 void Canvas::ConstrainAngle(CPoint origin, CPoint& point, bool)
@@ -397,16 +397,16 @@ void Canvas::Snap(const CPoint& in, CPoint& out)
     out = KestoTool::SiteGeometry::SnapToGrid(in, m_grid);
 }
 
-Platform::CString Canvas::GetCurrentSelectionDescription()
+KestoPlatform::CString Canvas::GetCurrentSelectionDescription()
 {
-    return m_selected >= 0 ? Platform::CString(m_document.shapes[m_selected].Description()) : Platform::CString();
+    return m_selected >= 0 ? KestoPlatform::CString(m_document.shapes[m_selected].Description()) : KestoPlatform::CString();
 }
 
 void Canvas::AddContextItem(int hostCommand)
 {
     m_bars->CreateControl(
-        hostCommand, true, [this](Platform::XTP_COMMANDBARS_CREATECONTROL* cc) { return m_tool->OnCreateControl(cc); },
-        [this](Platform::XTP_COMMANDBARS_CREATECONTROL* cc) { m_tool->OnAfterCreateControl(cc); });
+        hostCommand, true, [this](KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc) { return m_tool->OnCreateControl(cc); },
+        [this](KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc) { m_tool->OnAfterCreateControl(cc); });
 }
 
 void Canvas::UpdateFill(const CFill* fill, const wchar_t* undoName)
@@ -419,7 +419,7 @@ void Canvas::UpdateTransparency(const CFill* fill, const wchar_t* undoName, bool
     Commit(fill, undoName, true);
 }
 
-void Canvas::SetFillType(const Platform::CRuntimeClass* fillClass)
+void Canvas::SetFillType(const KestoPlatform::CRuntimeClass* fillClass)
 {
     Shape* shape = SelectedShape();
     RefPtr<CFill> fresh = CFill::CreateFromClass(fillClass);
@@ -437,36 +437,36 @@ void Canvas::SetFillType(const Platform::CRuntimeClass* fillClass)
     m_inDrag = wasDragging;
 }
 
-void Canvas::SetTransparencyType(const Platform::CRuntimeClass* transparencyClass)
+void Canvas::SetTransparencyType(const KestoPlatform::CRuntimeClass* transparencyClass)
 {
     SetFillType(transparencyClass);
 }
 
-int Canvas::CreateColourControl(Platform::XTP_COMMANDBARS_CREATECONTROL* cc)
+int Canvas::CreateColourControl(KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc)
 {
     if (!cc)
         return 0;
-    cc->pControl = std::make_unique<Platform::CXTPControlPopupColor>(cc->nID);
+    cc->pControl = std::make_unique<KestoPlatform::CXTPControlPopupColor>(cc->nID);
     return 1;
 }
 
-KestoGDI::CColour* Canvas::ColourPicker(const KestoGDI::CColour* current, Platform::CWnd*)
+KestoGDI::CColour* Canvas::ColourPicker(const KestoGDI::CColour* current, KestoPlatform::CWnd*)
 {
     const QColor start = current ? KestoToolQt::ToQColor(current->GetRGB(), current->GetAlpha()) : QColor(Qt::black);
     const QColor chosen = QColorDialog::getColor(start, this, tr("Colour"), QColorDialog::ShowAlphaChannel);
     if (!chosen.isValid())
         return nullptr;
-    return new KestoGDI::CRGBColour(Platform::RGB(chosen.red(), chosen.green(), chosen.blue()), nullptr, 0,
+    return new KestoGDI::CRGBColour(KestoPlatform::RGB(chosen.red(), chosen.green(), chosen.blue()), nullptr, 0,
                                     static_cast<short>(chosen.alpha()));
 }
 
-bool Canvas::ColourPicker(const KestoGDI::CColour* current, KestoGDI::CColour*& result, Platform::CWnd* owner)
+bool Canvas::ColourPicker(const KestoGDI::CColour* current, KestoGDI::CColour*& result, KestoPlatform::CWnd* owner)
 {
     result = ColourPicker(current, owner);
     return result != nullptr;
 }
 
-KestoGDI::CColour* Canvas::AskUserForNewColour(const KestoGDI::CColour* current, CPoint, Platform::CWnd* owner)
+KestoGDI::CColour* Canvas::AskUserForNewColour(const KestoGDI::CColour* current, CPoint, KestoPlatform::CWnd* owner)
 {
     return ColourPicker(current, owner);
 }
@@ -507,7 +507,7 @@ void Canvas::mousePressEvent(QMouseEvent* event)
         return;
     case Mode::Select: break;
     }
-    Platform::SIZE tolerance{kLineTolerance, kLineTolerance};
+    KestoPlatform::SIZE tolerance{kLineTolerance, kLineTolerance};
     ClientToPaper(&tolerance);
     if (m_tool && (m_tool->IndexFromPoint(m_pressPoint) != -1 || m_tool->IsPointOnLine(m_pressPoint, tolerance.cx))) {
         StartGesture(m_pressPoint, DragFlags(event->modifiers()), false);
@@ -599,15 +599,15 @@ void Canvas::mouseReleaseEvent(QMouseEvent* event)
         break;
     case Press::Shape: {
         Shape shape;
-        shape.box = Platform::CRect(m_pressPoint, p).Normalized();
-        shape.fill = RefPtr<const CFill>(new KestoGDI::CFillSolid(KestoGDI::CRGBColour(Platform::RGB(120, 170, 230)), false));
+        shape.box = KestoPlatform::CRect(m_pressPoint, p).Normalized();
+        shape.fill = RefPtr<const CFill>(new KestoGDI::CFillSolid(KestoGDI::CRGBColour(KestoPlatform::RGB(120, 170, 230)), false));
         if (m_mode == Mode::Path) {
             shape.kind = Shape::Kind::Path;
             shape.points = m_pathPoints;
             if (shape.points.size() < 3)
                 break;
             QRect bounds = shape.Outline().boundingRect().toAlignedRect();
-            shape.box = Platform::CRect(bounds.left(), bounds.top(), bounds.right() + 1, bounds.bottom() + 1);
+            shape.box = KestoPlatform::CRect(bounds.left(), bounds.top(), bounds.right() + 1, bounds.bottom() + 1);
         } else {
             shape.kind = m_mode == Mode::Ellipse ? Shape::Kind::Ellipse : Shape::Kind::Rectangle;
         }
@@ -640,7 +640,7 @@ void Canvas::keyPressEvent(QKeyEvent* event)
         return;
     }
     const int step = event->modifiers() & Qt::ShiftModifier ? 10 : 1;
-    Platform::SIZE pixel{step, step};
+    KestoPlatform::SIZE pixel{step, step};
     ClientToPaper(&pixel);
     switch (event->key()) {
     case Qt::Key_Tab:

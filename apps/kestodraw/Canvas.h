@@ -48,7 +48,7 @@ public:
 
     // The running tool; null without a selection or for a kind without a tool.
     KestoTool::FillTool* Tool() const { return m_tool.get(); }
-    Platform::CXTPCommandBars* ContextBars() const { return m_bars.get(); }
+    KestoPlatform::CXTPCommandBars* ContextBars() const { return m_bars.get(); }
 
     // Document pixels per unit on screen, and where the page's origin lies on the widget.
     double Zoom() const { return m_zoom; }
@@ -85,21 +85,21 @@ public:
     unsigned long GetToolColour() override { return 0xD77800; }
     Kesto2D::K2DLtGeneral GetObjectToSpreadTransform() override { return {}; }
     Kesto2D::K2DLtGeneral GetAppObjectToSpreadTransform() override { return {}; }
-    void ClientToPaper(Platform::SIZE* size) override;
-    Platform::CRect GetObjectBBox() override;
-    Platform::CRect GetTransformedObjectBBox() override { return GetObjectBBox(); }
+    void ClientToPaper(KestoPlatform::SIZE* size) override;
+    KestoPlatform::CRect GetObjectBBox() override;
+    KestoPlatform::CRect GetTransformedObjectBBox() override { return GetObjectBBox(); }
     bool IsCreate() override { return m_create; }
     bool IsInDrag() override { return m_inDrag; }
-    void ConstrainAngle(Platform::CPoint origin, Platform::CPoint& point, bool flag) override;
-    void ConstrainAnglePolar(Platform::CPoint origin, Platform::CPoint& point) override { ConstrainAngle(origin, point, false); }
-    void Snap(const Platform::CPoint& in, Platform::CPoint& out) override;
-    Platform::CString GetCurrentSelectionDescription() override;
+    void ConstrainAngle(KestoPlatform::CPoint origin, KestoPlatform::CPoint& point, bool flag) override;
+    void ConstrainAnglePolar(KestoPlatform::CPoint origin, KestoPlatform::CPoint& point) override { ConstrainAngle(origin, point, false); }
+    void Snap(const KestoPlatform::CPoint& in, KestoPlatform::CPoint& out) override;
+    KestoPlatform::CString GetCurrentSelectionDescription() override;
     void AddContextItem(int hostCommand) override;
     KestoTool::IDocumentEx* GetDocument() override { return this; }
     void UpdateFill(const KestoGDI::CFill* fill, const wchar_t* undoName) override;
     void UpdateTransparency(const KestoGDI::CFill* fill, const wchar_t* undoName, bool flag) override;
-    void SetFillType(const Platform::CRuntimeClass* fillClass) override;
-    void SetTransparencyType(const Platform::CRuntimeClass* transparencyClass) override;
+    void SetFillType(const KestoPlatform::CRuntimeClass* fillClass) override;
+    void SetTransparencyType(const KestoPlatform::CRuntimeClass* transparencyClass) override;
     void NotifyHandlesReset() override { update(); }
     double GetAngleSnapTolerance() override { return 20; }
 
@@ -107,10 +107,10 @@ public:
     KestoTool::IToolHelper* GetToolHelper() override { return this; }
 
     // IToolHelper
-    int CreateColourControl(Platform::XTP_COMMANDBARS_CREATECONTROL* cc) override;
-    bool ColourPicker(const KestoGDI::CColour* current, KestoGDI::CColour*& result, Platform::CWnd* owner) override;
-    KestoGDI::CColour* ColourPicker(const KestoGDI::CColour* current, Platform::CWnd* owner) override;
-    KestoGDI::CColour* AskUserForNewColour(const KestoGDI::CColour* current, Platform::CPoint where, Platform::CWnd* owner) override;
+    int CreateColourControl(KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc) override;
+    bool ColourPicker(const KestoGDI::CColour* current, KestoGDI::CColour*& result, KestoPlatform::CWnd* owner) override;
+    KestoGDI::CColour* ColourPicker(const KestoGDI::CColour* current, KestoPlatform::CWnd* owner) override;
+    KestoGDI::CColour* AskUserForNewColour(const KestoGDI::CColour* current, KestoPlatform::CPoint where, KestoPlatform::CWnd* owner) override;
     bool IsFillTypeAvailable(KestoGDI::CFill*) override { return true; }
     bool IsTransparencyTypeAvailable(KestoGDI::CFill*) override { return true; }
     bool GetDialogSetting() override { return true; }
@@ -142,16 +142,16 @@ protected:
 private:
     enum class Press { None, Tool, PendingCreate, Shape, Move, Pan };
 
-    Platform::CPoint ToDocument(const QPointF& device) const;
+    KestoPlatform::CPoint ToDocument(const QPointF& device) const;
     Shape* SelectedShape();
-    Kernel::RefPtr<const KestoGDI::CFill> EditedFill() const;
+    KestoKernel::RefPtr<const KestoGDI::CFill> EditedFill() const;
     void RebuildTool();
     void ScheduleRebuild();
     void SyncTool();
     void Commit(const KestoGDI::CFill* fill, const wchar_t* undoName, bool transparency);
     void PushStep(const QString& name, std::vector<Shape> before);
-    void StartGesture(Platform::CPoint at, unsigned flags, bool create);
-    void EndGesture(Platform::CPoint at, unsigned flags);
+    void StartGesture(KestoPlatform::CPoint at, unsigned flags, bool create);
+    void EndGesture(KestoPlatform::CPoint at, unsigned flags);
     void Nudge(int dx, int dy);
     void CycleHandle(int step);
     std::unique_ptr<KestoGDI::CColour> DroppedColour(const QMimeData* mime) const;
@@ -164,7 +164,7 @@ private:
     Mode m_mode = Mode::Select;
     bool m_editTransparency = false;
     int m_selected = -1;
-    std::unique_ptr<Platform::CXTPCommandBars> m_bars;
+    std::unique_ptr<KestoPlatform::CXTPCommandBars> m_bars;
     std::unique_ptr<KestoTool::FillTool> m_tool;
     bool m_rebuildPending = false;
 
@@ -177,13 +177,13 @@ private:
     // The gesture under way.
     Press m_press = Press::None;
     QPointF m_pressDevice;
-    Platform::CPoint m_pressPoint;
-    Platform::CPoint m_lastPoint;
+    KestoPlatform::CPoint m_pressPoint;
+    KestoPlatform::CPoint m_lastPoint;
     bool m_create = false;
     bool m_inDrag = false;
     std::vector<Shape> m_before;
     std::wstring m_gestureName;
-    std::vector<Platform::CPoint> m_pathPoints;
+    std::vector<KestoPlatform::CPoint> m_pathPoints;
     QPointF m_panFrom;
 };
 

@@ -38,21 +38,21 @@ const wchar_t* Shape::Description() const
 
 void Shape::Offset(int dx, int dy)
 {
-    const auto move = [dx, dy](const Platform::CPoint& p) { return Kesto2D::OffsetPoint(p, dx, dy); };
-    box = Platform::CRect(move(box.TopLeft()), move(box.BottomRight()));
-    for (Platform::CPoint& p : points)
+    const auto move = [dx, dy](const KestoPlatform::CPoint& p) { return Kesto2D::OffsetPoint(p, dx, dy); };
+    box = KestoPlatform::CRect(move(box.TopLeft()), move(box.BottomRight()));
+    for (KestoPlatform::CPoint& p : points)
         p = move(p);
     const Kesto2D::K2DLtGeneral shift(Kesto2D::K2DLtTranslate(dx, dy));
-    for (Kernel::RefPtr<const KestoGDI::CFill>* f : {&fill, &transparency}) {
+    for (KestoKernel::RefPtr<const KestoGDI::CFill>* f : {&fill, &transparency}) {
         if (!*f)
             continue;
-        Kernel::RefPtr<KestoGDI::CFill> moved = (*f)->Clone();
+        KestoKernel::RefPtr<KestoGDI::CFill> moved = (*f)->Clone();
         moved->Transform(shift);
         *f = std::move(moved);
     }
 }
 
-int Document::ShapeAt(const Platform::CPoint& point) const
+int Document::ShapeAt(const KestoPlatform::CPoint& point) const
 {
     for (int i = static_cast<int>(shapes.size()) - 1; i >= 0; --i) {
         if (shapes[i].Outline().contains(QPointF(point.x, point.y)))

@@ -16,10 +16,10 @@ struct Shape {
     enum class Kind { Rectangle, Ellipse, Path };
 
     Kind kind = Kind::Rectangle;
-    Platform::CRect box;                  // normalized; a path's bounds
-    std::vector<Platform::CPoint> points;  // a path's corners
-    Kernel::RefPtr<const KestoGDI::CFill> fill;          // never null
-    Kernel::RefPtr<const KestoGDI::CFill> transparency;  // null: none
+    KestoPlatform::CRect box;                  // normalized; a path's bounds
+    std::vector<KestoPlatform::CPoint> points;  // a path's corners
+    KestoKernel::RefPtr<const KestoGDI::CFill> fill;          // never null
+    KestoKernel::RefPtr<const KestoGDI::CFill> transparency;  // null: none
 
     QPainterPath Outline() const;
     // The name that starts every hint line about the shape ("Rectangle: ").
@@ -38,7 +38,7 @@ struct Document {
     std::vector<Shape> shapes;
 
     // The topmost shape whose outline holds the point; -1 for none.
-    int ShapeAt(const Platform::CPoint& point) const;
+    int ShapeAt(const KestoPlatform::CPoint& point) const;
 };
 
 } // namespace KestoDraw

@@ -36,7 +36,7 @@ QJsonObject WriteShape(const Shape& shape)
                     {"fill", FillJson::Write(*shape.fill)}};
     if (shape.kind == Shape::Kind::Path) {
         QJsonArray points;
-        for (const Platform::CPoint& p : shape.points)
+        for (const KestoPlatform::CPoint& p : shape.points)
             points.append(QJsonArray{p.x, p.y});
         out["points"] = points;
     }
@@ -69,7 +69,7 @@ Shape ReadShape(const QJsonValue& value)
     const QJsonArray box = Array(in, "box");
     if (box.size() != 4)
         throw FormatError(QStringLiteral("\"box\" should be four numbers: left, top, right, bottom"));
-    shape.box = Platform::CRect(Coordinate(box[0], "\"box\""), Coordinate(box[1], "\"box\""), Coordinate(box[2], "\"box\""),
+    shape.box = KestoPlatform::CRect(Coordinate(box[0], "\"box\""), Coordinate(box[1], "\"box\""), Coordinate(box[2], "\"box\""),
                                 Coordinate(box[3], "\"box\"")).Normalized();
     if (shape.kind == Shape::Kind::Path) {
         const QJsonArray points = Array(in, "points");

@@ -27,7 +27,7 @@ const std::optional<Paint>& DrawingPainter::PaintOf(const KestoGDI::CFill& fill,
     auto it = std::find_if(m_cache.begin(), m_cache.end(),
                            [&](const Cached& c) { return c.fill.get() == &fill && c.pixelsPerUnit == pixelsPerUnit; });
     if (it == m_cache.end()) {
-        m_cache.push_back({Kernel::RefPtr<const KestoGDI::CFill>(&fill), pixelsPerUnit,
+        m_cache.push_back({KestoKernel::RefPtr<const KestoGDI::CFill>(&fill), pixelsPerUnit,
                            KestoGDI::FillPaint::From(fill, pixelsPerUnit), true});
         return m_cache.back().paint;
     }

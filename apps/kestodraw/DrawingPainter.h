@@ -24,7 +24,7 @@ public:
 
 private:
     struct Cached {
-        Kernel::RefPtr<const KestoGDI::CFill> fill;
+        KestoKernel::RefPtr<const KestoGDI::CFill> fill;
         double pixelsPerUnit;
         std::optional<KestoRaster::Paint> paint;
         bool used;

@@ -159,7 +159,7 @@ KestoRaster::Path ReadPath(const QJsonArray& in)
     return path;
 }
 
-Kernel::RefPtr<CFill> ReadFill(const QJsonValue& value, int depth);
+KestoKernel::RefPtr<CFill> ReadFill(const QJsonValue& value, int depth);
 
 QJsonObject WriteDrawing(const VectorDrawing& drawing)
 {
@@ -325,7 +325,7 @@ private:
     int m_depth;
 };
 
-Kernel::RefPtr<CFill> ReadFill(const QJsonValue& value, int depth)
+KestoKernel::RefPtr<CFill> ReadFill(const QJsonValue& value, int depth)
 {
     if (depth > kMaxNesting)
         throw FormatError(QStringLiteral("fills are nested more than %1 deep").arg(kMaxNesting));
@@ -333,7 +333,7 @@ Kernel::RefPtr<CFill> ReadFill(const QJsonValue& value, int depth)
     const int type = Int(in, "type", 0, 1000);
     const bool transparency = Bool(in, "transparency");
     const CRuntimeClass* kind = transparency ? CTransparency::GetRuntimeClassFromType(type) : CFill::GetRuntimeClassFromType(type);
-    Kernel::RefPtr<CFill> fill = CFill::CreateFromClass(kind);
+    KestoKernel::RefPtr<CFill> fill = CFill::CreateFromClass(kind);
     if (!fill)
         throw FormatError(QStringLiteral("there is no %1 of type %2").arg(transparency ? "transparency" : "fill").arg(type));
     fill->SetAlpha(Int(in, "alpha", 0, 255));
@@ -374,7 +374,7 @@ QJsonObject FillJson::Write(const CFill& fill)
     return out;
 }
 
-Kernel::RefPtr<CFill> FillJson::Read(const QJsonValue& value)
+KestoKernel::RefPtr<CFill> FillJson::Read(const QJsonValue& value)
 {
     return ReadFill(value, 0);
 }
@@ -394,9 +394,9 @@ QJsonObject FillJson::WriteColour(const CColour& colour)
     untinted.SetTint(0);
     const COLORREF base = untinted.GetRGB();
     out["rgb"] = QStringLiteral("#%1%2%3")
-                     .arg(Platform::GetRValue(base), 2, 16, QChar('0'))
-                     .arg(Platform::GetGValue(base), 2, 16, QChar('0'))
-                     .arg(Platform::GetBValue(base), 2, 16, QChar('0'));
+                     .arg(KestoPlatform::GetRValue(base), 2, 16, QChar('0'))
+                     .arg(KestoPlatform::GetGValue(base), 2, 16, QChar('0'))
+                     .arg(KestoPlatform::GetBValue(base), 2, 16, QChar('0'));
     if (named && !named->GetName().empty())
         out["name"] = QString::fromStdWString(named->GetName());
     return out;
@@ -418,7 +418,7 @@ std::unique_ptr<CColour> FillJson::ReadColour(const QJsonValue& value)
     if (!ok || rgb.size() != 7 || rgb[0] != '#')
         throw FormatError(QStringLiteral("\"rgb\" should be a colour as #rrggbb"));
     const std::wstring name = in.value("name").toString().toStdWString();
-    return std::make_unique<CRGBColour>(Platform::RGB((value24 >> 16) & 0xFF, (value24 >> 8) & 0xFF, value24 & 0xFF),
+    return std::make_unique<CRGBColour>(KestoPlatform::RGB((value24 >> 16) & 0xFF, (value24 >> 8) & 0xFF, value24 & 0xFF),
                                         name.empty() ? nullptr : name.c_str(), tint, alpha);
 }
 

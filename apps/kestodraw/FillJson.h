@@ -21,7 +21,7 @@ public:
 
     static QJsonObject Write(const KestoGDI::CFill& fill);
     // A new fill; throws FormatError for anything that is not a fill this program wrote.
-    static Kernel::RefPtr<KestoGDI::CFill> Read(const QJsonValue& value);
+    static KestoKernel::RefPtr<KestoGDI::CFill> Read(const QJsonValue& value);
 
     static QJsonObject WriteColour(const KestoGDI::CColour& colour);
     static std::unique_ptr<KestoGDI::CColour> ReadColour(const QJsonValue& value);

@@ -282,7 +282,7 @@ void MainWindow::EditFill(bool transparency)
     const int command = KestoTool::ToolIdMap::GetInstance().MapIDToApp(
         KestoTool::FillToolKey, transparency ? KestoTool::FillCmdTransEdit : KestoTool::FillCmdEdit);
     if (command != -1)
-        tool->OnCmdMsg(command, Platform::CN_COMMAND, nullptr, nullptr);
+        tool->OnCmdMsg(command, KestoPlatform::CN_COMMAND, nullptr, nullptr);
 }
 
 void MainWindow::ShowPreferences()

@@ -34,7 +34,7 @@ Palette::Palette(QWidget* parent) : QWidget(parent)
         {110, 60, 170, L"Violet"},  {220, 80, 160, L"Pink"},       {130, 85, 50, L"Brown"},     {128, 128, 128, L"Grey"},
     };
     for (const auto& c : colours)
-        m_swatches.push_back(std::make_unique<KestoGDI::CRGBColour>(Platform::RGB(c.r, c.g, c.b), c.name));
+        m_swatches.push_back(std::make_unique<KestoGDI::CRGBColour>(KestoPlatform::RGB(c.r, c.g, c.b), c.name));
     // Transparency levels, opaque to clear.
     for (const int level : {0, 64, 128, 192, 255})
         m_swatches.push_back(std::make_unique<KestoGDI::CMonoColour>(level));

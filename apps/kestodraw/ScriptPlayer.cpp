@@ -54,7 +54,7 @@ bool ScriptPlayer::PlayStep(const QString& line)
     bool ok = true;
     const auto point = [&](qsizetype i) {
         bool okX = false, okY = false;
-        const Platform::CPoint p(number(i, okX), number(i + 1, okY));
+        const KestoPlatform::CPoint p(number(i, okX), number(i + 1, okY));
         ok = ok && okX && okY;
         return p;
     };
@@ -67,17 +67,17 @@ bool ScriptPlayer::PlayStep(const QString& line)
     } else if (verb == "edit" && w.size() == 2 && (w[1] == "fill" || w[1] == "transparency")) {
         canvas.SetEditTransparency(w[1] == "transparency");
     } else if (verb == "click") {
-        const Platform::CPoint at = point(1);
+        const KestoPlatform::CPoint at = point(1);
         if (ok)
             Click(at, Modifiers(w, 3));
     } else if (verb == "drag") {
-        const Platform::CPoint from = point(1);
-        const Platform::CPoint to = point(3);
+        const KestoPlatform::CPoint from = point(1);
+        const KestoPlatform::CPoint to = point(3);
         if (ok)
             Drag(from, to, Modifiers(w, 5));
     } else if (verb == "drop") {
         const int swatch = number(1, ok);
-        const Platform::CPoint at = point(2);
+        const KestoPlatform::CPoint at = point(2);
         ok = ok && swatch >= 0 && swatch < m_window.GetPalette().Count();
         if (ok)
             DropSwatch(swatch, at);
@@ -125,12 +125,12 @@ bool ScriptPlayer::PlayStep(const QString& line)
     return true;
 }
 
-QPointF ScriptPlayer::ToWidget(Platform::CPoint at) const
+QPointF ScriptPlayer::ToWidget(KestoPlatform::CPoint at) const
 {
     return m_window.GetCanvas().View().map(QPointF(at.x, at.y));
 }
 
-void ScriptPlayer::SendMouse(int type, Platform::CPoint at, Qt::MouseButton button, Qt::MouseButtons buttons,
+void ScriptPlayer::SendMouse(int type, KestoPlatform::CPoint at, Qt::MouseButton button, Qt::MouseButtons buttons,
                              Qt::KeyboardModifiers modifiers)
 {
     Canvas& canvas = m_window.GetCanvas();
@@ -139,38 +139,38 @@ void ScriptPlayer::SendMouse(int type, Platform::CPoint at, Qt::MouseButton butt
     QApplication::sendEvent(&canvas, &event);
 }
 
-void ScriptPlayer::Press(Platform::CPoint at, Qt::KeyboardModifiers modifiers)
+void ScriptPlayer::Press(KestoPlatform::CPoint at, Qt::KeyboardModifiers modifiers)
 {
     SendMouse(QEvent::MouseButtonPress, at, Qt::LeftButton, Qt::LeftButton, modifiers);
 }
 
-void ScriptPlayer::Move(Platform::CPoint to, Qt::KeyboardModifiers modifiers)
+void ScriptPlayer::Move(KestoPlatform::CPoint to, Qt::KeyboardModifiers modifiers)
 {
     SendMouse(QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton, modifiers);
 }
 
-void ScriptPlayer::Release(Platform::CPoint at, Qt::KeyboardModifiers modifiers)
+void ScriptPlayer::Release(KestoPlatform::CPoint at, Qt::KeyboardModifiers modifiers)
 {
     SendMouse(QEvent::MouseButtonRelease, at, Qt::LeftButton, Qt::NoButton, modifiers);
 }
 
-void ScriptPlayer::Drag(Platform::CPoint from, Platform::CPoint to, Qt::KeyboardModifiers modifiers)
+void ScriptPlayer::Drag(KestoPlatform::CPoint from, KestoPlatform::CPoint to, Qt::KeyboardModifiers modifiers)
 {
     Press(from, modifiers);
     for (int i = 1; i <= kDragSteps; ++i) {
         const auto along = [i](int a, int b) { return static_cast<int>(a + (static_cast<long long>(b) - a) * i / kDragSteps); };
-        Move(Platform::CPoint(along(from.x, to.x), along(from.y, to.y)), modifiers);
+        Move(KestoPlatform::CPoint(along(from.x, to.x), along(from.y, to.y)), modifiers);
     }
     Release(to, modifiers);
 }
 
-void ScriptPlayer::Click(Platform::CPoint at, Qt::KeyboardModifiers modifiers)
+void ScriptPlayer::Click(KestoPlatform::CPoint at, Qt::KeyboardModifiers modifiers)
 {
     Press(at, modifiers);
     Release(at, modifiers);
 }
 
-void ScriptPlayer::DropSwatch(int swatch, Platform::CPoint at)
+void ScriptPlayer::DropSwatch(int swatch, KestoPlatform::CPoint at)
 {
     // The drag and drop events the canvas gets from a swatch dragged out of the palette.
     Canvas& canvas = m_window.GetCanvas();
@@ -195,7 +195,7 @@ bool ScriptPlayer::ChooseKind(int type)
         // The tool's own type combo: the item whose data is the type.
         const int id = KestoTool::ToolIdMap::GetInstance().MapIDToApp(KestoTool::FillToolKey, KestoTool::FillCmdEditType);
         m_window.ContextBar().UpdateControls();
-        const auto* model = dynamic_cast<const Platform::CXTPControlComboBox*>(canvas.ContextBars()->FindControl(id));
+        const auto* model = dynamic_cast<const KestoPlatform::CXTPControlComboBox*>(canvas.ContextBars()->FindControl(id));
         box = qobject_cast<QComboBox*>(m_window.ContextBar().WidgetOf(id));
         for (int i = 0; model && i < model->GetCount(); ++i) {
             if (model->GetItemData(i) == type)

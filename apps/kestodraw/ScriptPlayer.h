@@ -33,18 +33,18 @@ public:
     int Shots() const { return m_shots; }
 
     // Mouse and drop input at document points.
-    void Press(Platform::CPoint at, Qt::KeyboardModifiers modifiers = {});
-    void Move(Platform::CPoint to, Qt::KeyboardModifiers modifiers = {});
-    void Release(Platform::CPoint at, Qt::KeyboardModifiers modifiers = {});
-    void Drag(Platform::CPoint from, Platform::CPoint to, Qt::KeyboardModifiers modifiers = {});
-    void Click(Platform::CPoint at, Qt::KeyboardModifiers modifiers = {});
-    void DropSwatch(int swatch, Platform::CPoint at);
+    void Press(KestoPlatform::CPoint at, Qt::KeyboardModifiers modifiers = {});
+    void Move(KestoPlatform::CPoint to, Qt::KeyboardModifiers modifiers = {});
+    void Release(KestoPlatform::CPoint at, Qt::KeyboardModifiers modifiers = {});
+    void Drag(KestoPlatform::CPoint from, KestoPlatform::CPoint to, Qt::KeyboardModifiers modifiers = {});
+    void Click(KestoPlatform::CPoint at, Qt::KeyboardModifiers modifiers = {});
+    void DropSwatch(int swatch, KestoPlatform::CPoint at);
     // Chooses a type number in whichever type box shows.
     bool ChooseKind(int type);
 
 private:
-    QPointF ToWidget(Platform::CPoint at) const;
-    void SendMouse(int type, Platform::CPoint at, Qt::MouseButton button, Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers);
+    QPointF ToWidget(KestoPlatform::CPoint at) const;
+    void SendMouse(int type, KestoPlatform::CPoint at, Qt::MouseButton button, Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers);
     void Settle();
     void Shoot(const QString& name);
 

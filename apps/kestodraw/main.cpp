@@ -32,7 +32,7 @@ int main(int argc, char** argv)
     options.process(app);
 
     KestoToolQt::QtBackend backend;
-    Platform::SetBackend(&backend);
+    KestoPlatform::SetBackend(&backend);
     KestoTool::Init(40000, 40200);
     int status = 0;
     {
@@ -69,6 +69,6 @@ int main(int argc, char** argv)
             status = QApplication::exec();
         }
     }
-    Platform::SetBackend(nullptr);
+    KestoPlatform::SetBackend(nullptr);
     return status;
 }

@@ -3,7 +3,7 @@
 #include <kestotool/tool/SiteGeometry.h>
 
 
-void DemoHost::Drag(Platform::CPoint from, Platform::CPoint to, unsigned flags)
+void DemoHost::Drag(KestoPlatform::CPoint from, KestoPlatform::CPoint to, unsigned flags)
 {
     inDrag = true;
     tool->OnDragStart(from, flags);
@@ -14,18 +14,18 @@ void DemoHost::Drag(Platform::CPoint from, Platform::CPoint to, unsigned flags)
     UpdateFill(tool->GetFill(), L"Move Fill Handle");
 }
 
-void DemoHost::Click(Platform::CPoint at)
+void DemoHost::Click(KestoPlatform::CPoint at)
 {
     tool->OnDragStart(at, 0);
     tool->OnDragEnd(at, 0);
 }
 
-void DemoHost::ConstrainAngle(Platform::CPoint origin, Platform::CPoint& point, bool)
+void DemoHost::ConstrainAngle(KestoPlatform::CPoint origin, KestoPlatform::CPoint& point, bool)
 {
     point = KestoTool::SiteGeometry::ConstrainToAngleStep(origin, point, 1500);
 }
 
-void DemoHost::Snap(const Platform::CPoint& in, Platform::CPoint& out)
+void DemoHost::Snap(const KestoPlatform::CPoint& in, KestoPlatform::CPoint& out)
 {
     out = KestoTool::SiteGeometry::SnapToGrid(in, 10);
 }

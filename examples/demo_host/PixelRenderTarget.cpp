@@ -13,15 +13,15 @@ double Cover(double halfWidth, double distance)
 } // namespace
 
 template <class Coverage>
-void PixelRenderTarget::Paint(double left, double top, double right, double bottom, Platform::COLORREF colour, int alpha,
+void PixelRenderTarget::Paint(double left, double top, double right, double bottom, KestoPlatform::COLORREF colour, int alpha,
                               Coverage coverage)
 {
     const int x0 = std::max(0, static_cast<int>(std::floor(left)) - 1);
     const int y0 = std::max(0, static_cast<int>(std::floor(top)) - 1);
     const int x1 = std::min(m_width, static_cast<int>(std::ceil(right)) + 1);
     const int y1 = std::min(m_height, static_cast<int>(std::ceil(bottom)) + 1);
-    const double channels[3] = {static_cast<double>(Platform::GetRValue(colour)), static_cast<double>(Platform::GetGValue(colour)),
-                                static_cast<double>(Platform::GetBValue(colour))};
+    const double channels[3] = {static_cast<double>(KestoPlatform::GetRValue(colour)), static_cast<double>(KestoPlatform::GetGValue(colour)),
+                                static_cast<double>(KestoPlatform::GetBValue(colour))};
     for (int y = y0; y < y1; ++y) {
         for (int x = x0; x < x1; ++x) {
             const double a = alpha / 255.0 * coverage(x + 0.5, y + 0.5);
@@ -56,7 +56,7 @@ void PixelRenderTarget::Ring(double cx, double cy, double radius, const KestoGDI
           [&](double x, double y) { return Cover(pen.width / 2, std::abs(std::hypot(x - cx, y - cy) - radius)); });
 }
 
-void PixelRenderTarget::DrawDisc(const Platform::CPoint& centre, int radius, const KestoGDI::RenderBrush& fill,
+void PixelRenderTarget::DrawDisc(const KestoPlatform::CPoint& centre, int radius, const KestoGDI::RenderBrush& fill,
                                  const std::optional<KestoGDI::RenderPen>& outline)
 {
     const double cx = centre.x, cy = centre.y, r = radius;
@@ -66,12 +66,12 @@ void PixelRenderTarget::DrawDisc(const Platform::CPoint& centre, int radius, con
         Ring(cx, cy, r, *outline);
 }
 
-void PixelRenderTarget::DrawCircle(const Platform::CPoint& centre, int radius, const KestoGDI::RenderPen& pen)
+void PixelRenderTarget::DrawCircle(const KestoPlatform::CPoint& centre, int radius, const KestoGDI::RenderPen& pen)
 {
     Ring(centre.x, centre.y, radius, pen);
 }
 
-void PixelRenderTarget::DrawLine(const Platform::CPoint& a, const Platform::CPoint& b, const KestoGDI::RenderPen& pen)
+void PixelRenderTarget::DrawLine(const KestoPlatform::CPoint& a, const KestoPlatform::CPoint& b, const KestoGDI::RenderPen& pen)
 {
     Segment(a.x, a.y, b.x, b.y, pen);
 }

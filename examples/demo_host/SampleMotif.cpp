@@ -5,12 +5,12 @@
 #include <kestotool/gdi/CRGBColour.h>
 #include <kestotool/gdi/ColourIntPairs.h>
 
-Kernel::RefPtr<const KestoGDI::VectorDrawing> SampleMotif()
+KestoKernel::RefPtr<const KestoGDI::VectorDrawing> SampleMotif()
 {
     using KestoRaster::Path;
-    auto drawing = Kernel::MakeRef<KestoGDI::VectorDrawing>(40000, 40000);
-    const auto solid = [](Platform::COLORREF c) {
-        return Kernel::MakeRef<KestoGDI::CFillSolid>(KestoGDI::CRGBColour(c), true);
+    auto drawing = KestoKernel::MakeRef<KestoGDI::VectorDrawing>(40000, 40000);
+    const auto solid = [](KestoPlatform::COLORREF c) {
+        return KestoKernel::MakeRef<KestoGDI::CFillSolid>(KestoGDI::CRGBColour(c), true);
     };
     constexpr double c = 20000, r = 16000, k = 0.5523 * r;
     Path disc;
@@ -19,11 +19,11 @@ Kernel::RefPtr<const KestoGDI::VectorDrawing> SampleMotif()
     disc.CubicTo({c - k, c + r}, {c - r, c + k}, {c - r, c});
     disc.CubicTo({c - r, c - k}, {c - k, c - r}, {c, c - r});
     disc.CubicTo({c + k, c - r}, {c + r, c - k}, {c + r, c});
-    auto glow = Kernel::MakeRef<KestoGDI::CFillLinear>();
+    auto glow = KestoKernel::MakeRef<KestoGDI::CFillLinear>();
     glow->SetControls({4000, 4000}, {36000, 36000});
     KestoGDI::ColourIntPairs stops;
-    stops.Add(KestoGDI::CRGBColour(Platform::RGB(250, 210, 60)), 0);
-    stops.Add(KestoGDI::CRGBColour(Platform::RGB(230, 90, 30)), 10000);
+    stops.Add(KestoGDI::CRGBColour(KestoPlatform::RGB(250, 210, 60)), 0);
+    stops.Add(KestoGDI::CRGBColour(KestoPlatform::RGB(230, 90, 30)), 10000);
     glow->SetColourIntPairs(stops);
     drawing->AddShape(disc, glow);
     Path diamond;
@@ -32,12 +32,12 @@ Kernel::RefPtr<const KestoGDI::VectorDrawing> SampleMotif()
     diamond.LineTo({20000, 31000});
     diamond.LineTo({9000, 20000});
     diamond.Close();
-    drawing->AddShape(diamond, solid(Platform::RGB(20, 40, 120)));
+    drawing->AddShape(diamond, solid(KestoPlatform::RGB(20, 40, 120)));
     Path corner;
     corner.MoveTo({1000, 1000});
     corner.LineTo({11000, 1000});
     corner.LineTo({1000, 11000});
     corner.Close();
-    drawing->AddShape(corner, solid(Platform::RGB(0, 150, 160)));
+    drawing->AddShape(corner, solid(KestoPlatform::RGB(0, 150, 160)));
     return drawing;
 }

@@ -9,7 +9,7 @@
 
 namespace {
 
-std::string Point(Platform::CPoint p)
+std::string Point(KestoPlatform::CPoint p)
 {
     return "(" + std::to_string(p.x) + "," + std::to_string(p.y) + ")";
 }
@@ -18,7 +18,7 @@ std::string Point(Platform::CPoint p)
 
 std::string DescribeFill(const KestoGDI::CFill& fill)
 {
-    std::string s = Platform::CString(fill.GetTypeAsString()).ToUtf8();
+    std::string s = KestoPlatform::CString(fill.GetTypeAsString()).ToUtf8();
     for (int i = 0; i < fill.GetControlCount(); ++i)
         s += (i ? " " : " at ") + Point(fill.GetControlPoint(i).Round());
     if (const auto* withStops = dynamic_cast<const KestoGDI::CFillWithStops*>(&fill)) {
@@ -36,16 +36,16 @@ std::string DescribeFill(const KestoGDI::CFill& fill)
 
 void ReportStep(const char* step, DemoHost& host, KestoTool::FillTool& tool, int commitsBefore)
 {
-    Platform::CString hint;
+    KestoPlatform::CString hint;
     tool.GetHintLine(&hint);
     Kesto2D::K2DArrayPoint handles;
     tool.GetHandles(&handles);
     std::cout << "\n== " << step << "\n   hint:    " << hint.ToUtf8() << "\n   handles:";
-    for (const Platform::CPoint& p : handles)
+    for (const KestoPlatform::CPoint& p : handles)
         std::cout << ' ' << Point(p);
     std::cout << "  (current " << tool.GetCurrentNode() << ")\n";
     if (host.commits > commitsBefore)
-        std::cout << "   commit:  \"" << Platform::CString(host.lastUndoName).ToUtf8() << "\" " << DescribeFill(*host.fill)
+        std::cout << "   commit:  \"" << KestoPlatform::CString(host.lastUndoName).ToUtf8() << "\" " << DescribeFill(*host.fill)
                   << '\n';
     else
         std::cout << "   commit:  none\n";

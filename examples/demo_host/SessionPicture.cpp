@@ -7,7 +7,7 @@
 
 #include <vector>
 
-bool WriteSessionPicture(const std::string& path, const Platform::CRect& r, const KestoGDI::CFill& fill,
+bool WriteSessionPicture(const std::string& path, const KestoPlatform::CRect& r, const KestoGDI::CFill& fill,
                          const KestoTool::FillTool& tool, int margin, double unitsPerPixel)
 {
     const double scale = 1 / unitsPerPixel;

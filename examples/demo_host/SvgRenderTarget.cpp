@@ -2,11 +2,11 @@
 
 #include <cstdio>
 
-std::string SvgColour(Platform::COLORREF c)
+std::string SvgColour(KestoPlatform::COLORREF c)
 {
     char text[8];
-    std::snprintf(text, sizeof text, "#%02x%02x%02x", Platform::GetRValue(c), Platform::GetGValue(c),
-                  Platform::GetBValue(c));
+    std::snprintf(text, sizeof text, "#%02x%02x%02x", KestoPlatform::GetRValue(c), KestoPlatform::GetGValue(c),
+                  KestoPlatform::GetBValue(c));
     return text;
 }
 
@@ -23,14 +23,14 @@ std::string Stroke(const KestoGDI::RenderPen& pen)
 std::string Points(const Kesto2D::K2DArrayPoint& points)
 {
     std::string s;
-    for (const Platform::CPoint& p : points)
+    for (const KestoPlatform::CPoint& p : points)
         s += std::to_string(p.x) + "," + std::to_string(p.y) + " ";
     return s;
 }
 
 } // namespace
 
-void SvgRenderTarget::DrawDisc(const Platform::CPoint& centre, int radius, const KestoGDI::RenderBrush& fill,
+void SvgRenderTarget::DrawDisc(const KestoPlatform::CPoint& centre, int radius, const KestoGDI::RenderBrush& fill,
                                const std::optional<KestoGDI::RenderPen>& outline)
 {
     char text[160];
@@ -39,13 +39,13 @@ void SvgRenderTarget::DrawDisc(const Platform::CPoint& centre, int radius, const
     m_svg += text + (outline ? Stroke(*outline) : std::string()) + "/>\n";
 }
 
-void SvgRenderTarget::DrawCircle(const Platform::CPoint& centre, int radius, const KestoGDI::RenderPen& pen)
+void SvgRenderTarget::DrawCircle(const KestoPlatform::CPoint& centre, int radius, const KestoGDI::RenderPen& pen)
 {
     m_svg += "<circle cx=\"" + std::to_string(centre.x) + "\" cy=\"" + std::to_string(centre.y) + "\" r=\"" +
              std::to_string(radius) + "\" fill=\"none\"" + Stroke(pen) + "/>\n";
 }
 
-void SvgRenderTarget::DrawLine(const Platform::CPoint& a, const Platform::CPoint& b, const KestoGDI::RenderPen& pen)
+void SvgRenderTarget::DrawLine(const KestoPlatform::CPoint& a, const KestoPlatform::CPoint& b, const KestoGDI::RenderPen& pen)
 {
     m_svg += "<line x1=\"" + std::to_string(a.x) + "\" y1=\"" + std::to_string(a.y) + "\" x2=\"" +
              std::to_string(b.x) + "\" y2=\"" + std::to_string(b.y) + "\"" + Stroke(pen) +

@@ -8,10 +8,10 @@
 class SvgRenderTarget : public KestoGDI::IRenderTarget {
 public:
     double ScalePixels(double pixels) const override { return pixels; }
-    void DrawDisc(const Platform::CPoint& centre, int radius, const KestoGDI::RenderBrush& fill,
+    void DrawDisc(const KestoPlatform::CPoint& centre, int radius, const KestoGDI::RenderBrush& fill,
                   const std::optional<KestoGDI::RenderPen>& outline) override;
-    void DrawCircle(const Platform::CPoint& centre, int radius, const KestoGDI::RenderPen& pen) override;
-    void DrawLine(const Platform::CPoint& a, const Platform::CPoint& b, const KestoGDI::RenderPen& pen) override;
+    void DrawCircle(const KestoPlatform::CPoint& centre, int radius, const KestoGDI::RenderPen& pen) override;
+    void DrawLine(const KestoPlatform::CPoint& a, const KestoPlatform::CPoint& b, const KestoGDI::RenderPen& pen) override;
     void DrawPolyline(const Kesto2D::K2DArrayPoint& points, const KestoGDI::RenderPen& pen) override;
     void DrawCurve(const Kesto2D::K2DCurve& curve, const KestoGDI::RenderPen& pen) override;
 
@@ -22,4 +22,4 @@ private:
 };
 
 // "#rrggbb" for a 0x00BBGGRR colour.
-std::string SvgColour(Platform::COLORREF c);
+std::string SvgColour(KestoPlatform::COLORREF c);

@@ -113,18 +113,18 @@ void ShowcaseStops(KestoGDI::CFill& fill)
         stops.Add(KestoGDI::CMonoColour(90), 5000);
         stops.Add(KestoGDI::CMonoColour(255), 10000);
     } else {
-        stops.Add(KestoGDI::CRGBColour(Platform::RGB(220, 30, 40)), 0);
-        stops.Add(KestoGDI::CRGBColour(Platform::RGB(255, 170, 0)), 3000);
-        stops.Add(KestoGDI::CRGBColour(Platform::RGB(0, 160, 150)), 6500);
-        stops.Add(KestoGDI::CRGBColour(Platform::RGB(30, 40, 150)), 10000);
+        stops.Add(KestoGDI::CRGBColour(KestoPlatform::RGB(220, 30, 40)), 0);
+        stops.Add(KestoGDI::CRGBColour(KestoPlatform::RGB(255, 170, 0)), 3000);
+        stops.Add(KestoGDI::CRGBColour(KestoPlatform::RGB(0, 160, 150)), 6500);
+        stops.Add(KestoGDI::CRGBColour(KestoPlatform::RGB(30, 40, 150)), 10000);
     }
     withStops->SetColourIntPairs(stops);
 }
 
 // A small tile for the bitmap kinds: a ring of colour on a soft background.
-Kernel::RefPtr<const KestoGDI::CLtBitmap> SampleTile()
+KestoKernel::RefPtr<const KestoGDI::CLtBitmap> SampleTile()
 {
-    auto tile = Kernel::MakeRef<KestoGDI::CLtBitmap>(24, 24);
+    auto tile = KestoKernel::MakeRef<KestoGDI::CLtBitmap>(24, 24);
     for (int y = 0; y < 24; ++y) {
         for (int x = 0; x < 24; ++x) {
             const int d2 = (x - 12) * (x - 12) + (y - 12) * (y - 12);
@@ -136,11 +136,11 @@ Kernel::RefPtr<const KestoGDI::CLtBitmap> SampleTile()
 }
 
 // Paints one fill into its cell; false for a kind the renderer does not paint yet.
-bool PaintCell(Canvas& canvas, const Platform::CRuntimeClass* kind, const Clip& cell)
+bool PaintCell(Canvas& canvas, const KestoPlatform::CRuntimeClass* kind, const Clip& cell)
 {
     canvas.Checkerboard(cell);
-    Kernel::RefPtr<KestoGDI::CFill> fill = KestoGDI::CFill::CreateFromClass(kind);
-    const Platform::CRect box(cell.x0 + 10, cell.y0 + 10, cell.x1 - 10, cell.y1 - 10);
+    KestoKernel::RefPtr<KestoGDI::CFill> fill = KestoGDI::CFill::CreateFromClass(kind);
+    const KestoPlatform::CRect box(cell.x0 + 10, cell.y0 + 10, cell.x1 - 10, cell.y1 - 10);
     fill->SetDefaultControls(box);
     ShowcaseStops(*fill);
     // A vector fill needs a drawing to show: the demo's motif, a few instances across the cell
@@ -179,7 +179,7 @@ int main(int argc, char** argv)
         const KestoGDI::FillKind& kind = kinds[i];
         const int x = static_cast<int>(i % kColumns) * kBlockWidth + kGap;
         const int y = static_cast<int>(i / kColumns) * kBlockHeight + kLabel + kGap;
-        const std::string name = Platform::CString(kind.fillName).ToUtf8();
+        const std::string name = KestoPlatform::CString(kind.fillName).ToUtf8();
         canvas.Text(x, y, name);
         const Clip fillCell{x, y + kLabel, x + kCell, y + kLabel + kCellHeight};
         const Clip transparencyCell{x + kCell + kGap, y + kLabel, x + 2 * kCell + kGap, y + kLabel + kCellHeight};

@@ -12,11 +12,11 @@
 // control on its context toolbar for each item the tool asks for.
 class RectangleSite : public KestoTool::NullToolSite {
 public:
-    Platform::CRect object{0, 0, 1000, 500};
-    Kernel::RefPtr<KestoGDI::CFill> fill;
+    KestoPlatform::CRect object{0, 0, 1000, 500};
+    KestoKernel::RefPtr<KestoGDI::CFill> fill;
     bool inDrag = false;
     KestoTool::FillTool* tool = nullptr;
-    Platform::CXTPCommandBars bars;
+    KestoPlatform::CXTPCommandBars bars;
 
     // Gives the rectangle a linear fill and makes the tool that edits it, with its context
     // toolbar in bars; null if the library has no tool for the kind.
@@ -35,12 +35,12 @@ public:
     void AddContextItem(int hostCommand) override
     {
         bars.CreateControl(
-            hostCommand, true, [this](Platform::XTP_COMMANDBARS_CREATECONTROL* cc) { return tool->OnCreateControl(cc); },
-            [this](Platform::XTP_COMMANDBARS_CREATECONTROL* cc) { tool->OnAfterCreateControl(cc); });
+            hostCommand, true, [this](KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc) { return tool->OnCreateControl(cc); },
+            [this](KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc) { tool->OnAfterCreateControl(cc); });
     }
 
-    Platform::CRect GetObjectBBox() override { return object; }
-    Platform::CRect GetTransformedObjectBBox() override { return object; }
+    KestoPlatform::CRect GetObjectBBox() override { return object; }
+    KestoPlatform::CRect GetTransformedObjectBBox() override { return object; }
     bool IsInDrag() override { return inDrag; }
     void UpdateFill(const KestoGDI::CFill* committed, const wchar_t*) override { fill = committed->Clone(); }
 };

@@ -41,10 +41,10 @@ int main()
 
     // Drag the end handle down to the bottom right corner, then record the tool's fill.
     const auto& before = dynamic_cast<const KestoGDI::CFillLinear&>(*tool->GetFill());
-    const Platform::CPoint end = before.GetEnd().Round();
+    const KestoPlatform::CPoint end = before.GetEnd().Round();
     const Kesto2D::K2DDblPoint start = before.GetStart();
     // The tool may snap or constrain the points it is given, so it takes them by reference.
-    Platform::CPoint press = end, corner(1000, 500), release = corner;
+    KestoPlatform::CPoint press = end, corner(1000, 500), release = corner;
     site.inDrag = true;
     tool->OnDragStart(press, 0);
     tool->OnDragChange(corner, 0);
@@ -54,7 +54,7 @@ int main()
 
     const auto& after = dynamic_cast<const KestoGDI::CFillLinear&>(*site.fill);
     std::printf("end handle: (%d, %d) -> (%g, %g)\n", end.x, end.y, after.GetEnd().x, after.GetEnd().y);
-    if (after.GetEnd().Round() != Platform::CPoint(1000, 500) || after.GetStart() != start)
+    if (after.GetEnd().Round() != KestoPlatform::CPoint(1000, 500) || after.GetStart() != start)
         return Fail("the drag did not move the end handle");
     return 0;
 }

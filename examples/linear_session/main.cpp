@@ -22,7 +22,7 @@
 #include <string>
 
 using namespace KestoTool;
-using Platform::CPoint;
+using KestoPlatform::CPoint;
 
 namespace {
 
@@ -88,7 +88,7 @@ int main(int argc, char** argv)
     FillTool& tool = *made;
     host.tool = &tool;
 
-    Platform::CXTPCommandBars bars;
+    KestoPlatform::CXTPCommandBars bars;
     tool.InitContextButtons(&bars);
     std::cout << "KestoTool linear fill session on a 400 x 200 rectangle\n"
               << "context toolbar: " << bars.GetImageManager()->GetImageCount() << " command images registered\n";
@@ -109,9 +109,9 @@ int main(int argc, char** argv)
 
     before = host.commits;
     CPoint drop = Along(tool, 3000);
-    tool.OnFillCellDrop(drop, std::make_unique<KestoGDI::CRGBColour>(Platform::RGB(255, 140, 0)).get());
+    tool.OnFillCellDrop(drop, std::make_unique<KestoGDI::CRGBColour>(KestoPlatform::RGB(255, 140, 0)).get());
     drop = Along(tool, 6000);
-    tool.OnFillCellDrop(drop, std::make_unique<KestoGDI::CRGBColour>(Platform::RGB(0, 150, 160)).get());
+    tool.OnFillCellDrop(drop, std::make_unique<KestoGDI::CRGBColour>(KestoPlatform::RGB(0, 150, 160)).get());
     ReportStep("drop orange at 30% and teal at 60% of the line", host, tool, before);
 
     before = host.commits;
@@ -125,7 +125,7 @@ int main(int argc, char** argv)
 
     before = host.commits;
     const int rotateRight = ToolIdMap::GetInstance().MapIDToApp(FillToolKey, FillCmdRotateRight);
-    tool.OnCmdMsg(rotateRight, Platform::CN_COMMAND, nullptr, nullptr);
+    tool.OnCmdMsg(rotateRight, KestoPlatform::CN_COMMAND, nullptr, nullptr);
     ReportStep("Rotate Right from the context toolbar", host, tool, before);
 
     before = host.commits;

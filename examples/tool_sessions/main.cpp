@@ -33,16 +33,16 @@
 
 using namespace KestoTool;
 using KestoGDI::CFill;
-using Platform::CPoint;
+using KestoPlatform::CPoint;
 
 namespace {
 
-const Platform::CRect kObject(0, 0, 400, 240);
+const KestoPlatform::CRect kObject(0, 0, 400, 240);
 
 // One session's host and tool, and the steps a script plays on them.
 class Player {
 public:
-    explicit Player(Kernel::RefPtr<CFill> fill, const Platform::CRect& object = kObject, double unitsPerPixel = 1)
+    explicit Player(KestoKernel::RefPtr<CFill> fill, const KestoPlatform::CRect& object = kObject, double unitsPerPixel = 1)
         : m_host(object), m_unitsPerPixel(unitsPerPixel)
     {
         m_host.fill = std::move(fill);
@@ -84,7 +84,7 @@ public:
         const CPoint from = Handle(handle);
         Drag(what, from, {from.x + dx, from.y + dy}, flags);
     }
-    void Drop(const char* what, CPoint at, Platform::COLORREF colour)
+    void Drop(const char* what, CPoint at, KestoPlatform::COLORREF colour)
     {
         const int before = m_host.commits;
         const KestoGDI::CRGBColour dropped(colour);
@@ -114,19 +114,19 @@ private:
     std::unique_ptr<FillTool> m_tool;
 };
 
-constexpr Platform::COLORREF kNavy = Platform::RGB(20, 40, 120);
-constexpr Platform::COLORREF kGold = Platform::RGB(250, 210, 60);
-constexpr Platform::COLORREF kOrange = Platform::RGB(230, 90, 30);
-constexpr Platform::COLORREF kTeal = Platform::RGB(0, 150, 160);
+constexpr KestoPlatform::COLORREF kNavy = KestoPlatform::RGB(20, 40, 120);
+constexpr KestoPlatform::COLORREF kGold = KestoPlatform::RGB(250, 210, 60);
+constexpr KestoPlatform::COLORREF kOrange = KestoPlatform::RGB(230, 90, 30);
+constexpr KestoPlatform::COLORREF kTeal = KestoPlatform::RGB(0, 150, 160);
 
 template <class Fill>
-Kernel::RefPtr<CFill> Starting(std::initializer_list<Platform::COLORREF> colours)
+KestoKernel::RefPtr<CFill> Starting(std::initializer_list<KestoPlatform::COLORREF> colours)
 {
     Fill fill;
     fill.SetDefaultControls(kObject);
     KestoGDI::ColourIntPairs stops;
     int i = 0;
-    for (Platform::COLORREF c : colours)
+    for (KestoPlatform::COLORREF c : colours)
         stops.Add(KestoGDI::CRGBColour(c), colours.size() == 2 ? 10000 * i++ : 0);
     fill.SetColourIntPairs(stops);
     return fill.Clone();
@@ -172,7 +172,7 @@ void PlayCorners(Player& p)
     p.Drop("drop teal on corner 2", p.Handle(2), kTeal);
 }
 
-bool Run(const char* name, Kernel::RefPtr<CFill> fill, const std::function<void(Player&)>& script,
+bool Run(const char* name, KestoKernel::RefPtr<CFill> fill, const std::function<void(Player&)>& script,
          const std::string& directory)
 {
     std::cout << "\n#### " << name << " fill session on a 400 x 240 rectangle\n";
@@ -187,7 +187,7 @@ bool RunVector(const std::string& directory)
     std::cout << "\n#### vector fill session on a 200000 x 120000 rectangle (500 units a pixel)\n";
     KestoGDI::CFillVector start{SampleMotif()};
     start.SetRawBox({{10000, 50000}, {50000, 50000}, {10000, 10000}}, true);
-    Player p(start.Clone(), Platform::CRect(0, 0, 200000, 120000), 500);
+    Player p(start.Clone(), KestoPlatform::CRect(0, 0, 200000, 120000), 500);
     auto& tool = dynamic_cast<FillToolVector&>(p.Tool());
     p.DragHandle("scaling mode: drag the x-axis end by (8000, 6000): the tile turns and grows", 1, 8000, 6000);
     p.DragHandle("drag the origin by (12000, 16000): the tile moves", 0, 12000, 16000);
@@ -212,12 +212,12 @@ int main(int argc, char** argv)
     KestoTool::Init(1000, 1100);
 
     std::string error;
-    const Kernel::RefPtr<KestoGDI::CLtBitmap> tile = KestoGDI::PngFile::Read(tilePath, &error);
+    const KestoKernel::RefPtr<KestoGDI::CLtBitmap> tile = KestoGDI::PngFile::Read(tilePath, &error);
     if (!tile) {
         std::cerr << error << '\n';
         return 1;
     }
-    KestoGDI::CFillBitmap bricks{Kernel::RefPtr<const KestoGDI::CLtBitmap>(tile)};
+    KestoGDI::CFillBitmap bricks{KestoKernel::RefPtr<const KestoGDI::CLtBitmap>(tile)};
     bricks.SetControls({40, 40}, {104, 40}, {40, 104});
 
     const auto stops = [](auto along) { return [along](Player& p) { PlayStops(p, along); }; };
@@ -226,10 +226,10 @@ int main(int argc, char** argv)
         Run("elliptical", Starting<KestoGDI::CFillEllipse>({kNavy, kGold}), stops(AlongAxis), directory) &&
         Run("conical", Starting<KestoGDI::CFillConical>({kNavy, kGold}), stops(AroundHalfCircle), directory) &&
         Run("square", Starting<KestoGDI::CFillSquare>({kNavy, kGold}), stops(AlongAxis), directory) &&
-        Run("three-colour", Starting<KestoGDI::CFillThreeColour>({kNavy, kGold, Platform::RGB(200, 40, 90)}), PlayCorners,
+        Run("three-colour", Starting<KestoGDI::CFillThreeColour>({kNavy, kGold, KestoPlatform::RGB(200, 40, 90)}), PlayCorners,
             directory) &&
         Run("four-colour",
-            Starting<KestoGDI::CFillFourColour>({kNavy, kGold, Platform::RGB(200, 40, 90), Platform::RGB(40, 170, 90)}),
+            Starting<KestoGDI::CFillFourColour>({kNavy, kGold, KestoPlatform::RGB(200, 40, 90), KestoPlatform::RGB(40, 170, 90)}),
             PlayCorners, directory) &&
         Run("plasma", Starting<KestoGDI::CFillFractal>({kNavy, kGold}),
             [](Player& p) {

@@ -40,18 +40,18 @@ struct EditorTest : testing::TestWithParam<UserInput*> {
     UserInput& input = *GetParam();
     KestoTest::TestDocument document;
     int opened = kNothing;
-    Platform::CWnd* openedParent = reinterpret_cast<Platform::CWnd*>(1);
+    KestoPlatform::CWnd* openedParent = reinterpret_cast<KestoPlatform::CWnd*>(1);
     bool thirdButtonShown = false;
 
     // Each modal run records which template it showed, then confirms (or cancels).
     void Script(bool confirm)
     {
-        input.SetModalScript([this, confirm](Platform::CDialog& d) {
+        input.SetModalScript([this, confirm](KestoPlatform::CDialog& d) {
             opened = static_cast<KestoUI::KCResourceDialog&>(d).GetTemplateId();
             openedParent = d.GetParent();
-            if (Platform::CWnd* third = d.GetDlgItem(IDC_PREVIEW_EXPAND))
+            if (KestoPlatform::CWnd* third = d.GetDlgItem(IDC_PREVIEW_EXPAND))
                 thirdButtonShown = third->IsWindowVisible();
-            input.ClickButton(d, confirm ? Platform::IDOK : Platform::IDCANCEL);
+            input.ClickButton(d, confirm ? KestoPlatform::IDOK : KestoPlatform::IDCANCEL);
         });
     }
     void SetUp() override { input.Install(); }
@@ -79,13 +79,13 @@ TEST_P(EditorTest, EachFillReachesItsEditorAndComesBackAsANewEqualFill)
 {
     Script(true);
     const RouteRow rows[] = {
-        {[] { return Kernel::MakeRef<CFillLinear>(); }, IDD_GRADIENT_FILL},
-        {[] { return Kernel::MakeRef<CFillThreeColour>(); }, IDD_THREE_FOUR_COLOUR_FILL},
-        {[] { return Kernel::MakeRef<CFillFourColour>(); }, IDD_THREE_FOUR_COLOUR_FILL},
-        {[] { return Kernel::MakeRef<CFillFractal>(); }, IDD_PLASMA_FILL},
-        {[] { return Kernel::MakeRef<CFillVector>(); }, IDD_VECTOR_FILL},
-        {[] { return Kernel::MakeRef<CFillBitmap>(); }, kNothing},
-        {[] { return Kernel::MakeRef<CFillDiscreteMesh>(); }, kNothing},
+        {[] { return KestoKernel::MakeRef<CFillLinear>(); }, IDD_GRADIENT_FILL},
+        {[] { return KestoKernel::MakeRef<CFillThreeColour>(); }, IDD_THREE_FOUR_COLOUR_FILL},
+        {[] { return KestoKernel::MakeRef<CFillFourColour>(); }, IDD_THREE_FOUR_COLOUR_FILL},
+        {[] { return KestoKernel::MakeRef<CFillFractal>(); }, IDD_PLASMA_FILL},
+        {[] { return KestoKernel::MakeRef<CFillVector>(); }, IDD_VECTOR_FILL},
+        {[] { return KestoKernel::MakeRef<CFillBitmap>(); }, kNothing},
+        {[] { return KestoKernel::MakeRef<CFillDiscreteMesh>(); }, kNothing},
     };
     for (const auto& row : rows) {
         const RefPtr<CFill> fill = row.make();
@@ -144,14 +144,14 @@ TEST_P(EditorTest, TransparenciesReachTheirEditorsWithOrWithoutADocument)
 {
     Script(true);
     const RouteRow rows[] = {
-        {[] { return Kernel::MakeRef<CTransparencyFlat>(); }, IDD_SOLID_TRANSPARENCY},
-        {[] { return Kernel::MakeRef<CTransparencyNone>(); }, IDD_SOLID_TRANSPARENCY},
-        {[] { return Kernel::MakeRef<CTransparencyThreePoint>(); }, IDD_THREE_FOUR_COLOUR_TRANSPARENCY},
-        {[] { return Kernel::MakeRef<CTransparencyFractal>(); }, IDD_PLASMA_FILL},
-        {[] { return Kernel::MakeRef<CTransparencyLinear>(); }, IDD_GRADIENT_TRANSPARENCY},
-        {[] { return Kernel::MakeRef<CTransparencyBitmap>(); }, kNothing},
+        {[] { return KestoKernel::MakeRef<CTransparencyFlat>(); }, IDD_SOLID_TRANSPARENCY},
+        {[] { return KestoKernel::MakeRef<CTransparencyNone>(); }, IDD_SOLID_TRANSPARENCY},
+        {[] { return KestoKernel::MakeRef<CTransparencyThreePoint>(); }, IDD_THREE_FOUR_COLOUR_TRANSPARENCY},
+        {[] { return KestoKernel::MakeRef<CTransparencyFractal>(); }, IDD_PLASMA_FILL},
+        {[] { return KestoKernel::MakeRef<CTransparencyLinear>(); }, IDD_GRADIENT_TRANSPARENCY},
+        {[] { return KestoKernel::MakeRef<CTransparencyBitmap>(); }, kNothing},
     };
-    Platform::CWnd owner;
+    KestoPlatform::CWnd owner;
     for (const auto& row : rows) {
         const RefPtr<CFill> t = row.make();
         opened = kNothing;
@@ -173,7 +173,7 @@ TEST(TypeCombos, FilledOnceWithTheOfferedKindsAndKeptInStep)
 {
     KestoTest::TestToolHelper helper;
     helper.unavailableFillTypes = {FillType::DiscreteMesh};
-    Platform::CXTPControlComboBox fills;
+    KestoPlatform::CXTPControlComboBox fills;
     PopulateFillTypeCombo(&helper, &fills);
     PopulateFillTypeCombo(&helper, &fills);
     EXPECT_EQ(fills.GetCount(), 12);
@@ -186,7 +186,7 @@ TEST(TypeCombos, FilledOnceWithTheOfferedKindsAndKeptInStep)
     SetCurrentFillComboIndex(&fills, std::make_unique<CFillDiscreteMesh>().get());
     EXPECT_EQ(fills.GetCurSel(), -1);
 
-    Platform::CXTPControlComboBox transparencies;
+    KestoPlatform::CXTPControlComboBox transparencies;
     PopulateTransTypeCombo(&helper, &transparencies);
     EXPECT_EQ(transparencies.GetCount(), 11);
     EXPECT_EQ(transparencies.GetDropDownItemCount(), 0);  // left alone, unlike the fill combo
@@ -195,7 +195,7 @@ TEST(TypeCombos, FilledOnceWithTheOfferedKindsAndKeptInStep)
     SetCurrentTransComboIndex(&transparencies, std::make_unique<CFillVector>().get());
     EXPECT_EQ(transparencies.GetCurSel(), -1);
 
-    Platform::CXTPControlButton notACombo;
+    KestoPlatform::CXTPControlButton notACombo;
     PopulateFillTypeCombo(&helper, &notACombo);  // ignored
     SetCurrentFillComboIndex(&fills, nullptr);
     EXPECT_EQ(fills.GetCurSel(), -1);

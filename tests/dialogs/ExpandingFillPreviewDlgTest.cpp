@@ -14,8 +14,8 @@
 
 using namespace KestoTool;
 using namespace KestoGDI;
-using Platform::CPoint;
-using Platform::CRect;
+using KestoPlatform::CPoint;
+using KestoPlatform::CRect;
 
 namespace {
 
@@ -53,19 +53,19 @@ TEST(ExpandingFillPreviewDlg, IsTheSiteOfItsPreviewsToolAsTheTableSays)
     // Screen pixels to paper: dots per inch over 96, times the preview's units per pixel. The
     // preview 270 units wide shows the 1000-unit object fitted into 80% of it; zoomed to 200%,
     // a unit is half as many document units.
-    input.SetModalScript([&](Platform::CDialog&) {
-        Platform::ScreenMetrics::SetLogPixelsX(192);
+    input.SetModalScript([&](KestoPlatform::CDialog&) {
+        KestoPlatform::ScreenMetrics::SetLogPixelsX(192);
         const struct {
             int zoom, cx, cy;
         } rows[] = {{100, 370, 185}, {200, 185, 93}};
         for (const auto& row : rows) {
             dialog.GetPreview().SetZoom(row.zoom);
-            Platform::SIZE size{40, 20};
+            KestoPlatform::SIZE size{40, 20};
             site.ClientToPaper(&size);
             EXPECT_EQ(size.cx, row.cx) << row.zoom;
             EXPECT_EQ(size.cy, row.cy) << row.zoom;
         }
-        Platform::ScreenMetrics::SetLogPixelsX(96);
+        KestoPlatform::ScreenMetrics::SetLogPixelsX(96);
     });
     dialog.DoModal();
 
@@ -116,8 +116,8 @@ TEST(ExpandingFillPreviewDlg, APreviewDragCommitsToTheDialogByItsRule)
         EXPECT_FALSE(dialog->IsInDrag());
         EXPECT_EQ(dynamic_cast<const CFillLinear&>(*dialog->GetTool()->GetFill()).GetEnd().Round(), moved);
 
-        input.SetModalScript([&](Platform::CDialog& d) { input.ClickButton(d, Platform::IDOK); });
-        ASSERT_EQ(dialog->DoModal(), Platform::IDOK);
+        input.SetModalScript([&](KestoPlatform::CDialog& d) { input.ClickButton(d, KestoPlatform::IDOK); });
+        ASSERT_EQ(dialog->DoModal(), KestoPlatform::IDOK);
         const RefPtr<CFill> result = dialog->TakeFill();
         ASSERT_NE(result, nullptr);
         EXPECT_EQ(dynamic_cast<const CFillLinear&>(*result).GetEnd().Round(), moved);

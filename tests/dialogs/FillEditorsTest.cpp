@@ -26,9 +26,9 @@
 using namespace KestoTool;
 using namespace KestoGDI;
 using KestoTest::UserInput;
-using Platform::CPoint;
-using Platform::CRect;
-using Platform::RGB;
+using KestoPlatform::CPoint;
+using KestoPlatform::CRect;
+using KestoPlatform::RGB;
 
 namespace {
 
@@ -67,7 +67,7 @@ protected:
     void SetUp() override { input.Install(); }
     void TearDown() override { input.Uninstall(); }
     // Types text into a box and moves on, as a user does.
-    void Enter(Platform::CEdit& edit, const wchar_t* text, Platform::CWnd& next)
+    void Enter(KestoPlatform::CEdit& edit, const wchar_t* text, KestoPlatform::CWnd& next)
     {
         input.MoveFocus(&edit);
         input.EnterText(text);
@@ -84,8 +84,8 @@ TEST_P(FillEditors, GradientStopsKindAngleAndPreviewDragComeBackOnOK)
 {
     const CFillLinear linear = Placed<CFillLinear>(RedToBlue());
     CGradientFillDlg dialog(&document, &linear, kObject, nullptr);
-    input.SetColourScript([](Platform::COLORREF) { return RGB(0, 200, 0); });
-    input.SetModalScript([&](Platform::CDialog&) {
+    input.SetColourScript([](KestoPlatform::COLORREF) { return RGB(0, 200, 0); });
+    input.SetModalScript([&](KestoPlatform::CDialog&) {
         GradientBar& bar = dialog.GetBar();
         ASSERT_EQ(bar.GetStops().GetSize(), 2);
         // A click between the markers adds a stop there in the colour the bar shows.
@@ -98,7 +98,7 @@ TEST_P(FillEditors, GradientStopsKindAngleAndPreviewDragComeBackOnOK)
         EXPECT_NEAR(StopsOf(dialog.GetFill()).GetAt(1)->GetValue(), 2500, 40);
         Enter(dialog.GetPositionEdit(), L"75", dialog.GetAngleEdit());
         EXPECT_EQ(StopsOf(dialog.GetFill()).GetAt(1)->GetValue(), 7500);
-        EXPECT_EQ(dialog.GetPositionEdit().GetWindowText(), Platform::CString(L"75"));
+        EXPECT_EQ(dialog.GetPositionEdit().GetWindowText(), KestoPlatform::CString(L"75"));
         // Recoloured through the chooser, half opaque, and the gradient turned to 90 degrees.
         input.ClickButton(dialog, IDC_STOP_COLOUR);
         Enter(dialog.GetLevelEdit(), L"50", dialog.GetAngleEdit());
@@ -127,9 +127,9 @@ TEST_P(FillEditors, GradientStopsKindAngleAndPreviewDragComeBackOnOK)
         input.ClickButton(dialog, IDC_STOP_DELETE);
         EXPECT_EQ(StopsOf(dialog.GetFill()).GetSize(), 2);
         EXPECT_FALSE(dialog.GetDlgItem(IDC_STOP_DELETE)->IsWindowEnabled());
-        input.ClickButton(dialog, Platform::IDOK);
+        input.ClickButton(dialog, KestoPlatform::IDOK);
     });
-    ASSERT_EQ(dialog.DoModal(), Platform::IDOK);
+    ASSERT_EQ(dialog.DoModal(), KestoPlatform::IDOK);
     const RefPtr<CFill> result = dialog.TakeFill();
     ASSERT_NE(result, nullptr);
     EXPECT_TRUE(result->IsEqual(*dialog.GetFill()));
@@ -140,11 +140,11 @@ TEST_P(FillEditors, CancelHandsBackNothing)
 {
     const CFillLinear linear = Placed<CFillLinear>(RedToBlue());
     CGradientFillDlg dialog(&document, &linear, kObject, nullptr);
-    input.SetModalScript([&](Platform::CDialog&) {
+    input.SetModalScript([&](KestoPlatform::CDialog&) {
         input.DragMouse(dialog.GetBar(), OnBar(dialog.GetBar(), 3000), OnBar(dialog.GetBar(), 3000));
-        input.ClickButton(dialog, Platform::IDCANCEL);
+        input.ClickButton(dialog, KestoPlatform::IDCANCEL);
     });
-    EXPECT_EQ(dialog.DoModal(), Platform::IDCANCEL);
+    EXPECT_EQ(dialog.DoModal(), KestoPlatform::IDCANCEL);
     EXPECT_EQ(dialog.TakeFill(), nullptr);
 }
 
@@ -155,15 +155,15 @@ TEST_P(FillEditors, TransparencyStopsAreLevelsWithoutAColourButton)
     levels.Add(CMonoColour(255), 10000);
     const CTransparencyLinear transparency = Placed<CTransparencyLinear>(levels);
     CGradientTranspDlg dialog(&document, &transparency, kObject, nullptr);
-    input.SetModalScript([&](Platform::CDialog&) {
+    input.SetModalScript([&](KestoPlatform::CDialog&) {
         EXPECT_FALSE(dialog.GetDlgItem(IDC_STOP_COLOUR)->IsWindowVisible());
         EXPECT_EQ(dialog.GetKindCombo().GetLBText(dialog.GetKindCombo().GetCurSel()),
-                  Platform::CString(FillKinds::Find(FillType::Linear)->transparencyName));
+                  KestoPlatform::CString(FillKinds::Find(FillType::Linear)->transparencyName));
         dialog.GetBar().Select(1);
         Enter(dialog.GetLevelEdit(), L"20", dialog.GetAngleEdit());
-        input.ClickButton(dialog, Platform::IDOK);
+        input.ClickButton(dialog, KestoPlatform::IDOK);
     });
-    ASSERT_EQ(dialog.DoModal(), Platform::IDOK);
+    ASSERT_EQ(dialog.DoModal(), KestoPlatform::IDOK);
     const RefPtr<CFill> result = dialog.TakeFill();
     ASSERT_TRUE(result && result->IsTransparency());
     EXPECT_EQ(dynamic_cast<const CMonoColour&>(StopsOf(result.get()).GetAt(1)->GetColour()).GetLevel(), 51);
@@ -176,42 +176,42 @@ TEST_P(FillEditors, PlasmaPatternControls)
     plasma.SetTileInverted(false);
     CPlasmaFillDlg dialog(&document, &plasma, kObject, nullptr);
     dialog.SetSeedSource([] { return 424242u; });
-    input.SetModalScript([&](Platform::CDialog&) {
-        EXPECT_EQ(dialog.GetSeedEdit().GetWindowText(), Platform::CString(L"7"));
+    input.SetModalScript([&](KestoPlatform::CDialog&) {
+        EXPECT_EQ(dialog.GetSeedEdit().GetWindowText(), KestoPlatform::CString(L"7"));
         input.ClickButton(dialog, IDC_PLASMA_NEW_SEED);
-        EXPECT_EQ(dialog.GetSeedEdit().GetWindowText(), Platform::CString(L"424242"));
+        EXPECT_EQ(dialog.GetSeedEdit().GetWindowText(), KestoPlatform::CString(L"424242"));
         Enter(dialog.GetResolutionEdit(), L"5000", dialog.GetSeedEdit());  // clamped
         Enter(dialog.GetSeedEdit(), L"-3", dialog.GetResolutionEdit());     // refused
         input.DragSlider(dialog.GetGrainSlider(), 80);
         input.ClickButton(dialog, IDC_PLASMA_INVERT);
         EXPECT_TRUE(dialog.GetInvertBox().GetCheck());
-        input.ClickButton(dialog, Platform::IDOK);
+        input.ClickButton(dialog, KestoPlatform::IDOK);
     });
-    ASSERT_EQ(dialog.DoModal(), Platform::IDOK);
+    ASSERT_EQ(dialog.DoModal(), KestoPlatform::IDOK);
     const RefPtr<CFill> result = dialog.TakeFill();
     const auto& edited = dynamic_cast<const CFillFractal&>(*result);
     EXPECT_EQ(edited.GetSeed(), 424242u);
     EXPECT_EQ(edited.GetResolution(), CFillFractal::MaxResolution);
     EXPECT_EQ(edited.GetGrain(), 80);
     EXPECT_TRUE(edited.GetTileInverted());
-    EXPECT_EQ(dialog.GetSeedEdit().GetWindowText(), Platform::CString(L"424242"));
+    EXPECT_EQ(dialog.GetSeedEdit().GetWindowText(), KestoPlatform::CString(L"424242"));
 }
 
 TEST_P(FillEditors, CornerColoursAndLevelsCommitToTheTool)
 {
     ColourIntPairs corners;
-    for (const Platform::COLORREF c : {RGB(255, 0, 0), RGB(0, 255, 0), RGB(0, 0, 255)})
+    for (const KestoPlatform::COLORREF c : {RGB(255, 0, 0), RGB(0, 255, 0), RGB(0, 0, 255)})
         corners.Add(CRGBColour(c), 0);
     const CFillThreeColour three = Placed<CFillThreeColour>(corners);
     CThreeAndFourColourFillDlg fillDialog(&document, &three, kObject, nullptr);
-    input.SetColourScript([](Platform::COLORREF) { return RGB(9, 9, 9); });
-    input.SetModalScript([&](Platform::CDialog&) {
+    input.SetColourScript([](KestoPlatform::COLORREF) { return RGB(9, 9, 9); });
+    input.SetModalScript([&](KestoPlatform::CDialog&) {
         EXPECT_FALSE(fillDialog.GetColourButton(3).IsWindowVisible());  // three corners
         EXPECT_FALSE(fillDialog.GetLevelEdit(0).IsWindowVisible());
         input.ClickButton(fillDialog, IDC_CORNER_COLOUR_FIRST + 1);
-        input.ClickButton(fillDialog, Platform::IDOK);
+        input.ClickButton(fillDialog, KestoPlatform::IDOK);
     });
-    ASSERT_EQ(fillDialog.DoModal(), Platform::IDOK);
+    ASSERT_EQ(fillDialog.DoModal(), KestoPlatform::IDOK);
     EXPECT_EQ(StopsOf(fillDialog.TakeFill().get()).GetAt(1)->GetColour().GetRGB(), RGB(9, 9, 9));
 
     ColourIntPairs levels;
@@ -219,33 +219,33 @@ TEST_P(FillEditors, CornerColoursAndLevelsCommitToTheTool)
         levels.Add(CMonoColour(0), 0);
     const CTransparencyFourPoint four = Placed<CTransparencyFourPoint>(levels);
     CThreeAndFourColourTranspDlg transpDialog(&document, &four, kObject, nullptr);
-    input.SetModalScript([&](Platform::CDialog&) {
+    input.SetModalScript([&](KestoPlatform::CDialog&) {
         EXPECT_FALSE(transpDialog.GetColourButton(0).IsWindowVisible());
         Enter(transpDialog.GetLevelEdit(3), L"100", transpDialog.GetLevelEdit(0));
-        input.ClickButton(transpDialog, Platform::IDOK);
+        input.ClickButton(transpDialog, KestoPlatform::IDOK);
     });
-    ASSERT_EQ(transpDialog.DoModal(), Platform::IDOK);
+    ASSERT_EQ(transpDialog.DoModal(), KestoPlatform::IDOK);
     EXPECT_EQ(dynamic_cast<const CMonoColour&>(StopsOf(transpDialog.TakeFill().get()).GetAt(3)->GetColour()).GetLevel(), 255);
 }
 
 TEST_P(FillEditors, VectorModeResetAndTransformWithObject)
 {
-    auto drawing = Kernel::MakeRef<VectorDrawing>(400, 400);
+    auto drawing = KestoKernel::MakeRef<VectorDrawing>(400, 400);
     CFillVector vector{drawing};
     vector.SetDefaultControls(kObject);
     CVectorFillDlgBase dialog(&document, &vector, kObject, nullptr, IDD_VECTOR_FILL, {});
-    input.SetModalScript([&](Platform::CDialog&) {
-        EXPECT_EQ(dialog.GetModeButton().GetWindowText(), Platform::CString(L"Scaling Mode"));
+    input.SetModalScript([&](KestoPlatform::CDialog&) {
+        EXPECT_EQ(dialog.GetModeButton().GetWindowText(), KestoPlatform::CString(L"Scaling Mode"));
         input.ClickButton(dialog, IDC_VECTOR_MODE);
-        EXPECT_EQ(dialog.GetModeButton().GetWindowText(), Platform::CString(L"Spacing Mode"));
+        EXPECT_EQ(dialog.GetModeButton().GetWindowText(), KestoPlatform::CString(L"Spacing Mode"));
         EXPECT_EQ(dialog.GetTool()->GetControlBoxMode(), FillToolVector::SpacingMode);
         const bool withObject = dialog.GetTransformBox().GetCheck();
         input.ClickButton(dialog, IDC_VECTOR_TRANSFORM);
         EXPECT_EQ(dynamic_cast<const CFillVector&>(*dialog.GetCurrentFill()).ScaleRotateIndependentOfObject(), withObject);
         input.ClickButton(dialog, IDC_VECTOR_RESET);
-        input.ClickButton(dialog, Platform::IDOK);
+        input.ClickButton(dialog, KestoPlatform::IDOK);
     });
-    ASSERT_EQ(dialog.DoModal(), Platform::IDOK);
+    ASSERT_EQ(dialog.DoModal(), KestoPlatform::IDOK);
     EXPECT_NE(dialog.TakeFill(), nullptr);
 }
 
@@ -253,14 +253,14 @@ TEST_P(FillEditors, PreviewPaneZoomsAndHides)
 {
     const CFillLinear linear = Placed<CFillLinear>(RedToBlue());
     CGradientFillDlg dialog(&document, &linear, kObject, nullptr);
-    input.SetModalScript([&](Platform::CDialog&) {
+    input.SetModalScript([&](KestoPlatform::CDialog&) {
         KestoUI::FillControl& preview = dialog.GetPreview();
-        Platform::CComboBox& zoom = dialog.GetZoomCombo();
-        EXPECT_EQ(zoom.GetLBText(zoom.GetCurSel()), Platform::CString(L"Zoom to Fit"));
-        EXPECT_EQ(dialog.GetDlgItem(IDC_PREVIEW_ZOOM_IN)->GetToolTipText(), Platform::CString(L"Zoom preview in"));
+        KestoPlatform::CComboBox& zoom = dialog.GetZoomCombo();
+        EXPECT_EQ(zoom.GetLBText(zoom.GetCurSel()), KestoPlatform::CString(L"Zoom to Fit"));
+        EXPECT_EQ(dialog.GetDlgItem(IDC_PREVIEW_ZOOM_IN)->GetToolTipText(), KestoPlatform::CString(L"Zoom preview in"));
         input.ClickButton(dialog, IDC_PREVIEW_ZOOM_IN);
         EXPECT_EQ(preview.GetZoom(), 150);
-        EXPECT_EQ(zoom.GetLBText(zoom.GetCurSel()), Platform::CString(L"150%"));
+        EXPECT_EQ(zoom.GetLBText(zoom.GetCurSel()), KestoPlatform::CString(L"150%"));
         input.ClickButton(dialog, IDC_PREVIEW_ZOOM_OUT);
         input.ClickButton(dialog, IDC_PREVIEW_ZOOM_OUT);
         EXPECT_EQ(preview.GetZoom(), 75);
@@ -275,15 +275,15 @@ TEST_P(FillEditors, PreviewPaneZoomsAndHides)
         input.ClickButton(dialog, IDC_PREVIEW_EXPAND);
         EXPECT_TRUE(preview.IsWindowVisible());
         EXPECT_EQ(dialog.GetWindowRect().Width(), wide);
-        input.ClickButton(dialog, Platform::IDCANCEL);
+        input.ClickButton(dialog, KestoPlatform::IDCANCEL);
     });
     dialog.DoModal();
 
     // Without the helper setting the show/hide button is not there.
     dialog.SetHelperSetting(false);
-    input.SetModalScript([&](Platform::CDialog&) {
+    input.SetModalScript([&](KestoPlatform::CDialog&) {
         EXPECT_FALSE(dialog.GetDlgItem(IDC_PREVIEW_EXPAND)->IsWindowVisible());
-        input.ClickButton(dialog, Platform::IDCANCEL);
+        input.ClickButton(dialog, KestoPlatform::IDCANCEL);
     });
     dialog.DoModal();
 }

@@ -9,7 +9,7 @@
 using namespace KestoTool;
 using KestoGDI::CMonoColour;
 using KestoGDI::CTransparencyFlat;
-using Platform::CString;
+using KestoPlatform::CString;
 using KestoTest::UserInput;
 
 namespace {
@@ -58,7 +58,7 @@ TEST_P(SolidTransparencyDlgTest, UserDrivesSliderEditAndSpinThenConfirms)
     const CTransparencyFlat original = Flat(128);
     CSolidTransparencyDlg dialog(&original, nullptr);
     EXPECT_EQ(dialog.GetBBox(), CRect(0, 0, 1000, 1000));
-    input.SetModalScript([this](Platform::CDialog& d) {
+    input.SetModalScript([this](KestoPlatform::CDialog& d) {
         auto& dlg = static_cast<CSolidTransparencyDlg&>(d);
         // Opened at 50 percent everywhere, the preview showing the transparency.
         EXPECT_EQ(dlg.GetEdit().GetWindowText(), CString(L"50"));
@@ -93,9 +93,9 @@ TEST_P(SolidTransparencyDlgTest, UserDrivesSliderEditAndSpinThenConfirms)
         dlg.GetEdit().SetFocus();
         dlg.GetEdit().SetSel(0, -1);
         input.Type(L"10");
-        input.ClickButton(dlg, Platform::IDOK);
+        input.ClickButton(dlg, KestoPlatform::IDOK);
     });
-    ASSERT_EQ(dialog.DoModal(), Platform::IDOK);
+    ASSERT_EQ(dialog.DoModal(), KestoPlatform::IDOK);
     EXPECT_EQ(LevelOf(dialog.GetTrans().get()), 26);
     EXPECT_EQ(LevelOf(&original), 128);  // the caller's transparency is never touched
 }
@@ -104,12 +104,12 @@ TEST_P(SolidTransparencyDlgTest, WithoutATransparencyItStartsFullyTransparent)
 {
     CSolidTransparencyDlg dialog(nullptr, nullptr);
     EXPECT_EQ(LevelOf(dialog.GetTrans().get()), 255);
-    input.SetModalScript([this](Platform::CDialog& d) {
+    input.SetModalScript([this](KestoPlatform::CDialog& d) {
         auto& dlg = static_cast<CSolidTransparencyDlg&>(d);
         EXPECT_EQ(dlg.GetEdit().GetWindowText(), CString(L"100"));
-        input.ClickButton(dlg, Platform::IDCANCEL);
+        input.ClickButton(dlg, KestoPlatform::IDCANCEL);
     });
-    EXPECT_EQ(dialog.DoModal(), Platform::IDCANCEL);
+    EXPECT_EQ(dialog.DoModal(), KestoPlatform::IDCANCEL);
 }
 
 TEST_P(SolidTransparencyDlgTest, SetTransHoldsACopyAndOnlyUpdateTransShowsIt)

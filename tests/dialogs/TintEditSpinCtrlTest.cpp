@@ -11,7 +11,7 @@
 #include <vector>
 
 using namespace KestoTool;
-using Platform::CString;
+using KestoPlatform::CString;
 using KestoTest::UserInput;
 
 namespace {
@@ -20,15 +20,15 @@ constexpr int kTintId = 100;
 constexpr int kSpinId = 101;
 constexpr int kOtherId = 102;
 
-const Platform::DialogTemplate kTemplate{
-    1, L"Tint", Platform::CRect(0, 0, 200, 100),
-    {{"Edit", kTintId, Platform::CRect(10, 10, 60, 30), L""},
-     {"Spin", kSpinId, Platform::CRect(60, 10, 75, 30), L""},
-     {"Edit", kOtherId, Platform::CRect(10, 40, 60, 60), L""}},
+const KestoPlatform::DialogTemplate kTemplate{
+    1, L"Tint", KestoPlatform::CRect(0, 0, 200, 100),
+    {{"Edit", kTintId, KestoPlatform::CRect(10, 10, 60, 30), L""},
+     {"Spin", kSpinId, KestoPlatform::CRect(60, 10, 75, 30), L""},
+     {"Edit", kOtherId, KestoPlatform::CRect(10, 40, 60, 60), L""}},
 };
 
 // A dialog holding a tint control; it logs the commands its children send.
-class TintDialog : public Platform::CDialog {
+class TintDialog : public KestoPlatform::CDialog {
 public:
     explicit TintDialog(bool updateWhileTyping, int bindId = kTintId)
         : CDialog(&kTemplate, nullptr), tint(updateWhileTyping, true), m_bindId(bindId)
@@ -37,19 +37,19 @@ public:
     CTintEditSpinCtrl tint;
     std::vector<std::string> commands;
 
-    bool OnCommand(unsigned param, Platform::CWnd* control) override
+    bool OnCommand(unsigned param, KestoPlatform::CWnd* control) override
     {
-        const int code = Platform::CommandCode(param);
-        if (Platform::CommandId(param) == kTintId && code != Platform::EN_CHANGE)
+        const int code = KestoPlatform::CommandCode(param);
+        if (KestoPlatform::CommandId(param) == kTintId && code != KestoPlatform::EN_CHANGE)
             commands.push_back(code == CTintEditSpinCtrl::TintChanged          ? "changed"
                                : code == CTintEditSpinCtrl::TintChangeFinished ? "finished"
                                                                                : "other");
         return CDialog::OnCommand(param, control);
     }
-    Platform::CSpinButtonCtrl& Spin() { return dynamic_cast<Platform::CSpinButtonCtrl&>(*GetDlgItem(kSpinId)); }
+    KestoPlatform::CSpinButtonCtrl& Spin() { return dynamic_cast<KestoPlatform::CSpinButtonCtrl&>(*GetDlgItem(kSpinId)); }
 
 protected:
-    void DoDataExchange(Platform::CDataExchange* pDX) override { tint.DDX(pDX, m_bindId); }
+    void DoDataExchange(KestoPlatform::CDataExchange* pDX) override { tint.DDX(pDX, m_bindId); }
 
 private:
     int m_bindId;
@@ -65,7 +65,7 @@ protected:
 
     void RunModal(TintDialog& dialog, const Script& script)
     {
-        input.SetModalScript([&](Platform::CDialog& d) { script(static_cast<TintDialog&>(d)); });
+        input.SetModalScript([&](KestoPlatform::CDialog& d) { script(static_cast<TintDialog&>(d)); });
         dialog.DoModal();
         input.SetModalScript(nullptr);
     }
@@ -164,7 +164,7 @@ TEST_P(TintEditSpinCtrl, TypingWithoutUpdateWaitsForEnterOrFocusLoss)
         input.Type(L"-40");
         input.AdvanceClock(1000);
         EXPECT_EQ(d.tint.GetTint(), 0);
-        input.PressKey(Platform::VK_RETURN);  // parses, but neither redraws nor notifies
+        input.PressKey(KestoPlatform::VK_RETURN);  // parses, but neither redraws nor notifies
         EXPECT_EQ(d.tint.GetTint(), -60);
         EXPECT_EQ(d.tint.GetWindowText(), CString(L"-40"));
         EXPECT_TRUE(d.commands.empty());
@@ -189,7 +189,7 @@ TEST_P(TintEditSpinCtrl, SpinStepsStopAtTheRangeEndsAndEndOfScrollFinishes)
         // End of scroll does not read the text again.
         d.commands.clear();
         d.tint.SetWindowText(L"junk 5");
-        d.tint.OnVScroll(Platform::SB_ENDSCROLL, 0, nullptr);
+        d.tint.OnVScroll(KestoPlatform::SB_ENDSCROLL, 0, nullptr);
         EXPECT_EQ(d.tint.GetTint(), 2);
         EXPECT_EQ(d.commands, (Commands{"changed", "finished"}));
         input.ClickSpin(d.Spin(), false);
@@ -209,16 +209,16 @@ TEST_P(TintEditSpinCtrl, SpinFollowsTheEditBoxWhenShownEnabledOrMoved)
     RunModal(dialog, [this](TintDialog& d) {
         ASSERT_NE(d.tint.GetSpinCtrl(), nullptr);
         EXPECT_EQ(d.tint.GetSpinCtrl()->GetWindow(), &d.Spin());
-        d.tint.ShowWindow(Platform::SW_HIDE);
+        d.tint.ShowWindow(KestoPlatform::SW_HIDE);
         EXPECT_FALSE(d.Spin().IsWindowVisible());
-        d.tint.ShowWindow(Platform::SW_SHOW);
+        d.tint.ShowWindow(KestoPlatform::SW_SHOW);
         EXPECT_TRUE(d.Spin().IsWindowVisible());
         d.tint.EnableWindow(false);
         EXPECT_FALSE(d.Spin().IsWindowEnabled());
-        d.tint.MoveWindow(Platform::CRect(20, 15, 90, 35));  // moved by (10, 5) and resized
-        EXPECT_EQ(d.Spin().GetWindowRect(), Platform::CRect(70, 15, 85, 35));
-        d.tint.SetWindowPos(0, 0, 10, 10, Platform::SWP_NOMOVE);  // a resize alone leaves it
-        EXPECT_EQ(d.Spin().GetWindowRect(), Platform::CRect(70, 15, 85, 35));
+        d.tint.MoveWindow(KestoPlatform::CRect(20, 15, 90, 35));  // moved by (10, 5) and resized
+        EXPECT_EQ(d.Spin().GetWindowRect(), KestoPlatform::CRect(70, 15, 85, 35));
+        d.tint.SetWindowPos(0, 0, 10, 10, KestoPlatform::SWP_NOMOVE);  // a resize alone leaves it
+        EXPECT_EQ(d.Spin().GetWindowRect(), KestoPlatform::CRect(70, 15, 85, 35));
     });
 }
 
@@ -226,7 +226,7 @@ TEST_P(TintEditSpinCtrl, AfterTheDialogClosesTheControlLeavesItsSpinAloneAndBind
 {
     TintDialog dialog(false);
     RunModal(dialog, [](TintDialog&) {});
-    dialog.tint.ShowWindow(Platform::SW_HIDE);  // the spin window is gone: nothing to touch
+    dialog.tint.ShowWindow(KestoPlatform::SW_HIDE);  // the spin window is gone: nothing to touch
     dialog.tint.EnableWindow(false);
     RunModal(dialog, [this](TintDialog& d) {
         ASSERT_TRUE(d.tint.IsWindow());
@@ -236,8 +236,8 @@ TEST_P(TintEditSpinCtrl, AfterTheDialogClosesTheControlLeavesItsSpinAloneAndBind
 
 TEST_P(TintEditSpinCtrl, BindingToAMissingItemIsReported)
 {
-    std::vector<Kernel::VerifyReport> reports;
-    Kernel::ScopedVerifyHandler handler([&](const Kernel::VerifyReport& r) { reports.push_back(r); });
+    std::vector<KestoKernel::VerifyReport> reports;
+    KestoKernel::ScopedVerifyHandler handler([&](const KestoKernel::VerifyReport& r) { reports.push_back(r); });
     TintDialog dialog(false, 999);
     RunModal(dialog, [this](TintDialog& d) {
         EXPECT_FALSE(d.tint.IsWindow());

@@ -25,8 +25,8 @@
 #include <gtest/gtest.h>
 
 using namespace KestoTool;
-using Platform::CXTPControl;
-using Platform::XTPControlType;
+using KestoPlatform::CXTPControl;
+using KestoPlatform::XTPControlType;
 
 namespace {
 
@@ -35,7 +35,7 @@ class CommandsTest : public testing::Test {
 protected:
     KestoTest::TestToolSite site;
     KestoTest::TestDocument document;
-    Platform::CXTPCommandBars bars;
+    KestoPlatform::CXTPCommandBars bars;
     int base = 0;
 
     void SetUp() override
@@ -46,7 +46,7 @@ protected:
         site.document = &document;
         site.bars = &bars;
     }
-    void TearDown() override { Platform::Headless().SetModalScript(nullptr); }
+    void TearDown() override { KestoPlatform::Headless().SetModalScript(nullptr); }
 
     std::unique_ptr<FillTool> Tool(const CFill& fill)
     {
@@ -55,7 +55,7 @@ protected:
         return tool;
     }
     int Host(int number) const { return base + number; }
-    bool Command(FillTool& tool, int number) { return tool.OnCmdMsg(Host(number), Platform::CN_COMMAND, nullptr, nullptr); }
+    bool Command(FillTool& tool, int number) { return tool.OnCmdMsg(Host(number), KestoPlatform::CN_COMMAND, nullptr, nullptr); }
 };
 
 // Opens the hint composer to the tests.
@@ -74,9 +74,9 @@ TEST_F(CommandsTest, ContextBarGetsTheEditCommandTheContextItemAndAFilledTypeCom
     EXPECT_EQ(site.contextItems, (std::vector<int>{Host(FillCmdEdit), 0, Host(FillCmdEditType)}));
     ASSERT_EQ(bars.GetCount(), 3);
     const CXTPControl* edit = bars.GetAt(0);
-    EXPECT_EQ(edit->GetStyle(), Platform::XTPButtonStyle::IconAndCaption);
+    EXPECT_EQ(edit->GetStyle(), KestoPlatform::XTPButtonStyle::IconAndCaption);
     EXPECT_EQ(edit->GetPrompt(), CString(L"Edit the selected object's fill properties.\nFill editor dialog\nEdit Fill"));
-    auto* combo = dynamic_cast<Platform::CXTPControlComboBox*>(bars.GetAt(2));
+    auto* combo = dynamic_cast<KestoPlatform::CXTPControlComboBox*>(bars.GetAt(2));
     ASSERT_NE(combo, nullptr);
     EXPECT_EQ(combo->GetCount(), 13);
     EXPECT_EQ(combo->GetItemData(combo->GetCurSel()), KestoGDI::FillType::Radial);
@@ -87,7 +87,7 @@ TEST_F(CommandsTest, IconsAreRegisteredOnceAcrossTools)
     auto first = Tool(KestoGDI::CFillLinear());
     first->InitContextButtons(&bars);
     EXPECT_EQ(bars.GetImageManager()->GetImageCount(), 14 * 4);
-    Platform::CXTPCommandBars otherBars;
+    KestoPlatform::CXTPCommandBars otherBars;
     site.bars = &otherBars;
     auto second = Tool(KestoGDI::CFillLinear());
     second->InitContextButtons(&otherBars);
@@ -104,7 +104,7 @@ struct CreateRow {
 
 TEST_F(CommandsTest, ControlsAreCreatedByEachBranch)
 {
-    Platform::ScreenMetrics::SetLogPixelsX(144);
+    KestoPlatform::ScreenMetrics::SetLogPixelsX(144);
     auto tool = Tool(KestoGDI::CFillLinear());
     const CreateRow rows[] = {
         {"described popup on a toolbar: the toolkit makes it", FillCmdOpacityStart, true, true, XTPControlType::Popup},
@@ -120,15 +120,15 @@ TEST_F(CommandsTest, ControlsAreCreatedByEachBranch)
         bool handled = false;
         CXTPControl* made = bars.CreateControl(
             Host(row.number), row.toolBar,
-            [&](Platform::XTP_COMMANDBARS_CREATECONTROL* cc) { return handled = tool->OnCreateControl(cc) != 0; },
-            [&](Platform::XTP_COMMANDBARS_CREATECONTROL* cc) { tool->OnAfterCreateControl(cc); });
+            [&](KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc) { return handled = tool->OnCreateControl(cc) != 0; },
+            [&](KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc) { tool->OnAfterCreateControl(cc); });
         EXPECT_EQ(handled, row.handled) << row.name;
         EXPECT_EQ(made->GetType(), row.type) << row.name;
     }
     EXPECT_EQ(document.helper.colourControlsCreated, 1);
     EXPECT_EQ(bars.FindControl(Host(FillCmdEditType))->GetRect(), CRect(0, 0, 180, 33));  // 120 x 22 at 144 dpi
-    EXPECT_EQ(bars.FindControl(Host(FillCmdOpacityStart))->GetStyle(), Platform::XTPButtonStyle::Caption);
-    Platform::XTP_COMMANDBARS_CREATECONTROL foreign;
+    EXPECT_EQ(bars.FindControl(Host(FillCmdOpacityStart))->GetStyle(), KestoPlatform::XTPButtonStyle::Caption);
+    KestoPlatform::XTP_COMMANDBARS_CREATECONTROL foreign;
     foreign.nID = 12;
     EXPECT_FALSE(tool->OnCreateControl(&foreign));
 }
@@ -139,12 +139,12 @@ TEST_F(CommandsTest, CommandsAndUpdatesAreDispatchedByHostIdAndForeignIdsIgnored
     document.helper.Answer(KestoGDI::CRGBColour(0x00FF00));
     EXPECT_TRUE(Command(*tool, FillCmdEnd));
     ASSERT_EQ(site.commits.size(), 1u);
-    EXPECT_FALSE(tool->OnCmdMsg(base - 1, Platform::CN_COMMAND, nullptr, nullptr));
-    EXPECT_FALSE(tool->OnCmdMsg(FillCmdEnd, Platform::CN_COMMAND, nullptr, nullptr));  // a library number is no host ID
+    EXPECT_FALSE(tool->OnCmdMsg(base - 1, KestoPlatform::CN_COMMAND, nullptr, nullptr));
+    EXPECT_FALSE(tool->OnCmdMsg(FillCmdEnd, KestoPlatform::CN_COMMAND, nullptr, nullptr));  // a library number is no host ID
     EXPECT_EQ(document.helper.pickerCurrents.size(), 1u);
 
-    Platform::CXTPControlPopupColor colour(Host(FillCmdEnd));
-    Platform::CCmdUI ui(Host(FillCmdEnd), &colour);
+    KestoPlatform::CXTPControlPopupColor colour(Host(FillCmdEnd));
+    KestoPlatform::CCmdUI ui(Host(FillCmdEnd), &colour);
     EXPECT_TRUE(ui.DoUpdate(tool.get()));
     EXPECT_EQ(colour.GetColor(), 0x00FF00u);  // the end stop, as committed and handed back
     EXPECT_TRUE(ui.IsEnabled());
@@ -154,22 +154,22 @@ TEST_F(CommandsTest, CommandsAndUpdatesAreDispatchedByHostIdAndForeignIdsIgnored
 TEST_F(CommandsTest, TypeChangeReachesTheSiteAndANonComboIsReported)
 {
     auto tool = Tool(KestoGDI::CFillLinear());
-    Platform::CXTPControlComboBox combo(Host(FillCmdEditType));
+    KestoPlatform::CXTPControlComboBox combo(Host(FillCmdEditType));
     combo.AddString(L"Radial");
     combo.SetItemData(0, KestoGDI::FillType::Radial);
     combo.SetCurSel(0);
-    Platform::NMXTPCONTROL notify;
+    KestoPlatform::NMXTPCONTROL notify;
     notify.pControl = &combo;
     long result = 0;
-    Platform::AFX_NOTIFY extra{&result, &notify};
-    EXPECT_TRUE(tool->OnCmdMsg(Host(FillCmdEditType), Platform::CN_NOTIFY(100), &extra, nullptr));
-    EXPECT_EQ(site.typeRequests, std::vector<const Platform::CRuntimeClass*>{KestoGDI::CFillRadial::GetThisClass()});
+    KestoPlatform::AFX_NOTIFY extra{&result, &notify};
+    EXPECT_TRUE(tool->OnCmdMsg(Host(FillCmdEditType), KestoPlatform::CN_NOTIFY(100), &extra, nullptr));
+    EXPECT_EQ(site.typeRequests, std::vector<const KestoPlatform::CRuntimeClass*>{KestoGDI::CFillRadial::GetThisClass()});
 
     std::vector<int> lines;
-    Kernel::ScopedVerifyHandler handler([&](const Kernel::VerifyReport& r) { lines.push_back(r.line); });
-    Platform::CXTPControlButton button;
+    KestoKernel::ScopedVerifyHandler handler([&](const KestoKernel::VerifyReport& r) { lines.push_back(r.line); });
+    KestoPlatform::CXTPControlButton button;
     notify.pControl = &button;
-    tool->OnCmdMsg(Host(FillCmdEditType), Platform::CN_NOTIFY(100), &extra, nullptr);
+    tool->OnCmdMsg(Host(FillCmdEditType), KestoPlatform::CN_NOTIFY(100), &extra, nullptr);
     EXPECT_EQ(lines, std::vector<int>{1060});
     EXPECT_EQ(site.typeRequests.size(), 1u);
 }
@@ -180,10 +180,10 @@ TEST_F(CommandsTest, EditFillRoundTripsThroughPageSpaceAndCommitsOnce)
     KestoGDI::CFillLinear fill;
     fill.SetControls(K2DDblPoint(0, 0), K2DDblPoint(100, 0));
     auto tool = Tool(fill);
-    Platform::Headless().SetModalScript([](Platform::CDialog& d) {
+    KestoPlatform::Headless().SetModalScript([](KestoPlatform::CDialog& d) {
         const KestoGDI::CFill* seen = dynamic_cast<const KestoUI::FillPreview*>(d.GetDlgItem(IDC_EDITOR_PREVIEW))->GetFill();
         EXPECT_EQ(seen->GetControlPoint(0), K2DDblPoint(1000, 0));  // the editor works in page space
-        Platform::Headless().ClickButton(d, Platform::IDOK);
+        KestoPlatform::Headless().ClickButton(d, KestoPlatform::IDOK);
     });
     EXPECT_TRUE(Command(*tool, FillCmdEdit));
     ASSERT_EQ(site.commits.size(), 1u);
@@ -199,7 +199,7 @@ TEST_F(CommandsTest, EditFillKeepsAVectorFillsOwnTransform)
     vector.UpdateBBox(CRect(0, 0, 10, 10), own);
     site.objectBox = CRect(0, 0, 50, 40);
     auto tool = Tool(vector);
-    Platform::Headless().SetModalScript([](Platform::CDialog& d) { Platform::Headless().ClickButton(d, Platform::IDOK); });
+    KestoPlatform::Headless().SetModalScript([](KestoPlatform::CDialog& d) { KestoPlatform::Headless().ClickButton(d, KestoPlatform::IDOK); });
     Command(*tool, FillCmdEdit);
     ASSERT_EQ(site.commits.size(), 1u);
     const auto& committed = dynamic_cast<const KestoGDI::CFillVector&>(*site.commits[0].fill);
@@ -211,9 +211,9 @@ TEST_F(CommandsTest, EditTransparencyCommitsTheDialogsTransparency)
 {
     KestoGDI::CTransparencyFlat flat;
     auto tool = Tool(flat);
-    Platform::Headless().SetModalScript([](Platform::CDialog& d) {
-        Platform::Headless().DragSlider(dynamic_cast<Platform::CSliderCtrl&>(*d.GetDlgItem(IDC_SOLID_SLIDER)), 100);
-        Platform::Headless().ClickButton(d, Platform::IDOK);
+    KestoPlatform::Headless().SetModalScript([](KestoPlatform::CDialog& d) {
+        KestoPlatform::Headless().DragSlider(dynamic_cast<KestoPlatform::CSliderCtrl&>(*d.GetDlgItem(IDC_SOLID_SLIDER)), 100);
+        KestoPlatform::Headless().ClickButton(d, KestoPlatform::IDOK);
     });
     EXPECT_TRUE(Command(*tool, FillCmdTransEdit));
     ASSERT_EQ(site.commits.size(), 1u);

@@ -21,7 +21,7 @@ CFillConical Sweep(CPoint c, CPoint r, std::initializer_list<int> inner = {})
     fill.SetControls(K2DDblPoint(c), K2DDblPoint(r));
     KestoGDI::ColourIntPairs stops = fill.GetColourIntPairs();
     for (int v : inner)
-        stops.Add(KestoGDI::CRGBColour(Platform::RGB(255, 0, 0)), v);
+        stops.Add(KestoGDI::CRGBColour(KestoPlatform::RGB(255, 0, 0)), v);
     stops.Sort();
     fill.SetColourIntPairs(stops);
     return fill;
@@ -146,7 +146,7 @@ TEST_F(ConicalTest, RectanglesEncloseTheCircleAndAnotherKindIsReported)
     EXPECT_EQ(tool->GetToolRect(nullptr), CRect(-7, -7, 207, 207));
     EXPECT_EQ(tool->GetEffectiveBBox(nullptr).GetBBox(), CRect(0, 0, 200, 200));
     std::vector<int> lines;
-    Kernel::ScopedVerifyHandler handler([&](const Kernel::VerifyReport& r) { lines.push_back(r.line); });
+    KestoKernel::ScopedVerifyHandler handler([&](const KestoKernel::VerifyReport& r) { lines.push_back(r.line); });
     const KestoGDI::CFillLinear linear;
     EXPECT_EQ(tool->GetFillLineBox(&linear), CRect());
     EXPECT_EQ(lines, std::vector<int>{449});

@@ -38,7 +38,7 @@ class CornerTest : public testing::Test {
 protected:
     KestoTest::TestToolSite site;
     std::vector<int> reports;
-    Kernel::ScopedVerifyHandler handler{[this](const Kernel::VerifyReport& r) { reports.push_back(r.line); }};
+    KestoKernel::ScopedVerifyHandler handler{[this](const KestoKernel::VerifyReport& r) { reports.push_back(r.line); }};
 
     void SetUp() override { site.objectBox = CRect(0, 0, 400, 200); }
     template <class Tool>

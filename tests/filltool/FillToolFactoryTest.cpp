@@ -51,7 +51,7 @@ TEST(FillToolFactory, EachKindGetsItsToolOrNone)
     };
     KestoTest::TestToolSite site;
     for (const KestoGDI::FillKind& kind : KestoGDI::FillKinds::All()) {
-        for (const Platform::CRuntimeClass* c : {kind.fillClass, kind.transparencyClass}) {
+        for (const KestoPlatform::CRuntimeClass* c : {kind.fillClass, kind.transparencyClass}) {
             if (!c)
                 continue;
             SCOPED_TRACE(c->m_lpszClassName);

@@ -5,9 +5,9 @@
 
 #include <gtest/gtest.h>
 
-using Platform::CSize;
-using Platform::CXTPImageManager;
-using Platform::XTPImageState;
+using KestoPlatform::CSize;
+using KestoPlatform::CXTPImageManager;
+using KestoPlatform::XTPImageState;
 
 TEST(FillToolImages, EveryImagedCommandGetsAnImageAtEachFoldersSize)
 {
@@ -52,13 +52,13 @@ TEST(FillToolImages, TheRangeIsAllocatedEvenWithoutBars)
 TEST(FillToolImages, RegistrationRunsOncePerProcessUnderTheFillToolKey)
 {
     KestoTool::Init(40000, 40100);
-    Platform::CXTPCommandBars bars;
+    KestoPlatform::CXTPCommandBars bars;
     KestoTool::RegisterFillToolImagesOnce(&bars);
     const int start = KestoTool::ToolIdMap::GetInstance().AllocateRange(KestoTool::FillToolKey, 22);
     ASSERT_NE(start, -1);
     EXPECT_NE(bars.GetImageManager()->GetImage(start + 1, CSize(16, 16)), nullptr);
 
-    Platform::CXTPCommandBars again;
+    KestoPlatform::CXTPCommandBars again;
     KestoTool::RegisterFillToolImagesOnce(&again);
     EXPECT_EQ(again.GetImageManager()->GetImageCount(), 0);
 }

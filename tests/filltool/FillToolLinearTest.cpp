@@ -30,7 +30,7 @@ CFillLinear Line(CPoint s, CPoint e, std::initializer_list<int> inner = {})
     fill.SetControls(K2DDblPoint(s), K2DDblPoint(e));
     KestoGDI::ColourIntPairs stops = fill.GetColourIntPairs();
     for (int v : inner)
-        stops.Add(CRGBColour(Platform::RGB(255, 0, 0)), v);
+        stops.Add(CRGBColour(KestoPlatform::RGB(255, 0, 0)), v);
     stops.Sort();
     fill.SetColourIntPairs(stops);
     return fill;
@@ -85,7 +85,7 @@ TEST_F(LinearTest, DraggingAStopCommitsItsNewPositionOnce)
 
 TEST_F(LinearTest, AHeldFillIsSharedUntilADragReshapesACopyOfIt)
 {
-    const RefPtr<const CFill> held = Kernel::MakeRef<CFillLinear>(Line({0, 0}, {1000, 0}));
+    const RefPtr<const CFill> held = KestoKernel::MakeRef<CFillLinear>(Line({0, 0}, {1000, 0}));
     auto tool = Tool(*held);
     EXPECT_EQ(tool->GetFill(), held.get());
     EXPECT_EQ(held->GetRefCount(), 2);
@@ -101,7 +101,7 @@ TEST_F(LinearTest, AHeldFillIsSharedUntilADragReshapesACopyOfIt)
 TEST_F(LinearTest, MisuseIsReportedAndChangesNothing)
 {
     std::vector<int> lines;
-    Kernel::ScopedVerifyHandler recorder([&](const Kernel::VerifyReport& r) {
+    KestoKernel::ScopedVerifyHandler recorder([&](const KestoKernel::VerifyReport& r) {
         EXPECT_FALSE(r.hint.empty()) << r.line;
         lines.push_back(r.line);
     });
@@ -114,7 +114,7 @@ TEST_F(LinearTest, MisuseIsReportedAndChangesNothing)
     orphan.OnDragStart(p, 0);
     orphan.OnDragChange(q, 0);
     orphan.OnDragEnd(q, 0);
-    Platform::CXTPCommandBars bars;
+    KestoPlatform::CXTPCommandBars bars;
     orphan.InitContextButtons(&bars);
     orphan.AdjustNodeColour(FillCmdStart);
     EXPECT_EQ(lines, std::vector<int>{1070});
@@ -241,23 +241,23 @@ TEST_F(LinearTest, TransparencyDropsAndLevelBoxesUseLevels)
 
     KestoTool::Init(40000, 40100);
     const int base = ToolIdMap::GetInstance().AllocateRange(FillToolKey, FillCommands::Count());
-    Platform::CXTPControlEdit box(base + FillCmdOpacityStartHandle);
+    KestoPlatform::CXTPControlEdit box(base + FillCmdOpacityStartHandle);
     box.SetValue(100);
-    Platform::NMXTPCONTROL notify;
+    KestoPlatform::NMXTPCONTROL notify;
     notify.pControl = &box;
     notify.hdr.code = 65536;
-    Platform::AFX_NOTIFY extra{nullptr, &notify};
-    EXPECT_TRUE(tool->OnCmdMsg(base + FillCmdOpacityStartHandle, Platform::CN_NOTIFY(100), &extra, nullptr));
+    KestoPlatform::AFX_NOTIFY extra{nullptr, &notify};
+    EXPECT_TRUE(tool->OnCmdMsg(base + FillCmdOpacityStartHandle, KestoPlatform::CN_NOTIFY(100), &extra, nullptr));
     EXPECT_EQ(tool->GetLevel(0), 255);
     EXPECT_TRUE(site.commits.back().flag);
     box.SetValue(49.6);  // 50 percent: level 128
     notify.hdr.code = 0;
-    tool->OnCmdMsg(base + FillCmdOpacityStartHandle, Platform::CN_NOTIFY(0), &extra, nullptr);
+    tool->OnCmdMsg(base + FillCmdOpacityStartHandle, KestoPlatform::CN_NOTIFY(0), &extra, nullptr);
     EXPECT_EQ(tool->GetLevel(0), 128);
     EXPECT_FALSE(site.commits.back().flag);
 
-    Platform::CXTPControlEdit endBox(base + FillCmdOpacityEndHandle);
-    Platform::CCmdUI ui(base + FillCmdOpacityEndHandle, &endBox);
+    KestoPlatform::CXTPControlEdit endBox(base + FillCmdOpacityEndHandle);
+    KestoPlatform::CCmdUI ui(base + FillCmdOpacityEndHandle, &endBox);
     ui.DoUpdate(tool.get());
     EXPECT_EQ(endBox.GetValue(), 100);  // level 255
     EXPECT_TRUE(ui.IsEnabled());
@@ -316,7 +316,7 @@ TEST_F(LinearTest, LockedRatioScalesTheFillToTheObjectsOtherSide)
     auto tool = Tool(Line({0, 100}, {400, 100}));  // spans the 400-wide box
     KestoTool::Init(40000, 40100);
     const int base = ToolIdMap::GetInstance().AllocateRange(FillToolKey, FillCommands::Count());
-    tool->OnCmdMsg(base + FillCmdLockRatio, Platform::CN_COMMAND, nullptr, nullptr);
+    tool->OnCmdMsg(base + FillCmdLockRatio, KestoPlatform::CN_COMMAND, nullptr, nullptr);
     EXPECT_TRUE(tool->IsLockRatio());
     tool->RotateFill(9000);
     // Scaled by 200 / 400 about (200, 100), then turned: it now spans the 200-high side.
@@ -335,7 +335,7 @@ TEST_F(LinearTest, ContextBarOrder)
     KestoTool::Init(40000, 40100);
     const int base = ToolIdMap::GetInstance().AllocateRange(FillToolKey, FillCommands::Count());
     auto tool = Tool(Line({0, 0}, {100, 0}));
-    Platform::CXTPCommandBars bars;
+    KestoPlatform::CXTPCommandBars bars;
     tool->InitContextButtons(&bars);
     auto host = [base](std::initializer_list<int> numbers) {
         std::vector<int> ids;
@@ -400,7 +400,7 @@ TEST_F(LinearTest, ShapesOfTheLine)
 TEST_F(LinearTest, MaxFitGrowsTheBoxToTheBitmapsProportions)
 {
     site.objectBox = CRect(0, 0, 400, 400);
-    const KestoGDI::CFillBitmap bitmap{RefPtr<const KestoGDI::CLtBitmap>(Kernel::MakeRef<KestoGDI::CLtBitmap>(100, 50))};
+    const KestoGDI::CFillBitmap bitmap{RefPtr<const KestoGDI::CLtBitmap>(KestoKernel::MakeRef<KestoGDI::CLtBitmap>(100, 50))};
     FillToolGradient tool(&bitmap, &site);
     site.tool = &tool;
     tool.FitToShape(false);
@@ -428,7 +428,7 @@ TEST_F(LinearTest, DrawsTheLineThenEveryStopHandle)
 TEST_F(LinearTest, ShapesWithoutAFillAreReported)
 {
     std::vector<int> lines;
-    Kernel::ScopedVerifyHandler handler([&](const Kernel::VerifyReport& r) { lines.push_back(r.line); });
+    KestoKernel::ScopedVerifyHandler handler([&](const KestoKernel::VerifyReport& r) { lines.push_back(r.line); });
     FillToolLinear tool(nullptr, &site);
     EXPECT_EQ(tool.GetFillRect(nullptr), CRect());
     EXPECT_TRUE(tool.GetEffectiveBBox(nullptr).IsEmpty());

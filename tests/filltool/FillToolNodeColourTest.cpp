@@ -15,7 +15,7 @@
 
 using namespace KestoTool;
 using KestoGDI::CRGBColour;
-using Platform::RGB;
+using KestoPlatform::RGB;
 
 namespace {
 

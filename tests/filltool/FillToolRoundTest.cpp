@@ -26,7 +26,7 @@ Fill WithInnerStops(Fill fill, std::initializer_list<int> inner)
 {
     KestoGDI::ColourIntPairs stops = fill.GetColourIntPairs();
     for (int v : inner)
-        stops.Add(KestoGDI::CRGBColour(Platform::RGB(255, 0, 0)), v);
+        stops.Add(KestoGDI::CRGBColour(KestoPlatform::RGB(255, 0, 0)), v);
     stops.Sort();
     fill.SetColourIntPairs(stops);
     return fill;
@@ -208,7 +208,7 @@ TEST_F(RoundTest, EllipticalShapeHandleTurnsTheRimAndShowsTheLastStop)
     EXPECT_EQ(tool->GradientIndex(3), 2);
     site.Drag(*tool, {0, -50}, {{50, 0}});  // F a quarter turn on: E follows
     EXPECT_EQ(Last(), (P{{0, 0}, {0, 100}, {50, 0}}));
-    const KestoGDI::CRGBColour green(Platform::RGB(0, 255, 0));
+    const KestoGDI::CRGBColour green(KestoPlatform::RGB(0, 255, 0));
     CPoint onShape(50, 0);
     EXPECT_TRUE(tool->OnFillCellDrop(onShape, &green));
     const auto& stops = dynamic_cast<const CFillEllipse&>(*site.commits.back().fill).GetColourIntPairs();
@@ -258,7 +258,7 @@ TEST_F(RoundTest, EveryHintIdIsReachedByItsState)
 TEST_F(RoundTest, LineBoxesOfAnotherKindAreReportedWithTheirLines)
 {
     std::vector<int> lines;
-    Kernel::ScopedVerifyHandler handler([&](const Kernel::VerifyReport& r) { lines.push_back(r.line); });
+    KestoKernel::ScopedVerifyHandler handler([&](const KestoKernel::VerifyReport& r) { lines.push_back(r.line); });
     const KestoGDI::CFillLinear linear;
     auto radial = Make<FillToolRadial>(Circle({0, 0}, {100, 0}));
     auto ellipse = Make<FillToolElliptical>(Ellipse({0, 0}, {100, 0}, {0, 50}));

@@ -18,7 +18,7 @@ CFillSquare Square(CPoint c, CPoint e, CPoint f, std::initializer_list<int> inne
     fill.SetControls(K2DDblPoint(c), K2DDblPoint(e), K2DDblPoint(f));
     KestoGDI::ColourIntPairs stops = fill.GetColourIntPairs();
     for (int v : inner)
-        stops.Add(KestoGDI::CRGBColour(Platform::RGB(255, 0, 0)), v);
+        stops.Add(KestoGDI::CRGBColour(KestoPlatform::RGB(255, 0, 0)), v);
     stops.Sort();
     fill.SetColourIntPairs(stops);
     return fill;
@@ -137,7 +137,7 @@ TEST_F(SquareTest, SizeAndShapes)
 TEST_F(SquareTest, EveryOperationNeedingAFillReportsItsLine)
 {
     std::vector<int> lines;
-    Kernel::ScopedVerifyHandler handler([&](const Kernel::VerifyReport& r) { lines.push_back(r.line); });
+    KestoKernel::ScopedVerifyHandler handler([&](const KestoKernel::VerifyReport& r) { lines.push_back(r.line); });
     FillToolSquare tool(nullptr, &site);
     lines.clear();  // the construction's own report
     EXPECT_EQ(tool.GetPercentageFromPoint({0, 0}), -1);

@@ -229,7 +229,7 @@ TEST(FillTool, ContextButtonsPutTheEditCommandTheContextItemAndTheTypeCombo)
     const int base = start - ToolIdMap::GetInstance().MapIDToLibrary(FillToolKey, start);
 
     TestToolSite site;
-    Platform::CXTPCommandBars bars;
+    KestoPlatform::CXTPCommandBars bars;
     KestoGDI::CFillLinear fill;
     FillTool(&fill, &site).InitContextButtons(&bars);
     EXPECT_EQ(site.contextItems, (std::vector<int>{base + FillCmdEdit, 0, base + FillCmdEditType}));

@@ -21,7 +21,7 @@ KestoGDI::CFillFractal Plasma(std::initializer_list<int> inner = {})
     fill.SetControls({0, 0}, {100, 0}, {0, 100});
     KestoGDI::ColourIntPairs stops = fill.GetColourIntPairs();
     for (int v : inner)
-        stops.Add(KestoGDI::CRGBColour(Platform::RGB(255, 0, 0)), v);
+        stops.Add(KestoGDI::CRGBColour(KestoPlatform::RGB(255, 0, 0)), v);
     stops.Sort();
     fill.SetColourIntPairs(stops);
     return fill;
@@ -29,7 +29,7 @@ KestoGDI::CFillFractal Plasma(std::initializer_list<int> inner = {})
 
 KestoGDI::CFillBitmap Tile()
 {
-    KestoGDI::CFillBitmap fill{RefPtr<const KestoGDI::CLtBitmap>(Kernel::MakeRef<KestoGDI::CLtBitmap>(8, 8))};
+    KestoGDI::CFillBitmap fill{RefPtr<const KestoGDI::CLtBitmap>(KestoKernel::MakeRef<KestoGDI::CLtBitmap>(8, 8))};
     fill.SetControls({0, 0}, {100, 0}, {0, 100});
     return fill;
 }
@@ -147,7 +147,7 @@ TEST_F(TileTest, CreationSnapsTheEndsAndMakesP1Current)
 TEST_F(TileTest, WithoutAFillEveryOperationReports)
 {
     std::vector<std::string> modules;
-    Kernel::ScopedVerifyHandler handler([&](const Kernel::VerifyReport& r) { modules.push_back(r.file); });
+    KestoKernel::ScopedVerifyHandler handler([&](const KestoKernel::VerifyReport& r) { modules.push_back(r.file); });
     FillToolPlasma plasma(nullptr, &site);
     FillToolBitmap bitmap(nullptr, &site);
     modules.clear();

@@ -23,14 +23,14 @@ using P = std::vector<CPoint>;
 // A drawing of width x height paper units whose top-left quarter is red.
 RefPtr<const VectorDrawing> Drawing(int width, int height)
 {
-    auto drawing = Kernel::MakeRef<VectorDrawing>(width, height);
+    auto drawing = KestoKernel::MakeRef<VectorDrawing>(width, height);
     KestoRaster::Path quarter;
     quarter.MoveTo({0, 0});
     quarter.LineTo({width / 2.0, 0});
     quarter.LineTo({width / 2.0, height / 2.0});
     quarter.LineTo({0, height / 2.0});
     quarter.Close();
-    drawing->AddShape(quarter, Kernel::MakeRef<KestoGDI::CFillSolid>(KestoGDI::CRGBColour(Platform::RGB(255, 0, 0)), true));
+    drawing->AddShape(quarter, KestoKernel::MakeRef<KestoGDI::CFillSolid>(KestoGDI::CRGBColour(KestoPlatform::RGB(255, 0, 0)), true));
     return drawing;
 }
 
@@ -180,19 +180,19 @@ TEST_F(VectorToolTest, TheModeButtonOffersOnlyTheOtherMode)
     const int base = ToolIdMap::GetInstance().AllocateRange(FillToolKey, FillCommands::Count());
     auto tool = Make(Vector());
     const auto offered = [&](int command) {
-        Platform::CXTPControlButton button(base + command);
-        Platform::CCmdUI ui(base + command, &button);
+        KestoPlatform::CXTPControlButton button(base + command);
+        KestoPlatform::CCmdUI ui(base + command, &button);
         ui.DoUpdate(tool.get());
         EXPECT_EQ(button.IsVisible(), ui.IsEnabled());
         return button.IsVisible();
     };
     EXPECT_FALSE(offered(FillCmdScaleMode));
     EXPECT_TRUE(offered(FillCmdSpaceMode));
-    tool->OnCmdMsg(base + FillCmdSpaceMode, Platform::CN_COMMAND, nullptr, nullptr);
+    tool->OnCmdMsg(base + FillCmdSpaceMode, KestoPlatform::CN_COMMAND, nullptr, nullptr);
     EXPECT_EQ(tool->GetControlBoxMode(), FillToolVector::SpacingMode);
     EXPECT_TRUE(offered(FillCmdScaleMode));
     EXPECT_FALSE(offered(FillCmdSpaceMode));
-    tool->OnCmdMsg(base + FillCmdScaleMode, Platform::CN_COMMAND, nullptr, nullptr);
+    tool->OnCmdMsg(base + FillCmdScaleMode, KestoPlatform::CN_COMMAND, nullptr, nullptr);
     EXPECT_EQ(tool->GetControlBoxMode(), FillToolVector::ScalingMode);
     EXPECT_EQ(site.handlesResets, 2);
     tool->InitContextButtons(nullptr);
@@ -258,7 +258,7 @@ TEST_F(VectorToolTest, SizeAndReportsWithoutAFill)
     EXPECT_TRUE(Make(Vector())->CheckSize());
 
     std::vector<std::string> modules;
-    Kernel::ScopedVerifyHandler handler([&](const Kernel::VerifyReport& r) { modules.push_back(r.file); });
+    KestoKernel::ScopedVerifyHandler handler([&](const KestoKernel::VerifyReport& r) { modules.push_back(r.file); });
     FillToolVector tool(nullptr, &site);
     modules.clear();
     CPoint p;

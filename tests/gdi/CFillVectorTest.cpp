@@ -6,14 +6,14 @@
 
 using KestoGDI::CFillVector;
 using Kesto2D::K2DDblPoint;
-using Platform::CPoint;
-using Platform::CRect;
+using KestoPlatform::CPoint;
+using KestoPlatform::CRect;
 
 namespace {
 
 CFillVector Vector()
 {
-    return CFillVector(Kernel::MakeRef<KestoGDI::VectorDrawing>(400, 200));
+    return CFillVector(KestoKernel::MakeRef<KestoGDI::VectorDrawing>(400, 200));
 }
 
 } // namespace

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 using namespace KestoGDI;
-using Platform::RGB;
+using KestoPlatform::RGB;
 
 namespace {
 
@@ -114,7 +114,7 @@ TEST(ColourIntPairs, SplineOfTheEarlierStopShapesTheBlend)
     EXPECT_TRUE(stops.GetAt(0)->IsStraight());
     stops.GetAt(0)->SetSpline(CSpline(0, 0));  // ease in: slow start
     EXPECT_FALSE(stops.GetAt(0)->IsStraight());
-    const int eased = Platform::GetRValue(stops.MakeColourForValue(5000)->GetRGB());
+    const int eased = KestoPlatform::GetRValue(stops.MakeColourForValue(5000)->GetRGB());
     // With both inner control values 0 the blend is t^3: an eighth of the way at halfway.
     EXPECT_EQ(eased, 32);
 }

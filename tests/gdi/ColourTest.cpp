@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 using namespace KestoGDI;
-using Platform::RGB;
+using KestoPlatform::RGB;
 
 struct TintRow {
     const char* name;

@@ -165,7 +165,7 @@ TEST(FillClassTree, OnlyCreatableFillClassesCreateFills)
 {
     EXPECT_FALSE(CFill::CreateFromClass(nullptr));
     EXPECT_FALSE(CFill::CreateFromClass(CFillGradient::GetThisClass()));
-    EXPECT_FALSE(CFill::CreateFromClass(Platform::CObject::GetThisClass()));
+    EXPECT_FALSE(CFill::CreateFromClass(KestoPlatform::CObject::GetThisClass()));
 }
 
 TEST(FillClassTree, CloneIsAnEqualIndependentFillOfTheSameClass)

@@ -21,7 +21,7 @@
 #include <vector>
 
 using namespace KestoGDI;
-using Kernel::MakeRef;
+using KestoKernel::MakeRef;
 
 namespace {
 
@@ -97,7 +97,7 @@ TEST(FillControls, SetControlsNeedsTheKindsExactCount)
 TEST(FillControls, BadControlIndexAndNullOutputAreReported)
 {
     std::vector<int> lines;
-    Kernel::ScopedVerifyHandler handler([&](const Kernel::VerifyReport& r) { lines.push_back(r.line); });
+    KestoKernel::ScopedVerifyHandler handler([&](const KestoKernel::VerifyReport& r) { lines.push_back(r.line); });
     CFillLinear linear;
     EXPECT_EQ(linear.GetControlPoint(2), K2DDblPoint());
     linear.GetControls(nullptr);
@@ -138,7 +138,7 @@ TEST(FillControls, TransparencyStopsAreGreyLevelsFromOpaqueToClear)
 
 TEST(FillControls, SolidFillTakesTheColourAndOptionallyItsAlpha)
 {
-    CRGBColour half(Platform::RGB(10, 20, 30));
+    CRGBColour half(KestoPlatform::RGB(10, 20, 30));
     half.SetAlpha(128);
     EXPECT_EQ(CFillSolid(half, true).GetAlpha(), 128);
     EXPECT_EQ(CFillSolid(half, false).GetAlpha(), 255);
@@ -187,10 +187,10 @@ TEST(FillControls, MeshGridKeepsItsShapeWithinLimits)
     ASSERT_TRUE(mesh.SetGrid(3, 2, CRect(0, 0, 100, 50)));
     EXPECT_EQ(mesh.GetControlCount(), 6);
     EXPECT_EQ(mesh.GetControlPoint(4), K2DDblPoint(50, 50));
-    EXPECT_TRUE(mesh.SetNodeColour(2, 1, CRGBColour(Platform::RGB(1, 2, 3))));
+    EXPECT_TRUE(mesh.SetNodeColour(2, 1, CRGBColour(KestoPlatform::RGB(1, 2, 3))));
     EXPECT_FALSE(mesh.SetNodeColour(3, 0, CRGBColour(0)));
     EXPECT_EQ(mesh.GetNodeColour(3, 0), nullptr);
     mesh.SetDefaultControls(CRect(0, 0, 200, 100));
-    EXPECT_EQ(mesh.GetNodeColour(2, 1)->GetRGB(), Platform::RGB(1, 2, 3));
+    EXPECT_EQ(mesh.GetNodeColour(2, 1)->GetRGB(), KestoPlatform::RGB(1, 2, 3));
     EXPECT_EQ(mesh.GetControlPoint(5), K2DDblPoint(200, 100));
 }

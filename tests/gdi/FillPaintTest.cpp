@@ -19,9 +19,9 @@ TEST(FillPaint, ControlPointsStopsAndColoursAsDisplayed)
     CFillLinear linear;
     linear.SetControls(K2DDblPoint(10, 20), K2DDblPoint(300, 20));
     ColourIntPairs stops;
-    CRGBColour tinted(Platform::RGB(100, 0, 200), nullptr, 50, 128);
+    CRGBColour tinted(KestoPlatform::RGB(100, 0, 200), nullptr, 50, 128);
     stops.Add(tinted, 0);
-    stops.Add(CRGBColour(Platform::RGB(0, 255, 0)), 10000);
+    stops.Add(CRGBColour(KestoPlatform::RGB(0, 255, 0)), 10000);
     linear.SetColourIntPairs(stops);
     const auto paint = FillPaint::From(linear);
     ASSERT_TRUE(paint);
@@ -31,9 +31,9 @@ TEST(FillPaint, ControlPointsStopsAndColoursAsDisplayed)
     EXPECT_EQ(paint->points[1].x, 300);
     ASSERT_EQ(paint->stops.size(), 2u);
     const COLORREF shown = tinted.GetRGB();
-    EXPECT_EQ(paint->stops[0].colour, (Rgba{static_cast<std::uint8_t>(Platform::GetRValue(shown)),
-                                            static_cast<std::uint8_t>(Platform::GetGValue(shown)),
-                                            static_cast<std::uint8_t>(Platform::GetBValue(shown)), 128}));
+    EXPECT_EQ(paint->stops[0].colour, (Rgba{static_cast<std::uint8_t>(KestoPlatform::GetRValue(shown)),
+                                            static_cast<std::uint8_t>(KestoPlatform::GetGValue(shown)),
+                                            static_cast<std::uint8_t>(KestoPlatform::GetBValue(shown)), 128}));
     EXPECT_EQ(paint->stops[1].position, 10000);
 }
 
@@ -55,7 +55,7 @@ TEST(FillPaint, TransparenciesPaintTheirLevelsAndCornerKindsTheirCorners)
     CFillFourColour four;
     KestoGDI::ColourIntPairs round;
     for (int i = 0; i < 4; ++i)
-        round.Add(KestoGDI::CRGBColour(Platform::RGB(10 * i, 0, 0)), 0);
+        round.Add(KestoGDI::CRGBColour(KestoPlatform::RGB(10 * i, 0, 0)), 0);
     four.SetColourIntPairs(round);
     const auto quad = FillPaint::From(four);
     ASSERT_TRUE(quad);

@@ -21,9 +21,9 @@ KestoRaster::Path Box(double x0, double y0, double x1, double y1)
     return p;
 }
 
-RefPtr<const CFill> Solid(Platform::COLORREF c)
+RefPtr<const CFill> Solid(KestoPlatform::COLORREF c)
 {
-    return Kernel::MakeRef<CFillSolid>(CRGBColour(c), true);
+    return KestoKernel::MakeRef<CFillSolid>(CRGBColour(c), true);
 }
 
 } // namespace
@@ -31,8 +31,8 @@ RefPtr<const CFill> Solid(Platform::COLORREF c)
 TEST(VectorDrawing, ShapesArePaintedInOrderIntoATileOfTheScaledSize)
 {
     VectorDrawing drawing(10, 10);
-    drawing.AddShape(Box(0, 0, 10, 10), Solid(Platform::RGB(0, 0, 255)));
-    drawing.AddShape(Box(5, 0, 10, 5), Solid(Platform::RGB(255, 0, 0)));
+    drawing.AddShape(Box(0, 0, 10, 10), Solid(KestoPlatform::RGB(0, 0, 255)));
+    drawing.AddShape(Box(5, 0, 10, 5), Solid(KestoPlatform::RGB(255, 0, 0)));
     drawing.AddShape(Box(0, 5, 5, 10), nullptr);  // no fill: left out
     const RefPtr<const CLtBitmap> tile = drawing.Tile(2, 3);
     ASSERT_TRUE(tile);

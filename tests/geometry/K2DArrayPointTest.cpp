@@ -44,7 +44,7 @@ TEST(K2DArrayPoint, EllipseIsClosedAndTouchesItsBox)
 TEST(K2DArrayPoint, OutOfRangeAccessIsReportedAndHarmless)
 {
     int reports = 0;
-    Kernel::ScopedVerifyHandler handler([&](const Kernel::VerifyReport&) { ++reports; });
+    KestoKernel::ScopedVerifyHandler handler([&](const KestoKernel::VerifyReport&) { ++reports; });
     K2DArrayPoint a(2);
     EXPECT_EQ(a.GetAt(2), CPoint());
     EXPECT_EQ(a.GetAt(-1), CPoint());

@@ -56,7 +56,7 @@ TEST(K2DLtGeneral, InverseUndoesAComposedTransform)
 TEST(K2DLtGeneral, SingularTransformHasNoInverseAndReportsWhenAskedForOne)
 {
     int reports = 0;
-    Kernel::ScopedVerifyHandler handler([&](const Kernel::VerifyReport&) { ++reports; });
+    KestoKernel::ScopedVerifyHandler handler([&](const KestoKernel::VerifyReport&) { ++reports; });
     K2DLtGeneral flat;
     flat += K2DLtScale(0, 1);
     flat += K2DLtTranslate(5, 5);

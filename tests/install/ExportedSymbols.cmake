@@ -5,7 +5,7 @@
 cmake_minimum_required(VERSION 3.25)
 
 # What hosts and back ends use of each foundation namespace (classes and free functions).
-set(public_Platform
+set(public_KestoPlatform
   CObject CCmdTarget CCmdUI CWnd CDialog CEdit CButton CStatic CComboBox CListItems CSliderCtrl
   CCheckBox CSpinButtonCtrl CRect CString CResourceModule CXTPCommandBars CXTPControl CXTPControlButton
   CXTPControlPopup CXTPControlSplitButtonPopup CXTPControlEdit CXTPControlComboBox
@@ -15,8 +15,8 @@ set(public_Kesto2D K2DDblPoint K2DArrayPoint K2DCurve K2DLtGeneral KCAngle Round
   SaturateToRange RoundToRange)
 set(public_KestoRaster Path PreparedPaint Render CompositeOver)
 # A few that a host must find.
-set(required KestoTool::Version KestoTool::FillToolFactory::Create KestoTool::Init Platform::CWnd
-  KestoGDI::CFillLinear Kernel::SetVerifyHandler)
+set(required KestoTool::Version KestoTool::FillToolFactory::Create KestoTool::Init KestoPlatform::CWnd
+  KestoGDI::CFillLinear KestoKernel::SetVerifyHandler)
 
 execute_process(COMMAND nm -D --defined-only -C ${LIBRARY} OUTPUT_VARIABLE table COMMAND_ERROR_IS_FATAL ANY)
 string(REPLACE "\n" ";" lines "${table}")
@@ -26,7 +26,7 @@ foreach(line IN LISTS lines)
   string(REGEX REPLACE "^[0-9a-f]+ [A-Za-z] " "" symbol "${line}")
   string(REGEX REPLACE "^(typeinfo name for |typeinfo for |vtable for |VTT for |non-virtual thunk to |virtual thunk to |guard variable for )" "" symbol "${symbol}")
   list(APPEND names "${symbol}")
-  if(symbol MATCHES "^(Platform|Kesto2D|KestoRaster)::([A-Za-z_][A-Za-z0-9_]*)")
+  if(symbol MATCHES "^(KestoPlatform|Kesto2D|KestoRaster)::([A-Za-z_][A-Za-z0-9_]*)")
     if(NOT CMAKE_MATCH_2 IN_LIST public_${CMAKE_MATCH_1})
       list(APPEND internal "${symbol}")
     endif()

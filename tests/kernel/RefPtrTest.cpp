@@ -6,7 +6,7 @@
 
 namespace {
 
-class Counted : public Kernel::CRefCount {
+class Counted : public KestoKernel::CRefCount {
 public:
     explicit Counted(int* deaths, int value = 0) : m_deaths(deaths), m_value(value) {}
     ~Counted() override { ++*m_deaths; }
@@ -29,10 +29,10 @@ TEST(RefPtr, LastReleaseDeletesTheObject)
 {
     int deaths = 0;
     {
-        Kernel::RefPtr<Counted> a(new Counted(&deaths));
+        KestoKernel::RefPtr<Counted> a(new Counted(&deaths));
         EXPECT_EQ(a->GetRefCount(), 1);
         {
-            Kernel::RefPtr<Counted> b = a;
+            KestoKernel::RefPtr<Counted> b = a;
             EXPECT_EQ(a->GetRefCount(), 2);
         }
         EXPECT_EQ(a->GetRefCount(), 1);
@@ -44,9 +44,9 @@ TEST(RefPtr, LastReleaseDeletesTheObject)
 TEST(RefPtr, CopyingAnObjectDoesNotCopyItsCount)
 {
     int deaths = 0;
-    auto original = Kernel::MakeRef<Counted>(&deaths, 7);
-    Kernel::RefPtr<Counted> extra = original;
-    Kernel::RefPtr<Counted> copy(new Counted(*original));
+    auto original = KestoKernel::MakeRef<Counted>(&deaths, 7);
+    KestoKernel::RefPtr<Counted> extra = original;
+    KestoKernel::RefPtr<Counted> copy(new Counted(*original));
     EXPECT_EQ(copy->GetRefCount(), 1);
     EXPECT_EQ(copy->m_value, 7);
     copy.reset();
@@ -57,8 +57,8 @@ TEST(RefPtr, CopyingAnObjectDoesNotCopyItsCount)
 TEST(RefPtr, MoveAndDetachTransferTheReference)
 {
     int deaths = 0;
-    auto a = Kernel::MakeRef<Counted>(&deaths);
-    Kernel::RefPtr<Counted> b = std::move(a);
+    auto a = KestoKernel::MakeRef<Counted>(&deaths);
+    KestoKernel::RefPtr<Counted> b = std::move(a);
     EXPECT_FALSE(a);
     EXPECT_EQ(b->GetRefCount(), 1);
     Counted* raw = b.Detach();
@@ -71,7 +71,7 @@ TEST(RefPtr, MoveAndDetachTransferTheReference)
 TEST(RefPtr, ReleasingAnUnownedObjectIsReportedNotFreed)
 {
     int reports = 0;
-    Kernel::ScopedVerifyHandler handler([&](const Kernel::VerifyReport&) { ++reports; });
+    KestoKernel::ScopedVerifyHandler handler([&](const KestoKernel::VerifyReport&) { ++reports; });
     int deaths = 0;
     Counted stackObject(&deaths);
     EXPECT_EQ(stackObject.Release(), 0);

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-using namespace Platform;
+using namespace KestoPlatform;
 
 namespace {
 

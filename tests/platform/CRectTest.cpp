@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-using Platform::CPoint;
-using Platform::CRect;
-using Platform::CSize;
+using KestoPlatform::CPoint;
+using KestoPlatform::CRect;
+using KestoPlatform::CSize;
 
 struct PtInRectRow {
     const char* name;

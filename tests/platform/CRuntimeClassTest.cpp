@@ -6,7 +6,7 @@
 
 namespace {
 
-class Shape : public Platform::CObject {
+class Shape : public KestoPlatform::CObject {
     KESTO_DECLARE_DYNAMIC(Shape)
 public:
     virtual int Corners() const = 0;
@@ -18,14 +18,14 @@ public:
     int Corners() const override { return 4; }
 };
 
-KESTO_IMPLEMENT_DYNAMIC(Shape, Platform::CObject)
+KESTO_IMPLEMENT_DYNAMIC(Shape, KestoPlatform::CObject)
 KESTO_IMPLEMENT_DYNCREATE(Square, Shape)
 
 } // namespace
 
 TEST(CRuntimeClass, CreatesObjectsOfTheRecordedClass)
 {
-    std::unique_ptr<Platform::CObject> object(Square::GetThisClass()->CreateObject());
+    std::unique_ptr<KestoPlatform::CObject> object(Square::GetThisClass()->CreateObject());
     ASSERT_NE(object, nullptr);
     EXPECT_EQ(object->GetRuntimeClass(), Square::GetThisClass());
     EXPECT_EQ(dynamic_cast<Shape&>(*object).Corners(), 4);
@@ -35,13 +35,13 @@ TEST(CRuntimeClass, CreatesObjectsOfTheRecordedClass)
 TEST(CRuntimeClass, AbstractClassesHaveARecordButNoFactory)
 {
     EXPECT_EQ(Shape::GetThisClass()->CreateObject(), nullptr);
-    EXPECT_EQ(Shape::GetThisClass()->m_pBaseClass, Platform::CObject::GetThisClass());
+    EXPECT_EQ(Shape::GetThisClass()->m_pBaseClass, KestoPlatform::CObject::GetThisClass());
 }
 
 TEST(CRuntimeClass, DerivationFollowsTheBaseChain)
 {
     EXPECT_TRUE(Square::GetThisClass()->IsDerivedFrom(Shape::GetThisClass()));
-    EXPECT_TRUE(Square::GetThisClass()->IsDerivedFrom(Platform::CObject::GetThisClass()));
+    EXPECT_TRUE(Square::GetThisClass()->IsDerivedFrom(KestoPlatform::CObject::GetThisClass()));
     EXPECT_FALSE(Shape::GetThisClass()->IsDerivedFrom(Square::GetThisClass()));
     Square s;
     EXPECT_TRUE(s.IsKindOf(Shape::GetThisClass()));

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-using Platform::CString;
+using KestoPlatform::CString;
 
 TEST(CString, FormatWithWideArguments)
 {

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-using namespace Platform;
+using namespace KestoPlatform;
 
 namespace {
 

@@ -1,5 +1,6 @@
 #include "kestotool/raster/Isa.h"
 #include "kestotool/raster/PreparedPaint.h"
+#include "kestotool/raster/Shading_p.h"
 
 #include <gtest/gtest.h>
 

@@ -33,7 +33,7 @@ int ByteChoices::Int(int lo, int hi)
     return static_cast<int>(lo + static_cast<std::int64_t>(v % span));
 }
 
-std::string InvalidFill(const CFill& fill, const Platform::CRuntimeClass* kind)
+std::string InvalidFill(const CFill& fill, const KestoPlatform::CRuntimeClass* kind)
 {
     if (fill.GetRuntimeClass() != kind)
         return std::string("kind changed to ") + fill.GetRuntimeClass()->m_lpszClassName;
@@ -84,15 +84,15 @@ void SessionSite::Keep(const CFill* fill)
         history.Record(fill);
 }
 
-const Platform::CRuntimeClass* GestureSession::PickKind()
+const KestoPlatform::CRuntimeClass* GestureSession::PickKind()
 {
     // The kinds the factory makes tools for are fixed for the process: asked once, not per session.
-    static const std::vector<const Platform::CRuntimeClass*> withTools = [] {
-        std::vector<const Platform::CRuntimeClass*> classes;
+    static const std::vector<const KestoPlatform::CRuntimeClass*> withTools = [] {
+        std::vector<const KestoPlatform::CRuntimeClass*> classes;
         TestToolSite probe;
         for (const KestoGDI::FillKind& kind : KestoGDI::FillKinds::All()) {
-            for (const Platform::CRuntimeClass* c : {kind.fillClass, kind.transparencyClass}) {
-                const Kernel::RefPtr<CFill> sample = CFill::CreateFromClass(c);
+            for (const KestoPlatform::CRuntimeClass* c : {kind.fillClass, kind.transparencyClass}) {
+                const KestoKernel::RefPtr<CFill> sample = CFill::CreateFromClass(c);
                 if (sample && FillToolFactory::Create(sample.get(), &probe))
                     classes.push_back(c);
             }
@@ -102,9 +102,9 @@ const Platform::CRuntimeClass* GestureSession::PickKind()
     return withTools[static_cast<std::size_t>(Int(0, static_cast<int>(withTools.size()) - 1))];
 }
 
-Kernel::RefPtr<CFill> GestureSession::StartingFill(const Platform::CRuntimeClass* kind)
+KestoKernel::RefPtr<CFill> GestureSession::StartingFill(const KestoPlatform::CRuntimeClass* kind)
 {
-    Kernel::RefPtr<CFill> fill = CFill::CreateFromClass(kind);
+    KestoKernel::RefPtr<CFill> fill = CFill::CreateFromClass(kind);
     fill->SetDefaultControls(CRect(Coordinate(), Coordinate(), Coordinate(), Coordinate()));
     auto* withStops = dynamic_cast<KestoGDI::CFillWithStops*>(fill.get());
     if (!withStops || withStops->GetMaxStops() >= 0)
@@ -149,7 +149,7 @@ std::unique_ptr<KestoGDI::CColour> GestureSession::AnyColour()
 {
     if (Chance(30))
         return std::make_unique<KestoGDI::CMonoColour>(Int(0, 255));
-    auto colour = std::make_unique<KestoGDI::CRGBColour>(Platform::RGB(Int(0, 255), Int(0, 255), Int(0, 255)));
+    auto colour = std::make_unique<KestoGDI::CRGBColour>(KestoPlatform::RGB(Int(0, 255), Int(0, 255), Int(0, 255)));
     colour->SetAlpha(Int(0, 255));
     return colour;
 }
@@ -211,31 +211,31 @@ void GestureSession::Command()
     const int first = ToolIdMap::GetInstance().MapIDToApp(FillToolKey, 0);
     const int id = Chance(90) ? first + Int(0, FillCommands::Count() - 1)
                               : Int(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
-    Platform::CXTPControlEdit box(id);
+    KestoPlatform::CXTPControlEdit box(id);
     box.SetValue(m_choices.Fraction() * 200 - 50);
-    Platform::CXTPControlComboBox combo(id);
+    KestoPlatform::CXTPControlComboBox combo(id);
     if (Chance(80)) {
         combo.SetCurSel(combo.AddString(L"kind"));
         combo.SetItemData(0, Int(-1, 15));
     }
-    Platform::CXTPControl* control = Chance(50) ? static_cast<Platform::CXTPControl*>(&box) : &combo;
+    KestoPlatform::CXTPControl* control = Chance(50) ? static_cast<KestoPlatform::CXTPControl*>(&box) : &combo;
     if (Chance(30))
         m_document.helper.Answer(*AnyColour());
     switch (Int(0, 2)) {
-    case 0: m_tool->OnCmdMsg(id, Platform::CN_COMMAND, nullptr, nullptr); break;
+    case 0: m_tool->OnCmdMsg(id, KestoPlatform::CN_COMMAND, nullptr, nullptr); break;
     case 1: {
-        Platform::CCmdUI ui(id, Chance(50) ? control : nullptr);
-        m_tool->OnCmdMsg(id, Platform::CN_UPDATE_COMMAND_UI, &ui, nullptr);
+        KestoPlatform::CCmdUI ui(id, Chance(50) ? control : nullptr);
+        m_tool->OnCmdMsg(id, KestoPlatform::CN_UPDATE_COMMAND_UI, &ui, nullptr);
         break;
     }
     default: {
-        Platform::NMXTPCONTROL notify;
+        KestoPlatform::NMXTPCONTROL notify;
         notify.pControl = Chance(90) ? control : nullptr;
         notify.hdr.code = Chance(50) ? 65536u : 0u;
         long result = 0;
-        Platform::AFX_NOTIFY extra{&result, &notify};
+        KestoPlatform::AFX_NOTIFY extra{&result, &notify};
         const int code = Chance(80) ? (Chance(50) ? 100 : 0) : Int(0, 0xFFFF);
-        m_tool->OnCmdMsg(id, Platform::CN_NOTIFY(code), &extra, nullptr);
+        m_tool->OnCmdMsg(id, KestoPlatform::CN_NOTIFY(code), &extra, nullptr);
     }
     }
     m_document.helper.pickerAnswers.clear();
@@ -298,11 +298,11 @@ std::string GestureSession::UndoAndRedo()
 std::string GestureSession::Play(int steps, bool commandsOnly)
 {
     // Reports are allowed (a careless host earns them); a crash or a broken fill is not.
-    Kernel::ScopedVerifyHandler quiet([](const Kernel::VerifyReport&) {});
+    KestoKernel::ScopedVerifyHandler quiet([](const KestoKernel::VerifyReport&) {});
     m_site.document = &m_document;
     NewEnvironment();
     m_site.kind = PickKind();
-    const Kernel::RefPtr<CFill> start = StartingFill(m_site.kind);
+    const KestoKernel::RefPtr<CFill> start = StartingFill(m_site.kind);
     m_site.history.Record(start.get());
     m_tool = FillToolFactory::Create(start.get(), &m_site);
     m_site.tool = m_tool.get();

@@ -50,14 +50,14 @@ private:
 // What is wrong with a fill that a tool of the given kind committed; empty when nothing is:
 // the kind unchanged, control points finite and inside the coordinate range, at least the
 // kind's minimum of stops, positions sorted within 0..10000.
-std::string InvalidFill(const KestoGDI::CFill& fill, const Platform::CRuntimeClass* kind);
+std::string InvalidFill(const KestoGDI::CFill& fill, const KestoPlatform::CRuntimeClass* kind);
 
 // The host of a session: records every commit outside a gesture as an undo step, merges a
 // gesture's commits into the one step recorded at its end, and checks each commit.
 class SessionSite : public TestToolSite {
 public:
     UndoHistory history;
-    const Platform::CRuntimeClass* kind = nullptr;
+    const KestoPlatform::CRuntimeClass* kind = nullptr;
     std::string failure;
 
     void UpdateFill(const KestoGDI::CFill* fill, const wchar_t* undoName) override;
@@ -90,8 +90,8 @@ private:
     CPoint AnyPoint() { return {Coordinate(), Coordinate()}; }
     CPoint NearHandleOrAnywhere();
     std::unique_ptr<KestoGDI::CColour> AnyColour();
-    const Platform::CRuntimeClass* PickKind();
-    Kernel::RefPtr<KestoGDI::CFill> StartingFill(const Platform::CRuntimeClass* kind);
+    const KestoPlatform::CRuntimeClass* PickKind();
+    KestoKernel::RefPtr<KestoGDI::CFill> StartingFill(const KestoPlatform::CRuntimeClass* kind);
     void NewEnvironment();
 
     void Drag();
@@ -108,7 +108,7 @@ private:
     TestDocument m_document;
     SessionSite m_site;
     std::unique_ptr<KestoTool::FillTool> m_tool;
-    Platform::CXTPCommandBars m_bars;
+    KestoPlatform::CXTPCommandBars m_bars;
 };
 
 } // namespace KestoTest

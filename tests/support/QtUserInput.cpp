@@ -48,24 +48,24 @@ public:
             m_backend = std::make_unique<QtBackend>();
             m_backend->UseManualClock(true);
         }
-        Platform::SetBackend(m_backend.get());
+        KestoPlatform::SetBackend(m_backend.get());
     }
     void Uninstall() override
     {
         m_backend->SetModalScript(nullptr);
         m_backend->SetColourScript(nullptr);
-        Platform::SetBackend(nullptr);
+        KestoPlatform::SetBackend(nullptr);
     }
-    void SetModalScript(std::function<void(Platform::CDialog&)> script) override
+    void SetModalScript(std::function<void(KestoPlatform::CDialog&)> script) override
     {
         m_backend->SetModalScript(std::move(script));
     }
-    void Type(const Platform::CString& text) override
+    void Type(const KestoPlatform::CString& text) override
     {
         if (QWidget* widget = Focused())
             QTest::keyClicks(widget, ToQString(text));
     }
-    void EnterText(const Platform::CString& text) override
+    void EnterText(const KestoPlatform::CString& text) override
     {
         auto* line = qobject_cast<QLineEdit*>(Focused());
         if (!line)
@@ -80,12 +80,12 @@ public:
         if (QWidget* widget = Focused())
             QTest::keyClick(widget, KestoToolQt::ToQtKey(key));
     }
-    void MoveFocus(Platform::CWnd* window) override
+    void MoveFocus(KestoPlatform::CWnd* window) override
     {
         if (QWidget* widget = window ? QtBackend::WidgetOf(*window) : nullptr)
             widget->setFocus(Qt::TabFocusReason);
     }
-    void DragSlider(Platform::CSliderCtrl& slider, int pos) override
+    void DragSlider(KestoPlatform::CSliderCtrl& slider, int pos) override
     {
         auto* widget = qobject_cast<QSlider*>(QtBackend::WidgetOf(slider));
         if (!widget)
@@ -94,38 +94,38 @@ public:
         widget->setSliderPosition(pos);
         widget->setSliderDown(false);
     }
-    void ClickSpin(Platform::CSpinButtonCtrl& spin, bool up) override
+    void ClickSpin(KestoPlatform::CSpinButtonCtrl& spin, bool up) override
     {
         QWidget* widget = QtBackend::WidgetOf(spin);
         if (auto* arrow = widget ? widget->findChild<QToolButton*>(up ? "up" : "down") : nullptr)
             QTest::mouseClick(arrow, Qt::LeftButton);
     }
-    void ClickButton(Platform::CWnd& dialog, int id) override
+    void ClickButton(KestoPlatform::CWnd& dialog, int id) override
     {
-        Platform::CWnd* item = dialog.GetDlgItem(id);
+        KestoPlatform::CWnd* item = dialog.GetDlgItem(id);
         if (auto* button = item ? qobject_cast<QAbstractButton*>(QtBackend::WidgetOf(*item)) : nullptr)
             QTest::mouseClick(button, Qt::LeftButton);
     }
     void AdvanceClock(int milliseconds) override { m_backend->AdvanceClock(milliseconds); }
-    void DragMouse(Platform::CWnd& window, Platform::CPoint from, Platform::CPoint to, unsigned flags) override
+    void DragMouse(KestoPlatform::CWnd& window, KestoPlatform::CPoint from, KestoPlatform::CPoint to, unsigned flags) override
     {
         QWidget* widget = QtBackend::WidgetOf(window);
         if (!widget)
             return;
-        const Qt::KeyboardModifiers modifiers = (flags & Platform::MK_SHIFT ? Qt::ShiftModifier : Qt::NoModifier) |
-                                                (flags & Platform::MK_CONTROL ? Qt::ControlModifier : Qt::NoModifier);
+        const Qt::KeyboardModifiers modifiers = (flags & KestoPlatform::MK_SHIFT ? Qt::ShiftModifier : Qt::NoModifier) |
+                                                (flags & KestoPlatform::MK_CONTROL ? Qt::ControlModifier : Qt::NoModifier);
         const double scale = QtBackend::PixelsPerUnit();
-        const auto send = [&](QEvent::Type type, Platform::CPoint at, Qt::MouseButtons buttons) {
+        const auto send = [&](QEvent::Type type, KestoPlatform::CPoint at, Qt::MouseButtons buttons) {
             const QPointF local(at.x * scale, at.y * scale);
             QMouseEvent event(type, local, widget->mapToGlobal(local), Qt::LeftButton, buttons, modifiers);
             QApplication::sendEvent(widget, &event);
         };
         send(QEvent::MouseButtonPress, from, Qt::LeftButton);
-        send(QEvent::MouseMove, Platform::CPoint((from.x + to.x) / 2, (from.y + to.y) / 2), Qt::LeftButton);
+        send(QEvent::MouseMove, KestoPlatform::CPoint((from.x + to.x) / 2, (from.y + to.y) / 2), Qt::LeftButton);
         send(QEvent::MouseMove, to, Qt::LeftButton);
         send(QEvent::MouseButtonRelease, to, Qt::NoButton);
     }
-    void SelectItem(Platform::CComboBox& combo, int index) override
+    void SelectItem(KestoPlatform::CComboBox& combo, int index) override
     {
         if (auto* box = qobject_cast<QComboBox*>(QtBackend::WidgetOf(combo))) {
             box->setCurrentIndex(index);
@@ -138,7 +138,7 @@ private:
     // The widget of the window that has the focus: where the user's keys go.
     QWidget* Focused() const
     {
-        Platform::CWnd* focus = m_backend->GetFocus();
+        KestoPlatform::CWnd* focus = m_backend->GetFocus();
         return focus ? QtBackend::WidgetOf(*focus) : nullptr;
     }
 

@@ -14,27 +14,27 @@ CColour* TestToolHelper::NextAnswer(const CColour* current)
     return answer.release();
 }
 
-int TestToolHelper::CreateColourControl(Platform::XTP_COMMANDBARS_CREATECONTROL* cc)
+int TestToolHelper::CreateColourControl(KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc)
 {
     if (!cc)
         return 0;
-    cc->pControl = std::make_unique<Platform::CXTPControlPopupColor>(cc->nID);
+    cc->pControl = std::make_unique<KestoPlatform::CXTPControlPopupColor>(cc->nID);
     ++colourControlsCreated;
     return 1;
 }
 
-bool TestToolHelper::ColourPicker(const CColour* current, CColour*& result, Platform::CWnd*)
+bool TestToolHelper::ColourPicker(const CColour* current, CColour*& result, KestoPlatform::CWnd*)
 {
     result = NextAnswer(current);
     return result != nullptr;
 }
 
-CColour* TestToolHelper::ColourPicker(const CColour* current, Platform::CWnd*)
+CColour* TestToolHelper::ColourPicker(const CColour* current, KestoPlatform::CWnd*)
 {
     return NextAnswer(current);
 }
 
-CColour* TestToolHelper::AskUserForNewColour(const CColour* current, Platform::CPoint, Platform::CWnd*)
+CColour* TestToolHelper::AskUserForNewColour(const CColour* current, KestoPlatform::CPoint, KestoPlatform::CWnd*)
 {
     return NextAnswer(current);
 }

@@ -28,10 +28,10 @@ public:
     void Answer(const CColour& colour) { pickerAnswers.push_back(colour.Clone()); }
     void Cancel() { pickerAnswers.push_back(nullptr); }
 
-    int CreateColourControl(Platform::XTP_COMMANDBARS_CREATECONTROL* cc) override;
-    bool ColourPicker(const CColour* current, CColour*& result, Platform::CWnd* owner) override;
-    CColour* ColourPicker(const CColour* current, Platform::CWnd* owner) override;
-    CColour* AskUserForNewColour(const CColour* current, Platform::CPoint where, Platform::CWnd* owner) override;
+    int CreateColourControl(KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc) override;
+    bool ColourPicker(const CColour* current, CColour*& result, KestoPlatform::CWnd* owner) override;
+    CColour* ColourPicker(const CColour* current, KestoPlatform::CWnd* owner) override;
+    CColour* AskUserForNewColour(const CColour* current, KestoPlatform::CPoint where, KestoPlatform::CWnd* owner) override;
     bool IsFillTypeAvailable(KestoGDI::CFill* sample) override;
     bool IsTransparencyTypeAvailable(KestoGDI::CFill* sample) override;
     bool GetDialogSetting() override { return dialogSetting; }

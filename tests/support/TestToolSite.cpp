@@ -8,7 +8,7 @@ namespace KestoTest {
 
 using Kesto2D::RoundHalfAwayFromZero;
 
-void TestToolSite::ClientToPaper(Platform::SIZE* size)
+void TestToolSite::ClientToPaper(KestoPlatform::SIZE* size)
 {
     size->cx = RoundHalfAwayFromZero(size->cx * pixelToPaper);
     size->cy = RoundHalfAwayFromZero(size->cy * pixelToPaper);
@@ -36,8 +36,8 @@ void TestToolSite::AddContextItem(int hostCommand)
     contextItems.push_back(hostCommand);
     if (bars && tool) {
         bars->CreateControl(
-            hostCommand, true, [this](Platform::XTP_COMMANDBARS_CREATECONTROL* cc) { return tool->OnCreateControl(cc); },
-            [this](Platform::XTP_COMMANDBARS_CREATECONTROL* cc) { tool->OnAfterCreateControl(cc); });
+            hostCommand, true, [this](KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc) { return tool->OnCreateControl(cc); },
+            [this](KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc) { tool->OnAfterCreateControl(cc); });
     }
 }
 

@@ -9,15 +9,15 @@
 namespace KestoTest {
 
 using KestoGDI::CFill;
-using Platform::CPoint;
-using Platform::CRect;
+using KestoPlatform::CPoint;
+using KestoPlatform::CRect;
 
 // A tool site for tests: settable scale, grid, angle step and flags; records every commit and,
 // like a real host, can hand the committed fill back to the tool.
 class TestToolSite : public KestoTool::IToolSite {
 public:
     struct Commit {
-        Kernel::RefPtr<CFill> fill;  // a copy of what the tool committed
+        KestoKernel::RefPtr<CFill> fill;  // a copy of what the tool committed
         bool hasName = false;
         std::wstring name;
         bool transparency = false;
@@ -38,7 +38,7 @@ public:
     // When set, each commit is given back to the tool with SetFill, and context items become
     // controls of the bars made through the tool, as a host's toolbar makes them.
     KestoTool::FillTool* tool = nullptr;
-    Platform::CXTPCommandBars* bars = nullptr;
+    KestoPlatform::CXTPCommandBars* bars = nullptr;
 
     std::vector<Commit> commits;
 
@@ -47,12 +47,12 @@ public:
     void Drag(KestoTool::FillTool& dragged, CPoint from, std::initializer_list<CPoint> moves, unsigned flags = 0);
     std::vector<int> contextItems;
     int handlesResets = 0;
-    std::vector<const Platform::CRuntimeClass*> typeRequests;
+    std::vector<const KestoPlatform::CRuntimeClass*> typeRequests;
 
     unsigned long GetToolColour() override { return toolColour; }
     Kesto2D::K2DLtGeneral GetObjectToSpreadTransform() override { return objectToSpread; }
     Kesto2D::K2DLtGeneral GetAppObjectToSpreadTransform() override { return objectToSpread; }
-    void ClientToPaper(Platform::SIZE* size) override;
+    void ClientToPaper(KestoPlatform::SIZE* size) override;
     CRect GetObjectBBox() override { return objectBox; }
     CRect GetTransformedObjectBBox() override;
     bool IsCreate() override { return create; }
@@ -60,7 +60,7 @@ public:
     void ConstrainAngle(CPoint origin, CPoint& point, bool flag) override;
     void ConstrainAnglePolar(CPoint origin, CPoint& point) override { ConstrainAngle(origin, point, false); }
     void Snap(const CPoint& in, CPoint& out) override;
-    Platform::CString GetCurrentSelectionDescription() override { return L"Rectangle: "; }
+    KestoPlatform::CString GetCurrentSelectionDescription() override { return L"Rectangle: "; }
     void AddContextItem(int hostCommand) override;
     KestoTool::IDocumentEx* GetDocument() override { return document; }
     void UpdateFill(const CFill* fill, const wchar_t* undoName) override { Record(fill, undoName, false, false); }
@@ -68,8 +68,8 @@ public:
     {
         Record(fill, undoName, true, flag);
     }
-    void SetFillType(const Platform::CRuntimeClass* c) override { typeRequests.push_back(c); }
-    void SetTransparencyType(const Platform::CRuntimeClass* c) override { typeRequests.push_back(c); }
+    void SetFillType(const KestoPlatform::CRuntimeClass* c) override { typeRequests.push_back(c); }
+    void SetTransparencyType(const KestoPlatform::CRuntimeClass* c) override { typeRequests.push_back(c); }
     void NotifyHandlesReset() override { ++handlesResets; }
     double GetAngleSnapTolerance() override { return angleSnapTolerance; }
 

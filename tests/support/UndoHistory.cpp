@@ -5,7 +5,7 @@ namespace KestoTest {
 void UndoHistory::Record(const KestoGDI::CFill* fill)
 {
     m_steps.resize(static_cast<std::size_t>(m_current + 1));
-    m_steps.push_back({Kernel::RefPtr<const KestoGDI::CFill>(fill), fill->Clone()});
+    m_steps.push_back({KestoKernel::RefPtr<const KestoGDI::CFill>(fill), fill->Clone()});
     m_current = Size() - 1;
 }
 

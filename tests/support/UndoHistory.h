@@ -27,8 +27,8 @@ public:
 
 private:
     struct Step {
-        Kernel::RefPtr<const KestoGDI::CFill> shared;
-        Kernel::RefPtr<const KestoGDI::CFill> snapshot;
+        KestoKernel::RefPtr<const KestoGDI::CFill> shared;
+        KestoKernel::RefPtr<const KestoGDI::CFill> snapshot;
     };
     std::vector<Step> m_steps;
     int m_current = -1;

@@ -29,27 +29,27 @@ public:
 
     // The script that the next modal runs play once their dialog is showing; a dialog the
     // script leaves open is cancelled.
-    virtual void SetModalScript(std::function<void(Platform::CDialog&)> script) = 0;
+    virtual void SetModalScript(std::function<void(KestoPlatform::CDialog&)> script) = 0;
     // Keystrokes into the focused window.
-    virtual void Type(const Platform::CString& text) = 0;
+    virtual void Type(const KestoPlatform::CString& text) = 0;
     // A whole new text into the focused edit box at once, as an input method commits it.
-    virtual void EnterText(const Platform::CString& text) = 0;
+    virtual void EnterText(const KestoPlatform::CString& text) = 0;
     virtual void PressKey(unsigned key) = 0;
-    virtual void MoveFocus(Platform::CWnd* window) = 0;
+    virtual void MoveFocus(KestoPlatform::CWnd* window) = 0;
     // Drags the slider's thumb to pos and lets go.
-    virtual void DragSlider(Platform::CSliderCtrl& slider, int pos) = 0;
-    virtual void ClickSpin(Platform::CSpinButtonCtrl& spin, bool up) = 0;
+    virtual void DragSlider(KestoPlatform::CSliderCtrl& slider, int pos) = 0;
+    virtual void ClickSpin(KestoPlatform::CSpinButtonCtrl& spin, bool up) = 0;
     // Clicks the button with that id in the dialog.
-    virtual void ClickButton(Platform::CWnd& dialog, int id) = 0;
+    virtual void ClickButton(KestoPlatform::CWnd& dialog, int id) = 0;
     virtual void AdvanceClock(int milliseconds) = 0;
     // Presses the left button at from in the window (client dialog units), drags through to
     // and lets go there, holding the MK_ keys in flags.
-    virtual void DragMouse(Platform::CWnd& window, Platform::CPoint from, Platform::CPoint to, unsigned flags = 0) = 0;
+    virtual void DragMouse(KestoPlatform::CWnd& window, KestoPlatform::CPoint from, KestoPlatform::CPoint to, unsigned flags = 0) = 0;
     // Picks an item of the drop-down list.
-    virtual void SelectItem(Platform::CComboBox& combo, int index) = 0;
+    virtual void SelectItem(KestoPlatform::CComboBox& combo, int index) = 0;
     // What the user picks in the colour chooser from now on (nothing cancels); null for no
     // script.
-    using ColourScript = std::function<std::optional<Platform::COLORREF>(Platform::COLORREF initial)>;
+    using ColourScript = std::function<std::optional<KestoPlatform::COLORREF>(KestoPlatform::COLORREF initial)>;
     virtual void SetColourScript(ColourScript script) = 0;
 };
 

@@ -46,7 +46,7 @@ TEST_F(ModuleTest, BuiltInTextsAreExactToTheByte)
 {
     Module& m = Module::Get();
     EXPECT_FALSE(m.IsLocalised());  // none lies beside the library in the build tree
-    EXPECT_EQ(m.LoadString(117), Platform::CString(L"original"));
+    EXPECT_EQ(m.LoadString(117), KestoPlatform::CString(L"original"));
     EXPECT_EQ(m.LoadString(116).Str(), L"Edit the selected object's fill properties.\nFill editor dialog\nEdit Fill");
     EXPECT_EQ(m.LoadString(124).Str(), L"Adjust the transparency/opacity \rof the selected handle.\nHandle Opacity");
     EXPECT_NE(m.LoadString(111).Str().find(L"selection.  Drag"), std::wstring::npos);
@@ -56,9 +56,9 @@ TEST_F(ModuleTest, BuiltInTextsAreExactToTheByte)
 
 TEST_F(ModuleTest, UnknownIdsHaveNoText)
 {
-    Platform::CString out(L"untouched");
+    KestoPlatform::CString out(L"untouched");
     EXPECT_FALSE(Module::Get().LoadString(99, out));
-    EXPECT_EQ(out, Platform::CString(L"untouched"));
+    EXPECT_EQ(out, KestoPlatform::CString(L"untouched"));
     EXPECT_TRUE(Module::Get().LoadString(175).IsEmpty());
     EXPECT_TRUE(Module::Get().LoadString(25497).IsEmpty());
 }
@@ -68,11 +68,11 @@ TEST_F(ModuleTest, LocalisedModuleTextsReplaceBuiltInOnes)
     Module& m = Module::Get();
     ASSERT_TRUE(m.UseLocalisedModule(KESTO_TEST_LOC_MODULE));
     EXPECT_TRUE(m.IsLocalised());
-    EXPECT_EQ(m.LoadString(117), Platform::CString(L"Original"));
-    EXPECT_EQ(m.LoadString(123), Platform::CString(L"F\u00fcllung drehen"));
-    EXPECT_EQ(m.LoadString(131), Platform::CString(L"Rotate Transparency"));  // not translated
+    EXPECT_EQ(m.LoadString(117), KestoPlatform::CString(L"Original"));
+    EXPECT_EQ(m.LoadString(123), KestoPlatform::CString(L"F\u00fcllung drehen"));
+    EXPECT_EQ(m.LoadString(131), KestoPlatform::CString(L"Rotate Transparency"));  // not translated
     m.UseBuiltInResources();
-    EXPECT_EQ(m.LoadString(117), Platform::CString(L"original"));
+    EXPECT_EQ(m.LoadString(117), KestoPlatform::CString(L"original"));
 }
 
 TEST_F(ModuleTest, MissingLocalisedModuleKeepsTheCurrentResources)
@@ -80,15 +80,15 @@ TEST_F(ModuleTest, MissingLocalisedModuleKeepsTheCurrentResources)
     Module& m = Module::Get();
     EXPECT_FALSE(m.UseLocalisedModule("/nonexistent/libKestoToolLoc.so"));
     EXPECT_FALSE(m.IsLocalised());
-    EXPECT_EQ(m.LoadString(117), Platform::CString(L"original"));
+    EXPECT_EQ(m.LoadString(117), KestoPlatform::CString(L"original"));
 }
 
 TEST_F(ModuleTest, TheLibraryJoinsTheResourceChainWhenLoaded)
 {
-    EXPECT_TRUE(Platform::CResourceModule::IsInChain(&Module::Get()));
-    Platform::CString text;
-    ASSERT_TRUE(Platform::CResourceModule::FindString(123, text));
-    EXPECT_EQ(text, Platform::CString(L"Rotate Fill"));
+    EXPECT_TRUE(KestoPlatform::CResourceModule::IsInChain(&Module::Get()));
+    KestoPlatform::CString text;
+    ASSERT_TRUE(KestoPlatform::CResourceModule::FindString(123, text));
+    EXPECT_EQ(text, KestoPlatform::CString(L"Rotate Fill"));
     EXPECT_NE(Module::GetLibraryPath().find(L"libKestoTool.so"), std::wstring::npos);
 }
 
@@ -106,14 +106,14 @@ TEST_F(ModuleTest, ABrokenOrOpenModuleIsCheckedBeforeLoadingAndReportedOnce)
         {"writable by the group", -1, true},
     };
     for (const auto& row : rows) {
-        std::vector<Kernel::VerifyReport> reports;
-        Kernel::ScopedVerifyHandler recorder([&](const Kernel::VerifyReport& r) { reports.push_back(r); });
+        std::vector<KestoKernel::VerifyReport> reports;
+        KestoKernel::ScopedVerifyHandler recorder([&](const KestoKernel::VerifyReport& r) { reports.push_back(r); });
         const std::string path = CopyOfModule("libKestoToolLoc.so", row.size);
         if (row.groupWritable)
             std::filesystem::permissions(path, std::filesystem::perms::group_write, std::filesystem::perm_options::add);
         EXPECT_FALSE(m.UseLocalisedModule(path)) << row.name;
         EXPECT_FALSE(m.IsLocalised()) << row.name;
-        EXPECT_EQ(m.LoadString(117), Platform::CString(L"original")) << row.name;
+        EXPECT_EQ(m.LoadString(117), KestoPlatform::CString(L"original")) << row.name;
         ASSERT_EQ(reports.size(), 1u) << row.name;
         EXPECT_NE(reports[0].hint.find(path), std::string::npos) << row.name;
     }

@@ -19,8 +19,8 @@ const wchar_t kKey3[] = L"k3";
 
 class ToolIdMapTest : public testing::Test {
 protected:
-    Kernel::ScopedVerifyHandler recorder{[this](const Kernel::VerifyReport& r) { reports.push_back(r); }};
-    std::vector<Kernel::VerifyReport> reports;
+    KestoKernel::ScopedVerifyHandler recorder{[this](const KestoKernel::VerifyReport& r) { reports.push_back(r); }};
+    std::vector<KestoKernel::VerifyReport> reports;
     ToolIdMap map;
 
     std::vector<int> Lines() const

@@ -22,7 +22,7 @@ std::vector<char> ReadFile(const char* path)
 
 std::wstring Wide(const char* s)
 {
-    return Platform::CString::FromUtf8(s).Str();
+    return KestoPlatform::CString::FromUtf8(s).Str();
 }
 
 } // namespace
@@ -164,8 +164,8 @@ TEST(WadManager, APngChunkLongerThanTheDataIsRefusedBeforeItIsAllocated)
 
 TEST(WadManager, AMissingArchiveIsReportedOnceWithItsPath)
 {
-    std::vector<Kernel::VerifyReport> reports;
-    Kernel::ScopedVerifyHandler recorder([&](const Kernel::VerifyReport& r) { reports.push_back(r); });
+    std::vector<KestoKernel::VerifyReport> reports;
+    KestoKernel::ScopedVerifyHandler recorder([&](const KestoKernel::VerifyReport& r) { reports.push_back(r); });
     const WadManager& wad = WadManager::GetInstance();
     EXPECT_FALSE(wad.OpenArchiveAt(L"/nonexistent/libKestoTool.wad").IsOpen());
     EXPECT_FALSE(wad.OpenArchiveAt(L"/nonexistent/libKestoTool.wad").Load(L"Icons\\96\\Edit Fill.png"));

@@ -25,7 +25,7 @@
 #include <gtest/gtest.h>
 
 using KestoDraw::MainWindow;
-using Platform::CPoint;
+using KestoPlatform::CPoint;
 
 namespace {
 
@@ -76,7 +76,7 @@ protected:
 TEST_F(KestoDrawWindow, GesturesDropsKeysAndTheTypeBoxEachMakeOneUndoStep)
 {
     const KestoGDI::CFill& original = FillOf(*window, 0);
-    Kernel::RefPtr<const KestoGDI::CFill> sampleFill(&original);
+    KestoKernel::RefPtr<const KestoGDI::CFill> sampleFill(&original);
     QUndoStack& undo = window->Undo();
     Step("click 550 525");
     ASSERT_EQ(window->GetCanvas().Selected(), 0);
@@ -88,7 +88,7 @@ TEST_F(KestoDrawWindow, GesturesDropsKeysAndTheTypeBoxEachMakeOneUndoStep)
     EXPECT_EQ(undo.text(0), "Edit Fill");
     EXPECT_EQ(FillOf(*window, 0).GetControlPoint(0), Kesto2D::K2DDblPoint(200, 300));
     EXPECT_EQ(FillOf(*window, 0).GetControlPoint(1), Kesto2D::K2DDblPoint(900, 700));
-    Kernel::RefPtr<const KestoGDI::CFill> drawn(&FillOf(*window, 0));
+    KestoKernel::RefPtr<const KestoGDI::CFill> drawn(&FillOf(*window, 0));
 
     // The stop at 30% dragged to the middle: many commits while it moves, one step.
     Step("drag 410 420 550 500");
@@ -99,7 +99,7 @@ TEST_F(KestoDrawWindow, GesturesDropsKeysAndTheTypeBoxEachMakeOneUndoStep)
     Step("drop 4 760 620");
     ASSERT_EQ(undo.count(), 3);
     EXPECT_EQ(StopPositions(FillOf(*window, 0)), (std::vector<int>{0, 5000, 6500, 8000, 10000}));
-    Kernel::RefPtr<const KestoGDI::CFill> dropped(&FillOf(*window, 0));
+    KestoKernel::RefPtr<const KestoGDI::CFill> dropped(&FillOf(*window, 0));
 
     for (int i = 0; i < 3; ++i)
         undo.undo();
@@ -143,8 +143,8 @@ TEST_F(KestoDrawWindow, EditFillOpensTheEditorAndOnlyOKChangesTheDrawing)
 {
     Step("click 550 525");
     KestoTest::UserInput& input = KestoTest::QtUserInput();
-    for (const int button : {Platform::IDCANCEL, Platform::IDOK}) {
-        input.SetModalScript([&](Platform::CDialog& dialog) {
+    for (const int button : {KestoPlatform::IDCANCEL, KestoPlatform::IDOK}) {
+        input.SetModalScript([&](KestoPlatform::CDialog& dialog) {
             auto* editor = dynamic_cast<KestoTool::CGradientFillDlg*>(&dialog);
             ASSERT_NE(editor, nullptr);
             editor->GetBar().Select(1);
@@ -162,7 +162,7 @@ TEST_F(KestoDrawWindow, ShapesAreDrawnAndAShapeWithoutAToolGetsALinearFillFromAD
     Step("mode rectangle");
     Step("drag 3000 2950 3600 2600");
     ASSERT_EQ(window->GetDocument().shapes.size(), 13u);
-    EXPECT_EQ(window->GetDocument().shapes.back().box, Platform::CRect(3000, 2600, 3600, 2950));
+    EXPECT_EQ(window->GetDocument().shapes.back().box, KestoPlatform::CRect(3000, 2600, 3600, 2950));
     EXPECT_EQ(window->GetCanvas().Tool(), nullptr);  // a plain colour has no tool
     Step("mode select");
     Step("drag 3050 2700 3550 2700");

@@ -1,0 +1,177 @@
+// FillTool's handle and control-line drawing on both render paths.
+#include "kestotool/filltool/FillTool.h"
+
+#include "kestotool/geometry/Rounding.h"
+
+#include <optional>
+#include <vector>
+
+namespace KestoTool {
+namespace {
+
+using KestoGDI::RenderBrush;
+using KestoGDI::RenderPen;
+
+constexpr COLORREF kHaloColour = 0xFFFFFF;
+constexpr int kHaloAlpha = 192;
+
+// One layer of a handle, drawn outermost first: a disc (or square) of the radius, filled with
+// the brush if any, outlined with the pen if any.
+struct HandleLayer {
+    double radius;
+    std::optional<RenderBrush> fill;
+    std::optional<RenderPen> pen;
+};
+
+// The look of a handle, the same on both render paths. s is one pixel in target units.
+std::vector<HandleLayer> HandleLayers(bool outlineOnly, bool selected, COLORREF colour, COLORREF toolColour, double s)
+{
+    const double r0 = s * FillTool::s_nHandleSize * 0.5;
+    const RenderPen outline{toolColour, 255, s};
+    if (outlineOnly)
+        return {{r0 + 5 * s, RenderBrush{0x000000, 255}, std::nullopt}};
+    if (selected) {
+        // A small colour dot inside a ring, with a wide halo.
+        return {{r0 + 4.5 * s, RenderBrush{kHaloColour, kHaloAlpha}, std::nullopt},
+                {r0 - 0.5 * s, RenderBrush{colour, 255}, std::nullopt},
+                {r0 + 2 * s, std::nullopt, outline}};
+    }
+    return {{r0 + 2.5 * s, RenderBrush{kHaloColour, kHaloAlpha}, std::nullopt},
+            {r0, RenderBrush{colour, 255}, outline}};
+}
+
+// The strokes of a control line, the same on both render paths: a white halo, wider while a
+// colour is dragged over a highlighted line, then the line itself unless only outlines are drawn.
+std::vector<RenderPen> LinePasses(bool outlineOnly, bool wideHalo, COLORREF toolColour, double s)
+{
+    std::vector<RenderPen> passes{{kHaloColour, kHaloAlpha, (wideHalo ? 6 : 3) * s}};
+    if (!outlineOnly)
+        passes.push_back({toolColour, 255, s});
+    return passes;
+}
+
+// A transparency's grey levels show as their complement.
+COLORREF Inverted(COLORREF c)
+{
+    return KestoPlatform::RGB(255 - KestoPlatform::GetRValue(c), 255 - KestoPlatform::GetGValue(c), 255 - KestoPlatform::GetBValue(c));
+}
+
+int Radius(double r)
+{
+    return Kesto2D::RoundHalfAwayFromZero(r);
+}
+
+COLORREF ToolColour(const FillTool& tool)
+{
+    return static_cast<COLORREF>(tool.GetToolColour() & 0xFFFFFF);
+}
+
+// The handle's face colour as shown: complemented for a transparency.
+COLORREF Face(const FillTool& tool, unsigned long colour)
+{
+    const auto c = static_cast<COLORREF>(colour & 0xFFFFFF);
+    return tool.IsTransparency() ? Inverted(c) : c;
+}
+
+std::vector<RenderPen> Passes(const FillTool& tool, bool outlineOnly, bool highlight, double s)
+{
+    return LinePasses(outlineOnly, highlight && tool.HasGhostNode(), ToolColour(tool), s);
+}
+
+K2DArrayPoint Mapped(const K2DArrayPoint& points, const K2DLtGeneral& t)
+{
+    K2DArrayPoint mapped;
+    for (const CPoint& p : points)
+        mapped.Add(t.ApplyTo(p));
+    return mapped;
+}
+
+} // namespace
+
+void FillTool::DrawBoxControl(IRenderTarget* target, bool outlineOnly, const CPoint& point, unsigned long colour,
+                              int index) const
+{
+    const CPoint c = m_viewTransform.ApplyTo(point);
+    const bool selected = index >= 0 && index == GetCurrentNode();
+    const double s = target->ScalePixels(1);
+    for (const HandleLayer& layer : HandleLayers(outlineOnly, selected, Face(*this, colour), ToolColour(*this), s)) {
+        if (layer.fill)
+            target->DrawDisc(c, Radius(layer.radius), *layer.fill, layer.pen);
+        else
+            target->DrawCircle(c, Radius(layer.radius), *layer.pen);
+    }
+}
+
+void FillTool::DrawBoxControl(IRenderTarget* target, bool outlineOnly, const CPoint& point, const CColour* colour,
+                              int index) const
+{
+    DrawBoxControl(target, outlineOnly, point, colour ? colour->GetRGB() : 0, index);
+}
+
+void FillTool::DrawBoxControl(CRenderContext* context, const CPoint& point, unsigned long colour, int index) const
+{
+    const CPoint c = m_viewTransform.ApplyTo(point);
+    const bool selected = index >= 0 && index == GetCurrentNode();
+    const double s = context->ScalePixels(1);
+    for (const HandleLayer& layer : HandleLayers(false, selected, Face(*this, colour), ToolColour(*this), s)) {
+        CRect square(c, c);
+        square.InflateRect(Radius(layer.radius), Radius(layer.radius));
+        KestoGDI::CBrushSession brush(*context, layer.fill);
+        KestoGDI::CPenSession pen(*context, layer.pen);
+        context->Rectangle(square);
+    }
+}
+
+void FillTool::DrawControlLine(IRenderTarget* target, bool outlineOnly, const CPoint& a, const CPoint& b,
+                               bool highlight) const
+{
+    const CPoint ta = m_viewTransform.ApplyTo(a);
+    const CPoint tb = m_viewTransform.ApplyTo(b);
+    for (const RenderPen& pen : Passes(*this, outlineOnly, highlight, target->ScalePixels(1)))
+        target->DrawLine(ta, tb, pen);
+}
+
+void FillTool::DrawControlLine(IRenderTarget* target, bool outlineOnly, K2DCurve&& curve, bool highlight) const
+{
+    curve.Transform(m_viewTransform);
+    for (const RenderPen& pen : Passes(*this, outlineOnly, highlight, target->ScalePixels(1)))
+        target->DrawCurve(curve, pen);
+}
+
+void FillTool::DrawControlLine(IRenderTarget* target, bool outlineOnly, const K2DArrayPoint& points,
+                               bool highlight) const
+{
+    const K2DArrayPoint mapped = Mapped(points, m_viewTransform);
+    for (const RenderPen& pen : Passes(*this, outlineOnly, highlight, target->ScalePixels(1)))
+        target->DrawPolyline(mapped, pen);
+}
+
+void FillTool::DrawControlLine(CRenderContext* context, const CPoint& a, const CPoint& b, bool highlight) const
+{
+    const CPoint ta = m_viewTransform.ApplyTo(a);
+    const CPoint tb = m_viewTransform.ApplyTo(b);
+    for (const RenderPen& pen : Passes(*this, false, highlight, context->ScalePixels(1))) {
+        KestoGDI::CPenSession session(*context, pen);
+        context->Line(ta, tb);
+    }
+}
+
+void FillTool::DrawControlLine(CRenderContext* context, K2DCurve&& curve, bool highlight) const
+{
+    curve.Transform(m_viewTransform);
+    for (const RenderPen& pen : Passes(*this, false, highlight, context->ScalePixels(1))) {
+        KestoGDI::CPenSession session(*context, pen);
+        context->Curve(curve);
+    }
+}
+
+void FillTool::DrawControlLine(CRenderContext* context, const K2DArrayPoint& points, bool highlight) const
+{
+    const K2DArrayPoint mapped = Mapped(points, m_viewTransform);
+    for (const RenderPen& pen : Passes(*this, false, highlight, context->ScalePixels(1))) {
+        KestoGDI::CPenSession session(*context, pen);
+        context->Polyline(mapped);
+    }
+}
+
+} // namespace KestoTool

@@ -1,0 +1,218 @@
+#include "kestotool/filltool/FillToolFourColour.h"
+
+#include "kestotool/gdi/CFillFourColour.h"
+#include "kestotool/geometry/CoordinateRange.h"
+#include "kestotool/geometry/K2DGeometry.h"
+#include "kestotool/geometry/K2DStraightLine.h"
+#include "kestotool/kernel/VerifyReporter.h"
+
+namespace KestoTool {
+
+KESTO_IMPLEMENT_DYNAMIC(FillToolFourColour, FillToolGradient)
+
+namespace {
+
+constexpr const char* kModule = "FillToolFourColour";
+
+void ReportNoFill(int line)
+{
+    KestoKernel::VerifyFailed("KestoTool", kModule, line, "the tool has no fill: give it one");
+}
+
+// p moved by the double offset v, rounded half away from zero into the coordinate range.
+CPoint Moved(CPoint p, const Kesto2D::K2DVector& v)
+{
+    return Kesto2D::SaturateToRange(K2DDblPoint(p) + v).Round();
+}
+
+Kesto2D::K2DVector Between(CPoint from, CPoint to)
+{
+    return {static_cast<double>(to.x) - from.x, static_cast<double>(to.y) - from.y};
+}
+
+// Where the edge through start and end meets the line through corner and along, else keep.
+CPoint OnEdge(CPoint start, CPoint end, const K2DDblPoint& corner, const K2DDblPoint& along, CPoint keep)
+{
+    Kesto2D::K2DStraightLine edge, side;
+    K2DDblPoint where;
+    if (edge.SetInfinite(K2DDblPoint(start), K2DDblPoint(end)) && side.SetInfinite(corner, along) &&
+        edge.Intersect(side, where, 1e-05))
+        return Kesto2D::SaturateToRange(where).Round();
+    return keep;
+}
+
+} // namespace
+
+bool FillToolFourColour::GetCorners(const CFill* fill, Corners& corners) const
+{
+    const auto* four = FillOfKind<KestoGDI::CFillFourColour>(fill);
+    if (!four)
+        return false;
+    corners = {four->GetControlPoint(0).Round(), four->GetControlPoint(1).Round(), four->GetControlPoint(2).Round(),
+               four->GetControlPoint(3).Round()};
+    return true;
+}
+
+void FillToolFourColour::SetCorners(const Corners& c)
+{
+    if (auto* four = dynamic_cast<KestoGDI::CFillFourColour*>(GetWorkingFill()))
+        four->SetControls(K2DDblPoint(c.p0), K2DDblPoint(c.p1), K2DDblPoint(c.p2), K2DDblPoint(c.p3));
+}
+
+void FillToolFourColour::OnDragStart(CPoint& point, unsigned int flags)
+{
+    if (!GetFill()) {
+        ReportNoFill(__LINE__);
+        return;
+    }
+    FillTool::OnDragStart(point, flags);
+    GetCorners(nullptr, m_atPress);
+    SetCurrentNode(IndexFromPoint(point));
+}
+
+void FillToolFourColour::OnDragChange(CPoint& point, unsigned int flags)
+{
+    if (!CheckDragStarted())
+        return;
+    const bool shift = (flags & DragFlagShift) != 0;
+    const bool ctrl = (flags & DragFlagCtrl) != 0;
+    const bool creating = IsCreate();
+    const Corners& s = m_atPress;
+    const int node = GetCurrentNode();
+    CPoint anchor = GetDragStart();
+    if (creating && ctrl)
+        anchor = GetCreateCentre(anchor);
+    if (shift) {
+        // Constrained from the dragged corner's own start (handles go P0, P1, P3, P2).
+        if (!creating && node >= 0 && node <= 3) {
+            const CPoint starts[] = {s.p0, s.p1, s.p3, s.p2};
+            anchor = starts[node];
+        }
+        SnapAnglePoint(anchor, point, false);
+    }
+    const int selector = creating ? -1 : node == 3 ? 2 : node == 1 ? 1 : 0;
+    const CPoint perpendicular = CalculatePerpendicular(s.p0, s.p1, s.p2, anchor, point, selector == 1, selector == 2);
+    Kesto2D::K2DVector d = Between(anchor, point);
+    const Kesto2D::K2DVector e = Between(anchor, perpendicular);
+    if (creating) {
+        const CPoint fourth = Moved(point, e);  // taken before anything snaps
+        Snap(anchor, anchor);
+        if (!shift)
+            Snap(point, point);
+        SetCorners({anchor, point, perpendicular, fourth});
+        SetCurrentNode(1);
+        return;
+    }
+    Corners moved = s;
+    if (node == 0) {
+        moved = {Moved(s.p0, d), Moved(s.p1, d), Moved(s.p2, d), Moved(s.p3, d)};
+        if (!shift)
+            Snap(moved.p0, moved.p0);
+    } else if (node == 1 || node == 3) {
+        // P1 (node 1) or P2 (node 3) follows the pointer; the other neighbour turns with it, or
+        // with Ctrl moves by the perpendicular offset.
+        const bool p1 = node == 1;
+        const Arms arms = DragArmEnd(s.p0, p1 ? s.p1 : s.p2, p1 ? s.p2 : s.p1, anchor, point, perpendicular, shift, ctrl);
+        (p1 ? moved.p1 : moved.p2) = arms.dragged;
+        (p1 ? moved.p2 : moved.p1) = arms.other;
+        moved.p3 = ctrl ? Moved(s.p3, d + e) : Moved(moved.p1, Between(moved.p0, moved.p2));
+    } else if (node == 2) {
+        if (ctrl) {
+            // Along the diagonal through P0 only: the foot of the perpendicular from the pointer.
+            Kesto2D::K2DStraightLine diagonal;
+            if (diagonal.SetInfinite(K2DDblPoint(s.p0), K2DDblPoint(s.p3))) {
+                const K2DDblPoint foot = diagonal.IntersectPerp(K2DDblPoint(point));
+                d = foot - K2DDblPoint(s.p3);
+                moved.p3 = Kesto2D::SaturateToRange(foot).Round();
+            }
+        } else {
+            moved.p3 = Moved(s.p3, d);
+            if (!shift)
+                Snap(moved.p3, moved.p3);
+        }
+        // The neighbours slide along their edges from P0 so that the sides stay parallel.
+        const K2DDblPoint corner(moved.p3);
+        moved.p2 = OnEdge(s.p0, s.p2, corner, K2DDblPoint(s.p2) + d, s.p2);
+        moved.p1 = OnEdge(s.p0, s.p1, corner, K2DDblPoint(s.p1) + d, s.p1);
+    } else {
+        KestoKernel::VerifyFailed("KestoTool", kModule, __LINE__, "a drag needs a corner handle as the current node");
+    }
+    SetCorners(moved);
+}
+
+void FillToolFourColour::Draw(IRenderTarget* target, bool outlineOnly, const K2DLtGeneral& view) const
+{
+    if (!target || !GetFill()) {
+        ReportNoFill(__LINE__);
+        return;
+    }
+    FillTool::Draw(target, outlineOnly, view);
+    DrawCorners(target, outlineOnly);
+}
+
+void FillToolFourColour::Draw(CRenderContext* context) const
+{
+    if (!context || !GetFill()) {
+        ReportNoFill(__LINE__);
+        return;
+    }
+    DrawCorners(context);
+}
+
+CRect FillToolFourColour::GetFillRect(const CFill* fill)
+{
+    Corners c;
+    if (!fill && !GetFill()) {
+        ReportNoFill(__LINE__);
+        return {};
+    }
+    if (!GetCorners(fill, c))
+        return {};
+    K2DArrayPoint corners;
+    for (const CPoint& p : {c.p0, c.p2, c.p3, c.p1})
+        corners.Add(p);
+    return corners.GetBBox();
+}
+
+int FillToolFourColour::GetHintLine(CString* out) const
+{
+    return EmptyHint(out);
+}
+
+void FillToolFourColour::BaseGetHandles(K2DArrayPoint* handles) const
+{
+    Corners c;
+    if (!GetCorners(nullptr, c))
+        return;
+    for (const CPoint& p : {c.p0, c.p1, c.p3, c.p2})
+        handles->Add(p);
+}
+
+bool FillToolFourColour::CheckSize() const
+{
+    Corners c;
+    if (!GetFill()) {
+        ReportNoFill(__LINE__);
+        return false;
+    }
+    using Kesto2D::K2DGeometry::IDist;
+    return GetCorners(nullptr, c) && IDist(c.p2, c.p3) >= 50 && IDist(c.p2, c.p0) >= 50;
+}
+
+K2DArrayPoint FillToolFourColour::GetEffectiveBBox(const CFill* fill)
+{
+    Corners c;
+    K2DArrayPoint outline;
+    if (!fill && !GetFill()) {
+        ReportNoFill(__LINE__);
+        return outline;
+    }
+    if (!GetCorners(fill, c))
+        return outline;
+    for (const CPoint& p : {c.p2, c.p3, c.p1, c.p0})
+        outline.Add(p);
+    outline.AddClose(0);
+    return outline;
+}
+
+} // namespace KestoTool

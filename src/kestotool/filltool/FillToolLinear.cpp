@@ -1,0 +1,195 @@
+#include "kestotool/filltool/FillToolLinear.h"
+
+#include "kestotool/gdi/CFillLinear.h"
+#include "kestotool/geometry/CoordinateRange.h"
+#include "kestotool/geometry/K2DGeometry.h"
+#include "kestotool/kernel/VerifyReporter.h"
+#include "kestotool/resources/ResourceIds.h"
+
+#include <algorithm>
+
+namespace KestoTool {
+
+KESTO_IMPLEMENT_DYNAMIC(FillToolLinear, FillToolGradient)
+
+namespace {
+
+// Hint-line string ids: fill, transparency.
+constexpr int kHintCreate[] = {IDS_HINT_LINEAR_CREATE_FILL, IDS_HINT_LINEAR_CREATE_TRANSPARENCY};
+constexpr int kHintNoNode[] = {IDS_HINT_LINEAR_NO_NODE_FILL, IDS_HINT_LINEAR_NO_NODE_TRANSPARENCY};
+constexpr int kHintEndDragging[] = {IDS_HINT_LINEAR_END_DRAGGING_FILL, IDS_HINT_LINEAR_END_DRAGGING_TRANSPARENCY};
+constexpr int kHintEndOver[] = {IDS_HINT_LINEAR_END_OVER_FILL, IDS_HINT_LINEAR_END_OVER_TRANSPARENCY};
+constexpr int kHintInnerDragging[] = {IDS_HINT_LINEAR_INNER_DRAGGING_FILL,
+                                      IDS_HINT_LINEAR_INNER_DRAGGING_TRANSPARENCY};
+constexpr int kHintInnerOver[] = {IDS_HINT_LINEAR_INNER_OVER_FILL, IDS_HINT_LINEAR_INNER_OVER_TRANSPARENCY};
+
+} // namespace
+
+bool FillToolLinear::GetLine(const CFill* fill, CPoint& start, CPoint& end) const
+{
+    const auto* linear = FillOfKind<KestoGDI::CFillLinear>(fill);
+    if (!linear)
+        return false;
+    start = linear->GetStart().Round();
+    end = linear->GetEnd().Round();
+    return true;
+}
+
+void FillToolLinear::SetLine(const CPoint& start, const CPoint& end)
+{
+    if (auto* linear = dynamic_cast<KestoGDI::CFillLinear*>(GetWorkingFill()))
+        linear->SetControls(K2DDblPoint(start), K2DDblPoint(end));
+}
+
+void FillToolLinear::OnDragStart(CPoint& point, unsigned int flags)
+{
+    FillTool::OnDragStart(point, flags);
+    const int h = IndexFromPoint(point);
+    SetCurrentNode(h);
+    if (h < 0 || h >= GetNumGradientNodes())
+        SetCurrentNode(GetNumGradientNodes() - 1);
+    GetLine(nullptr, m_startAtPress, m_endAtPress);
+}
+
+void FillToolLinear::OnDragChange(CPoint& point, unsigned int flags)
+{
+    if (!CheckDragStarted())
+        return;
+    const bool shift = (flags & DragFlagShift) != 0;
+    const bool creating = IsCreate();
+    CPoint press = GetDragStart();
+    if (creating && (flags & DragFlagCtrl))
+        press = GetCreateCentre(press);
+    if (shift) {
+        CPoint anchor = m_startAtPress;
+        if (creating) {
+            anchor = press;
+        } else if (IsFirstNode()) {
+            anchor = m_endAtPress;
+            press = m_startAtPress;
+        } else if (IsLastNode()) {
+            press = m_endAtPress;
+        }
+        SnapAnglePoint(anchor, point, false);
+    }
+    if (creating) {
+        // A click without a move still makes a line the user can see and grab.
+        if (point == press)
+            point = Kesto2D::OffsetPoint(point, 50, 50);
+        Snap(press, press);
+        if (!shift)
+            Snap(point, point);
+        SetCurrentNode(GetNumGradientNodes() - 1);
+        SetLine(press, point);
+        return;
+    }
+    const long long dx = static_cast<long long>(point.x) - press.x;
+    const long long dy = static_cast<long long>(point.y) - press.y;
+    if (IsFirstNode()) {
+        CPoint start = Kesto2D::OffsetPoint(m_startAtPress, dx, dy);
+        if (!shift)
+            Snap(start, start);
+        SetLine(start, m_endAtPress);
+    } else if (IsLastNode()) {
+        CPoint end = Kesto2D::OffsetPoint(m_endAtPress, dx, dy);
+        if (!shift)
+            Snap(end, end);
+        SetLine(m_startAtPress, end);
+    } else {
+        // The stop may overtake a neighbour; the current node keeps its number regardless.
+        SetGradientValue(GetCurrentNode(), GetPercentageFromPoint(point));
+    }
+}
+
+void FillToolLinear::Draw(IRenderTarget* target, bool outlineOnly, const K2DLtGeneral& view) const
+{
+    FillTool::Draw(target, outlineOnly, view);
+    CPoint s, e;
+    if (!GetLine(nullptr, s, e))
+        return;
+    DrawControlLine(target, outlineOnly, s, e, true);
+    const KestoGDI::ColourIntPairs& stops = GetGradientNodes();
+    for (int i = 0; i < stops.GetSize(); ++i)
+        DrawBoxControl(target, outlineOnly, stops.GetAt(i)->GetValue(s, e), &stops.GetAt(i)->GetColour(), i);
+}
+
+void FillToolLinear::Draw(CRenderContext* context) const
+{
+    CPoint s, e;
+    if (!GetLine(nullptr, s, e))
+        return;
+    DrawControlLine(context, s, e, false);
+    const KestoGDI::ColourIntPairs& stops = GetGradientNodes();
+    for (int i = 0; i < stops.GetSize(); ++i)
+        DrawBoxControl(context, stops.GetAt(i)->GetValue(s, e), stops.GetAt(i)->GetColour().GetRGB(), i);
+}
+
+CRect FillToolLinear::GetFillRect(const CFill* fill)
+{
+    CPoint s, e;
+    if (!fill && !GetFill()) {
+        KestoKernel::VerifyFailed("KestoTool", "FillToolLinear", 153, "the tool has no fill: pass one");
+        return {};
+    }
+    if (!GetLine(fill, s, e))
+        return {};
+    return {s.x, s.y, e.x, e.y};
+}
+
+K2DArrayPoint FillToolLinear::GetEffectiveBBox(const CFill* fill)
+{
+    CPoint s, e;
+    if (!fill && !GetFill()) {
+        KestoKernel::VerifyFailed("KestoTool", "FillToolLinear", 126, "the tool has no fill: pass one");
+        return {};
+    }
+    if (!GetLine(fill, s, e))
+        return {};
+    return SquareOnLine(s, e);
+}
+
+int FillToolLinear::GetHintLine(CString* out) const
+{
+    const int* ids = kHintNoNode;
+    const int c = GetCurrentNode();
+    const bool dragging = IsInDrag();
+    if (IsCreate())
+        ids = kHintCreate;
+    else if (c == -1)
+        ids = kHintNoNode;
+    else if (IsFirstNode() || IsLastNode())
+        ids = dragging ? kHintEndDragging : kHintEndOver;
+    else
+        ids = dragging ? kHintInnerDragging : kHintInnerOver;
+    ComposeHintLine(out, ids[0], ids[1]);
+    return 1;
+}
+
+void FillToolLinear::BaseGetHandles(K2DArrayPoint* handles) const
+{
+    CPoint s, e;
+    if (GetLine(nullptr, s, e))
+        AddGradientHandles(handles, s, e);
+}
+
+bool FillToolLinear::IsPointOnLine(const CPoint& point, int tolerance) const
+{
+    CPoint s, e;
+    return GetLine(nullptr, s, e) && IsPointOnNodeLine(s, e, point, tolerance);
+}
+
+int FillToolLinear::GetPercentageFromPoint(CPoint point) const
+{
+    CPoint s, e;
+    if (!GetLine(nullptr, s, e))
+        return 1;
+    return std::clamp(GetNodeValueFromPoints(s, e, point), 1, 9999);
+}
+
+bool FillToolLinear::CheckSize() const
+{
+    CPoint s, e;
+    return GetLine(nullptr, s, e) && Kesto2D::K2DGeometry::IDist(s, e) > 49;
+}
+
+} // namespace KestoTool

@@ -1,0 +1,169 @@
+#include "kestotool/filltool/FillToolRadial.h"
+
+#include "kestotool/filltool/RoundToolHints.h"
+#include "kestotool/gdi/CFillRadial.h"
+#include "kestotool/geometry/CoordinateRange.h"
+#include "kestotool/geometry/K2DCurve.h"
+#include "kestotool/geometry/K2DGeometry.h"
+#include "kestotool/kernel/VerifyReporter.h"
+
+#include <algorithm>
+
+namespace KestoTool {
+
+KESTO_IMPLEMENT_DYNAMIC(FillToolRadial, FillToolGradient)
+
+bool FillToolRadial::GetCircle(const CFill* fill, CPoint& centre, CPoint& rim) const
+{
+    const auto* radial = FillOfKind<KestoGDI::CFillRadial>(fill);
+    if (!radial)
+        return false;
+    centre = radial->GetCentre().Round();
+    rim = radial->GetEnd().Round();
+    return true;
+}
+
+void FillToolRadial::SetCircle(const CPoint& centre, const CPoint& rim)
+{
+    if (auto* radial = dynamic_cast<KestoGDI::CFillRadial*>(GetWorkingFill()))
+        radial->SetControls(K2DDblPoint(centre), K2DDblPoint(rim));
+}
+
+void FillToolRadial::OnDragStart(CPoint& point, unsigned int flags)
+{
+    FillTool::OnDragStart(point, flags);
+    // A press away from the handles leaves no current node (the linear tool picks its end).
+    SetCurrentNode(IndexFromPoint(point));
+    GetCircle(nullptr, m_centreAtPress, m_rimAtPress);
+}
+
+void FillToolRadial::OnDragChange(CPoint& point, unsigned int flags)
+{
+    if (!CheckDragStarted())
+        return;
+    const bool shift = (flags & DragFlagShift) != 0;
+    const bool creating = IsCreate();
+    CPoint press = GetDragStart();
+    if (creating && (flags & DragFlagCtrl))
+        press = GetCreateCentre(press);
+    if (shift) {
+        CPoint anchor = m_centreAtPress;
+        if (creating) {
+            SetCurrentNode(GetNumGradientNodes() - 1);
+            anchor = press;
+        } else if (IsFirstNode()) {
+            press = m_centreAtPress;
+        } else if (IsLastNode()) {
+            press = m_rimAtPress;
+        }
+        SnapAnglePoint(anchor, point, IsFirstNode());
+    }
+    if (creating) {
+        Snap(press, press);
+        if (!shift)
+            Snap(point, point);
+        SetCircle(press, point);
+        return;
+    }
+    const long long dx = static_cast<long long>(point.x) - press.x;
+    const long long dy = static_cast<long long>(point.y) - press.y;
+    if (IsFirstNode()) {
+        CPoint centre = Kesto2D::OffsetPoint(m_centreAtPress, dx, dy);
+        CPoint rim = Kesto2D::OffsetPoint(m_rimAtPress, dx, dy);
+        if (!shift) {
+            Snap(centre, centre);
+            Snap(rim, rim);
+        }
+        SetCircle(centre, rim);
+    } else if (IsLastNode()) {
+        CPoint rim = Kesto2D::OffsetPoint(m_rimAtPress, dx, dy);
+        if (!shift)
+            Snap(rim, rim);
+        SetCircle(m_centreAtPress, rim);
+    } else if (GetCurrentNode() >= 0) {
+        SetGradientValue(GetCurrentNode(), GetPercentageFromPoint(point));
+    }
+}
+
+void FillToolRadial::Draw(IRenderTarget* target, bool outlineOnly, const K2DLtGeneral& view) const
+{
+    FillTool::Draw(target, outlineOnly, view);
+    CPoint c, e;
+    if (!GetCircle(nullptr, c, e))
+        return;
+    DrawControlLine(target, outlineOnly, c, e, true);
+    DrawControlLine(target, outlineOnly, K2DCurve::Circle(K2DDblPoint(c), Kesto2D::K2DGeometry::CalcDist(c, e)), false);
+    DrawControlBoxes(target, outlineOnly);
+}
+
+void FillToolRadial::Draw(CRenderContext* context) const
+{
+    CPoint c, e;
+    if (!GetCircle(nullptr, c, e))
+        return;
+    DrawControlLine(context, c, e, false);
+    DrawControlLine(context, K2DCurve::Circle(K2DDblPoint(c), Kesto2D::K2DGeometry::CalcDist(c, e)), false);
+    DrawControlBoxes(context);
+}
+
+CRect FillToolRadial::GetFillRect(const CFill* fill)
+{
+    CPoint c, e;
+    if (!GetCircle(fill, c, e))
+        return {};
+    return K2DCurve::Circle(K2DDblPoint(c), Kesto2D::K2DGeometry::IDist(c, e)).GetBBox();
+}
+
+CRect FillToolRadial::GetFillLineBox(const CFill* fill)
+{
+    CPoint c, e;
+    if (!dynamic_cast<const KestoGDI::CFillRadial*>(fill ? fill : GetFill())) {
+        KestoKernel::VerifyFailed("KestoTool", "FillToolRadial", 443, "the fill is not radial");
+        return {};
+    }
+    GetCircle(fill, c, e);
+    return {c.x, c.y, e.x, e.y};
+}
+
+K2DArrayPoint FillToolRadial::GetEffectiveBBox(const CFill* fill)
+{
+    CPoint c, e;
+    if (!fill && !GetFill()) {
+        KestoKernel::VerifyFailed("KestoTool", "FillToolRadial", 194, "the tool has no fill: pass one");
+        return {};
+    }
+    if (!GetCircle(fill, c, e))
+        return {};
+    const CPoint mirrored = Kesto2D::SaturatePoint(2LL * c.x - e.x, 2LL * c.y - e.y);
+    return SquareOnLine(mirrored, e);
+}
+
+int FillToolRadial::GetHintLine(CString* out) const
+{
+    const HintIds ids = RoundToolHintIds(*this);
+    ComposeHintLine(out, ids.fill, ids.transparency);
+    return 1;
+}
+
+void FillToolRadial::BaseGetHandles(K2DArrayPoint* handles) const
+{
+    CPoint c, e;
+    if (GetCircle(nullptr, c, e))
+        AddGradientHandles(handles, c, e);
+}
+
+bool FillToolRadial::IsPointOnLine(const CPoint& point, int tolerance) const
+{
+    CPoint c, e;
+    return GetCircle(nullptr, c, e) && IsPointOnNodeLine(c, e, point, tolerance);
+}
+
+int FillToolRadial::GetPercentageFromPoint(CPoint point) const
+{
+    CPoint c, e;
+    if (!GetCircle(nullptr, c, e))
+        return 1;
+    return std::clamp(GetNodeValueFromPoints(c, e, point), 1, 9999);
+}
+
+} // namespace KestoTool

@@ -1,0 +1,206 @@
+#include "kestotool/gdi/FillPaint.h"
+
+#include "kestotool/gdi/CFillBitmap.h"
+#include "kestotool/gdi/CFillConical.h"
+#include "kestotool/gdi/CFillDiscreteMesh.h"
+#include "kestotool/gdi/CFillEllipse.h"
+#include "kestotool/gdi/CFillFourColour.h"
+#include "kestotool/gdi/CFillFractal.h"
+#include "kestotool/gdi/CFillLinear.h"
+#include "kestotool/gdi/CFillNone.h"
+#include "kestotool/gdi/CFillRadial.h"
+#include "kestotool/gdi/CFillSolid.h"
+#include "kestotool/gdi/CFillSquare.h"
+#include "kestotool/gdi/CFillThreeColour.h"
+#include "kestotool/gdi/CFillVector.h"
+#include "kestotool/raster/Composite.h"
+#include "kestotool/raster/PreparedPaint.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace KestoGDI {
+
+namespace {
+
+using Kesto2D::K2DDblPoint;
+using Kesto2D::K2DLtGeneral;
+using Kesto2D::K2DVector;
+using KestoRaster::Paint;
+
+// A vector fill's cell is painted at most this many pixels a side.
+constexpr int kMaxTileSide = 2048;
+
+KestoRaster::Rgba ToRgba(const CColour& colour)
+{
+    const COLORREF rgb = colour.GetRGB();
+    return {static_cast<std::uint8_t>(KestoPlatform::GetRValue(rgb)), static_cast<std::uint8_t>(KestoPlatform::GetGValue(rgb)),
+            static_cast<std::uint8_t>(KestoPlatform::GetBValue(rgb)), static_cast<std::uint8_t>(colour.GetAlpha())};
+}
+
+class PaintOfKind final : public ConstFillVisitor {
+public:
+    explicit PaintOfKind(double pixelsPerUnit) : m_pixelsPerUnit(pixelsPerUnit) {}
+
+    std::optional<Paint> paint;
+
+    void Visit(const CFillNone& fill) override { Solid(fill, {0, 0, 0, 0}); }
+    void Visit(const CFillSolid& fill) override { Solid(fill, ToRgba(fill.GetColour())); }
+    void Visit(const CFillLinear& fill) override { Ramp(Paint::Kind::Linear, fill); }
+    void Visit(const CFillRadial& fill) override { Ramp(Paint::Kind::Radial, fill); }
+    void Visit(const CFillEllipse& fill) override { Ramp(Paint::Kind::Elliptical, fill); }
+    void Visit(const CFillConical& fill) override { Ramp(Paint::Kind::Conical, fill); }
+    void Visit(const CFillSquare& fill) override { Ramp(Paint::Kind::Square, fill); }
+    void Visit(const CFillThreeColour& fill) override { Corners(Paint::Kind::ThreeColour, fill); }
+    void Visit(const CFillFourColour& fill) override { Corners(Paint::Kind::FourColour, fill); }
+    void Visit(const CFillFractal& fill) override
+    {
+        Ramp(Paint::Kind::Plasma, fill);
+        paint->plasma = {fill.GetSeed(), fill.GetGrain(), fill.GetResolution()};
+        paint->mirroredTiles = fill.GetTileInverted();
+    }
+    void Visit(const CFillBitmap& fill) override
+    {
+        Paint& p = Start(Paint::Kind::Bitmap, fill);
+        Stops(fill);
+        p.mirroredTiles = fill.WantInvertedTiling();
+        p.recolour = fill.GetGradientRecolour();
+        if (const CLtBitmap* bitmap = fill.GetBitmapForFill(); bitmap && !bitmap->IsEmpty()) {
+            auto image = std::make_shared<Paint::Image>();
+            image->width = bitmap->GetWidth();
+            image->height = bitmap->GetHeight();
+            image->argb.assign(bitmap->GetBits(), bitmap->GetBits() + static_cast<std::size_t>(image->width) * image->height);
+            p.image = std::move(image);
+        }
+    }
+    void Visit(const CFillDiscreteMesh&) override {}
+    void Visit(const CFillVector& fill) override;
+
+private:
+    double m_pixelsPerUnit;
+
+    Paint& Start(Paint::Kind kind, const CFill& fill)
+    {
+        paint.emplace();
+        paint->kind = kind;
+        paint->transparency = fill.IsTransparency();
+        for (int i = 0; i < fill.GetControlCount(); ++i) {
+            const K2DDblPoint p = fill.GetControlPoint(i);
+            paint->points.push_back({p.x, p.y});
+        }
+        return *paint;
+    }
+    void Solid(const CFill& fill, KestoRaster::Rgba colour) { Start(Paint::Kind::Solid, fill).colours = {colour}; }
+    void Ramp(Paint::Kind kind, const CFillGradient& fill)
+    {
+        Start(kind, fill);
+        Stops(fill);
+    }
+    void Stops(const CFillWithStops& fill)
+    {
+        for (const CColourIntPair& stop : fill.GetColourIntPairs())
+            paint->stops.push_back({static_cast<double>(stop.GetValue()), ToRgba(stop.GetColour()),
+                                    stop.GetSpline().GetC1(), stop.GetSpline().GetC2()});
+    }
+    void Corners(Paint::Kind kind, const CFillGradient& fill)
+    {
+        Paint& p = Start(kind, fill);
+        for (const CColourIntPair& stop : fill.GetColourIntPairs())
+            p.colours.push_back(ToRgba(stop.GetColour()));
+        // A four-colour list goes round the figure (P0, P1, P3, P2); the paint wants point order.
+        if (kind == Paint::Kind::FourColour && p.colours.size() == 4)
+            std::swap(p.colours[2], p.colours[3]);
+    }
+};
+
+// The grid of a vector fill repeats one cell, spanned from the tile's origin by the steps to
+// its x and y neighbours; with turned neighbours it repeats every second instance, so the
+// painted cell holds 2 x 2 instances.
+void PaintOfKind::Visit(const CFillVector& fill)
+{
+    Paint& p = Start(Paint::Kind::Bitmap, fill);
+    p.points.clear();
+    const CFillVector::Box placed = fill.GetPlacedBox();
+    const CFillVector::Box box{fill.ToSpread(placed.origin), fill.ToSpread(placed.xEnd), fill.ToSpread(placed.yEnd)};
+    const CFillVector::Neighbours next = fill.NeighbourOrigins(
+        box, {1, 1}, CFillVector::TileRotationTransform(CFillVector::MeasureTileRotation(box.origin, box.yEnd)));
+    const VectorDrawing* drawing = fill.GetMetaInstance();
+    const bool turned = fill.GetAdditionalRotation() != 0 || fill.GetAdditionalRotation2() != 0;
+    const int period = turned ? 2 : 1;
+    const K2DVector a = (next.a - box.origin) * period;
+    const K2DVector b = (next.b - box.origin) * period;
+    for (const K2DDblPoint& q : {box.origin, box.origin + a, box.origin + b})
+        p.points.push_back({q.x, q.y});
+    const K2DVector x = box.xEnd - box.origin;
+    const K2DVector y = box.yEnd - box.origin;
+    if (!drawing || a.Cross(b) == 0 || x.Cross(y) == 0 || !(m_pixelsPerUnit > 0))
+        return;
+    const auto side = [&](const K2DVector& v) {
+        return static_cast<int>(std::clamp(std::round(v.Length() * m_pixelsPerUnit), 1.0, double(kMaxTileSide)));
+    };
+    const int width = side(a);
+    const int height = side(b);
+    // Spread space to tile pixels: the inverse of the cell's map.
+    const K2DLtGeneral cell(a.dx / width, a.dy / width, b.dx / height, b.dy / height, box.origin.x, box.origin.y);
+    const K2DLtGeneral toTile = cell.GetInverse();
+    const K2DLtGeneral place = fill.DrawingToBox(box);
+    const K2DDblPoint centre = box.origin + (x + y) * 0.5;
+    std::vector<KestoRaster::Affine> instances;
+    for (int j = 0; j < period; ++j) {
+        for (int i = 0; i < period; ++i) {
+            const double degrees = (i ? fill.GetAdditionalRotation2() : 0) + (j ? fill.GetAdditionalRotation() : 0);
+            const K2DLtGeneral turn =
+                K2DLtGeneral::About(centre, Kesto2D::K2DLtRotate(Kesto2D::KCAngle(static_cast<int>(std::lround(degrees * 100)))));
+            const K2DLtGeneral m = place.Then(turn)
+                                       .Then(Kesto2D::K2DLtTranslate((next.a - box.origin).dx * i + (next.b - box.origin).dx * j,
+                                                                     (next.a - box.origin).dy * i + (next.b - box.origin).dy * j))
+                                       .Then(toTile);
+            instances.push_back({m.GetM11(), m.GetM12(), m.GetM21(), m.GetM22(), m.GetTranslation().dx, m.GetTranslation().dy});
+        }
+    }
+    const RefPtr<const CLtBitmap> tile = drawing->Tile(width, height, instances);
+    if (!tile || tile->IsEmpty())
+        return;
+    auto image = std::make_shared<Paint::Image>();
+    image->width = tile->GetWidth();
+    image->height = tile->GetHeight();
+    image->argb.assign(tile->GetBits(), tile->GetBits() + static_cast<std::size_t>(image->width) * image->height);
+    p.image = std::move(image);
+}
+
+} // namespace
+
+std::optional<KestoRaster::Paint> FillPaint::From(const CFill& fill, double pixelsPerUnit)
+{
+    PaintOfKind visitor(pixelsPerUnit);
+    fill.Accept(visitor);
+    return std::move(visitor.paint);
+}
+
+bool FillPaint::PaintOver(const CFill& fill, const KestoRaster::Affine& fillToDevice, double pixelsPerUnit,
+                          const KestoRaster::Target& canvas, const KestoRaster::Clip& clip)
+{
+    using namespace KestoRaster;
+    const std::optional<Paint> paint = From(fill, pixelsPerUnit);
+    if (!paint)
+        return false;
+    const auto pixelCount = static_cast<std::size_t>(canvas.width) * static_cast<std::size_t>(canvas.height);
+    std::vector<std::uint32_t> layer(pixelCount, 0);
+    const Target fillTarget{layer.data(), canvas.width, canvas.height, canvas.width * 4, Output::Argb32};
+    if (!fill.IsTransparency()) {
+        Render(PreparedPaint(*paint, fillToDevice, Output::Argb32), fillTarget, clip);
+        CompositeOver(canvas, fillTarget, nullptr, clip);
+        return true;
+    }
+    std::vector<std::uint8_t> mask(pixelCount, 0);
+    const Target maskTarget{mask.data(), canvas.width, canvas.height, canvas.width, Output::Mask8};
+    Render(PreparedPaint(*paint, fillToDevice, Output::Mask8), maskTarget, clip);
+    Paint shaped;
+    shaped.colours = {{30, 60, 160, 255}};
+    Render(PreparedPaint(shaped, {}, Output::Argb32), fillTarget, clip);
+    CompositeOver(canvas, fillTarget, &maskTarget, clip);
+    return true;
+}
+
+} // namespace KestoGDI

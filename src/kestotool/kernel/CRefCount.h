@@ -1,0 +1,34 @@
+#pragma once
+
+#include "kestotool/platform/Export.h"
+
+#include <cstddef>
+
+namespace KestoKernel {
+
+// An intrusive reference count. An object starts with a count of zero; the first RefPtr (or
+// AddRef) takes it to one, and the Release that takes it back to zero deletes the object.
+// Copying an object gives the copy a fresh count of zero: counts belong to objects, not values.
+// The count is mutable so that constant objects can be shared too.
+class KESTO_API CRefCount {
+public:
+    virtual ~CRefCount() = default;
+
+    int AddRef() const { return ++m_refs; }
+    // Answers the count left; the object is gone when that is zero.
+    int Release() const;
+    int GetRefCount() const { return m_refs; }
+
+    // Bytes this object holds, itself included, for memory accounting by caches.
+    virtual std::size_t Measure() const = 0;
+
+protected:
+    CRefCount() = default;
+    CRefCount(const CRefCount&) : m_refs(0) {}
+    CRefCount& operator=(const CRefCount&) { return *this; }
+
+private:
+    mutable int m_refs = 0;
+};
+
+} // namespace KestoKernel

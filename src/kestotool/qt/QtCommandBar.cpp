@@ -1,0 +1,227 @@
+#include "kestotool/qt/QtCommandBar.h"
+
+#include "kestotool/qt/QtConvert.h"
+
+#include "kestotool/platform/CCmdTarget.h"
+#include "kestotool/platform/CCmdUI.h"
+#include "kestotool/platform/CXTPControlComboBox.h"
+#include "kestotool/platform/CXTPControlPopupColor.h"
+#include "kestotool/platform/ScreenMetrics.h"
+
+#include <QAbstractEventDispatcher>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QImage>
+#include <QPixmap>
+#include <QToolBar>
+#include <QToolButton>
+
+#include <utility>
+
+namespace KestoToolQt {
+
+using KestoPlatform::CXTPControl;
+using KestoPlatform::XTPControlType;
+
+namespace {
+
+// A prompt holds a description, a tooltip title and a short caption, one per line.
+QStringList PromptParts(const CXTPControl& control)
+{
+    return ToQString(control.GetPrompt()).split(QLatin1Char('\n'));
+}
+
+QIcon IconOf(KestoPlatform::CXTPCommandBars& bars, int id)
+{
+    const KestoPlatform::CSize size =
+        KestoPlatform::CXTPImageManager::GetPreferredIconSizeforDPI(KestoPlatform::ScreenMetrics::GetLogPixelsX());
+    const KestoPlatform::XTPImage* image = bars.GetImageManager()->GetImage(id, size);
+    return image ? ToQIcon(*image) : QIcon();
+}
+
+QIcon Swatch(KestoPlatform::COLORREF colour, int side)
+{
+    QPixmap pixmap(side, side);
+    pixmap.fill(ToQColor(colour));
+    return QIcon(pixmap);
+}
+
+} // namespace
+
+QtCommandBar::QtCommandBar(QToolBar& toolbar) : m_toolbar(toolbar)
+{
+    if (auto* dispatcher = QAbstractEventDispatcher::instance())
+        QObject::connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, &m_context, [this] { UpdateControls(); });
+}
+
+QtCommandBar::~QtCommandBar()
+{
+    Clear();
+}
+
+void QtCommandBar::Clear()
+{
+    for (const Shown& shown : m_shown)
+        delete shown.widget;
+    m_shown.clear();
+    m_toolbar.clear();
+    m_bars = nullptr;
+    m_target = nullptr;
+}
+
+void QtCommandBar::Show(KestoPlatform::CXTPCommandBars& bars, KestoPlatform::CCmdTarget& target)
+{
+    Clear();
+    m_bars = &bars;
+    m_target = &target;
+    for (int i = 0; i < bars.GetCount(); ++i) {
+        CXTPControl& control = *bars.GetAt(i);
+        // Command 0 is no command: the toolkit shows a separator there.
+        if (control.GetID() == 0) {
+            m_toolbar.addSeparator();
+            continue;
+        }
+        QWidget* widget = MakeWidget(control);
+        const QStringList prompt = PromptParts(control);
+        widget->setToolTip(prompt.value(1, prompt.value(0)));
+        widget->setStatusTip(prompt.value(0));
+        m_toolbar.addWidget(widget);
+        m_shown.push_back({&control, widget});
+    }
+    UpdateControls();
+}
+
+QWidget* QtCommandBar::MakeWidget(CXTPControl& control)
+{
+    const int id = control.GetID();
+    switch (control.GetType()) {
+    case XTPControlType::ComboBox: {
+        auto* combo = new QComboBox;
+        auto& items = static_cast<KestoPlatform::CXTPControlComboBox&>(control);
+        if (items.GetDropDownItemCount() > 0)
+            combo->setMaxVisibleItems(items.GetDropDownItemCount());
+        QObject::connect(combo, &QComboBox::activated, combo, [this, &items](int index) {
+            items.SetCurSel(index);
+            Notify(items, KestoPlatform::XTP_NOTIFY_EXECUTE);
+        });
+        return combo;
+    }
+    case XTPControlType::Edit: {
+        auto* box = new QDoubleSpinBox;
+        box->setDecimals(0);
+        box->setRange(0, 100);
+        box->setKeyboardTracking(false);
+        auto& edit = static_cast<KestoPlatform::CXTPControlEdit&>(control);
+        QObject::connect(box, &QDoubleSpinBox::valueChanged, box, [this, &edit](double value) {
+            if (m_showing)
+                return;
+            edit.SetValue(value);
+            Notify(edit, KestoPlatform::XTP_NOTIFY_EXECUTE);
+        });
+        QObject::connect(box, &QDoubleSpinBox::editingFinished, box, [this, &edit, box] {
+            edit.SetValue(box->value());
+            Notify(edit, KestoPlatform::XTP_NOTIFY_COMMIT);
+        });
+        return box;
+    }
+    default: {
+        auto* button = new QToolButton;
+        const bool icon = control.GetStyle() != KestoPlatform::XTPButtonStyle::Caption;
+        const bool caption = control.GetStyle() == KestoPlatform::XTPButtonStyle::Caption ||
+                             control.GetStyle() == KestoPlatform::XTPButtonStyle::IconAndCaption;
+        if (icon && control.GetType() != XTPControlType::PopupColor)
+            button->setIcon(IconOf(*m_bars, id));
+        // A button with no picture shows its caption, so that it can be read at all; a control
+        // the toolkit made from a description has none of its own and shows the prompt's short
+        // caption.
+        if (caption || (button->icon().isNull() && control.GetType() != XTPControlType::PopupColor)) {
+            const QString own = ToQString(control.GetCaption());
+            button->setText(own.isEmpty() ? PromptParts(control).value(2) : own);
+        }
+        button->setToolButtonStyle(caption && icon ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonFollowStyle);
+        QObject::connect(button, &QToolButton::clicked, button, [this, id] {
+            if (m_target)
+                m_target->OnCmdMsg(id, KestoPlatform::CN_COMMAND, nullptr, nullptr);
+        });
+        return button;
+    }
+    }
+}
+
+void QtCommandBar::Notify(CXTPControl& control, int code)
+{
+    if (!m_target)
+        return;
+    KestoPlatform::NMXTPCONTROL record;
+    record.hdr = {control.GetID(), code};
+    record.pControl = &control;
+    long result = 0;
+    KestoPlatform::AFX_NOTIFY extra{&result, &record};
+    m_target->OnCmdMsg(control.GetID(), KestoPlatform::CN_NOTIFY(code), &extra, nullptr);
+}
+
+void QtCommandBar::UpdateControls()
+{
+    if (!m_target)
+        return;
+    for (const Shown& shown : m_shown) {
+        CXTPControl& control = *shown.control;
+        if (auto* edit = dynamic_cast<KestoPlatform::CXTPControlEdit*>(&control))
+            edit->SetFocused(shown.widget->hasFocus());
+        KestoPlatform::CCmdUI ui(control.GetID(), &control);
+        // A command with no update handler is enabled when something handles it.
+        if (!ui.DoUpdate(m_target)) {
+            KestoPlatform::AFX_CMDHANDLERINFO handler;
+            control.SetEnabled(m_target->OnCmdMsg(control.GetID(), KestoPlatform::CN_COMMAND, nullptr, &handler) ||
+                               control.GetType() == XTPControlType::ComboBox ||
+                               control.GetType() == XTPControlType::Edit);
+        }
+        ShowState(shown);
+    }
+}
+
+void QtCommandBar::ShowState(const Shown& shown)
+{
+    const CXTPControl& control = *shown.control;
+    QWidget* widget = shown.widget;
+    const bool wasShowing = std::exchange(m_showing, true);
+    if (widget->isEnabled() != control.GetEnabled())
+        widget->setEnabled(control.GetEnabled());
+    if (widget->isVisibleTo(&m_toolbar) != control.IsVisible())
+        widget->setVisible(control.IsVisible());
+    if (auto* button = qobject_cast<QToolButton*>(widget)) {
+        if (button->isCheckable() != control.GetChecked() && control.GetChecked())
+            button->setCheckable(true);
+        if (button->isChecked() != control.GetChecked())
+            button->setChecked(control.GetChecked());
+        if (const auto* colour = dynamic_cast<const KestoPlatform::CXTPControlPopupColor*>(&control)) {
+            const QVariant shownColour = button->property("kestoColour");
+            if (!shownColour.isValid() || shownColour.toUInt() != colour->GetColor()) {
+                button->setIcon(Swatch(colour->GetColor(), button->iconSize().height()));
+                button->setProperty("kestoColour", static_cast<unsigned>(colour->GetColor()));
+            }
+        }
+    } else if (auto* combo = qobject_cast<QComboBox*>(widget)) {
+        ShowListItems(*combo, static_cast<const KestoPlatform::CXTPControlComboBox&>(control));
+    } else if (auto* box = qobject_cast<QDoubleSpinBox*>(widget)) {
+        const auto& edit = static_cast<const KestoPlatform::CXTPControlEdit&>(control);
+        const QString suffix = edit.GetUnit().IsEmpty() ? QString() : QStringLiteral(" ") + ToQString(edit.GetUnit());
+        if (box->suffix() != suffix)
+            box->setSuffix(suffix);
+        // The box the user is typing in keeps what they type.
+        if (!box->hasFocus() && box->value() != edit.GetValue())
+            box->setValue(edit.GetValue());
+    }
+    m_showing = wasShowing;
+}
+
+QWidget* QtCommandBar::WidgetOf(int id) const
+{
+    for (const Shown& shown : m_shown) {
+        if (shown.control->GetID() == id)
+            return shown.widget;
+    }
+    return nullptr;
+}
+
+} // namespace KestoToolQt

@@ -1,0 +1,380 @@
+#include "kestotool/raster/PreparedPaint.h"
+
+#include "kestotool/raster/Kernels_p.h"
+#include "kestotool/raster/Shading_p.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace KestoRaster {
+
+using namespace Shading;
+
+Affine Affine::Inverse() const
+{
+    const double det = Determinant();
+    if (!std::isfinite(det) || det == 0)
+        return {0, 0, 0, 0, 0, 0};
+    Affine r;
+    r.a = d / det;
+    r.b = -b / det;
+    r.c = -c / det;
+    r.d = a / det;
+    r.e = -(r.a * e + r.c * f);
+    r.f = -(r.b * e + r.d * f);
+    return r;
+}
+
+namespace {
+
+std::uint32_t Shade(const Paint& paint, Output output, Rgba c)
+{
+    return output == Output::Argb32 ? ToArgb(paint, c) : ToMask(paint, c);
+}
+
+// The kinds whose colour is the ramp at a parameter: they render through the table.
+bool IsRampKind(Paint::Kind kind)
+{
+    switch (kind) {
+    case Paint::Kind::Linear:
+    case Paint::Kind::Radial:
+    case Paint::Kind::Elliptical:
+    case Paint::Kind::Conical:
+    case Paint::Kind::Square:
+    case Paint::Kind::Plasma: return true;
+    default: return false;
+    }
+}
+
+// The ramp parameter of a paint-space point for a ramp kind.
+double Parameter(const Paint& paint, const Geometry& g, const std::vector<float>& plasmaTile, Point p)
+{
+    if (paint.kind == Paint::Kind::Plasma)
+        return PlasmaValue(plasmaTile, paint.plasma.resolution, TileCoordinates(g, p, paint.mirroredTiles),
+                           paint.mirroredTiles);
+    return RampParameter(g, p);
+}
+
+// Any kind's output at a paint-space point, by the definition.
+std::uint32_t Direct(const Paint& paint, const Geometry& g, const std::vector<float>& plasmaTile, Output out, Point p)
+{
+    switch (paint.kind) {
+    case Paint::Kind::Solid: return Shade(paint, out, paint.colours.empty() ? Rgba{} : paint.colours.front());
+    case Paint::Kind::ThreeColour:
+    case Paint::Kind::FourColour: return Shade(paint, out, CornerColour(paint, CornerCoordinates(g, p)));
+    case Paint::Kind::Bitmap: return BitmapSample(paint, TileCoordinates(g, p, paint.mirroredTiles), out);
+    default: return Shade(paint, out, RampColour(paint, Parameter(paint, g, plasmaTile, p) * 10000));
+    }
+}
+
+// The clip cut to the target.
+Clip Within(const Target& target, const Clip& clip)
+{
+    return {std::max(clip.x0, 0), std::max(clip.y0, 0), std::min(clip.x1, target.width),
+            std::min(clip.y1, target.height)};
+}
+
+// Visits every pixel of the clip with its paint-space centre.
+template <class Write>
+void ForEachPixel(const Target& target, const Clip& clip, const Affine& toPaint, Write write)
+{
+    const Clip c = Within(target, clip);
+    for (int y = c.y0; y < c.y1; ++y) {
+        auto* row = static_cast<unsigned char*>(target.pixels) + y * target.stride;
+        for (int x = c.x0; x < c.x1; ++x) {
+            const Point p = toPaint.Apply({x + 0.5, y + 0.5});
+            const std::uint32_t v = write(p);
+            if (target.format == Output::Argb32)
+                reinterpret_cast<std::uint32_t*>(row)[x] = v;
+            else
+                row[x] = static_cast<unsigned char>(v);
+        }
+    }
+}
+
+// Visits the clip's rows, for a kernel: the row's first clipped column and width, the
+// paint-space point of column 0's centre relative to the geometry's origin (measured from column
+// 0 whatever the clip, so that every clip paints the same), and where the first pixel goes.
+template <class Row>
+void ForEachRow(const PreparedPaint& prepared, const Target& target, const Clip& clip, Row row)
+{
+    const Clip c = Within(target, clip);
+    if (c.x1 <= c.x0)
+        return;
+    const Geometry& g = prepared.GetGeometry();
+    const int bytesPerPixel = target.format == Output::Mask8 ? 1 : 4;
+    for (int y = c.y0; y < c.y1; ++y) {
+        const Point p = prepared.DeviceToPaint().Apply({0.5, y + 0.5});
+        row(c.x0, c.x1 - c.x0, p.x - g.origin.x, p.y - g.origin.y,
+            static_cast<unsigned char*>(target.pixels) + y * target.stride + c.x0 * bytesPerPixel);
+    }
+}
+
+// Runs a kernel over the clip's rows for a kind measured along two axes, given by the rows of
+// their inverse basis (ux, uy) and (vx, vy): each row starts at (u0, v0) and steps by (du, dv).
+// A degenerate geometry stands still at (at, at).
+template <class Row>
+void RunAlongAxes(const PreparedPaint& prepared, const Target& target, const Clip& clip, Row& row,
+                  void (*kernel)(const Row&), double ux, double uy, double vx, double vy, double at)
+{
+    const bool degenerate = prepared.GetGeometry().degenerate;
+    const Affine& toPaint = prepared.DeviceToPaint();
+    ForEachRow(prepared, target, clip, [&](int x0, int count, double px, double py, void* out) {
+        row.u0 = degenerate ? at : px * ux + py * uy;
+        row.v0 = degenerate ? at : px * vx + py * vy;
+        row.du = degenerate ? 0 : toPaint.a * ux + toPaint.b * uy;
+        row.dv = degenerate ? 0 : toPaint.a * vx + toPaint.b * vy;
+        row.x0 = x0;
+        row.count = count;
+        row.out = out;
+        kernel(row);
+    });
+}
+
+// The ramp kinds' rows through the active instruction set's kernel.
+void RenderRampRows(const PreparedPaint& prepared, const Target& target, const Clip& clip)
+{
+    const Geometry& g = prepared.GetGeometry();
+    Kernels::RampRow row{};
+    row.table = prepared.Table().data();
+    row.mask = target.format == Output::Mask8;
+    // Measured in the kind's own axes: u along the first, v along the second.
+    double ux = g.iux, uy = g.iuy, vx = g.ivx, vy = g.ivy;
+    switch (g.kind) {
+    case Paint::Kind::Linear: row.shape = Kernels::RampShape::Linear; break;
+    case Paint::Kind::Square: row.shape = Kernels::RampShape::Square; break;
+    case Paint::Kind::Conical: {
+        // The point turned so that C->R lies along +u, v measured anticlockwise on screen.
+        row.shape = Kernels::RampShape::Conical;
+        const double cz = std::cos(g.zeroAngle), sz = std::sin(g.zeroAngle);
+        ux = cz, uy = -sz, vx = -sz, vy = -cz;
+        break;
+    }
+    default: row.shape = Kernels::RampShape::Round; break;
+    }
+    // A degenerate ramp shows its end everywhere: linear at t = 1.
+    if (g.degenerate)
+        row.shape = Kernels::RampShape::Linear;
+    RunAlongAxes(prepared, target, clip, row, Kernels::Active().ramp, ux, uy, vx, vy, 1.0);
+}
+
+// The mask cells (see PreparedPaint::MaskCells) of padded (w + 2) x (h + 2) mask texels.
+std::vector<std::uint32_t> MaskCellsOf(const std::vector<std::uint32_t>& padded, int w, int h)
+{
+    const std::size_t stride = static_cast<std::size_t>(w) + 2;
+    std::vector<std::uint32_t> cells;
+    cells.reserve((stride - 1) * (static_cast<std::size_t>(h) + 1));
+    for (std::size_t y = 0; y <= static_cast<std::size_t>(h); ++y) {
+        for (std::size_t x = 0; x + 1 < stride; ++x) {
+            const std::uint32_t* top = &padded[y * stride + x];
+            const std::uint32_t* bottom = top + stride;
+            cells.push_back((top[0] & 0xFF) | (top[1] & 0xFF) << 8 | (bottom[0] & 0xFF) << 16 | (bottom[1] & 0xFF) << 24);
+        }
+    }
+    return cells;
+}
+
+// The plasma cells (see PreparedPaint::PlasmaCells) of a padded (n + 2) x (n + 2) tile.
+std::vector<std::uint64_t> PlasmaCellsOf(const std::vector<float>& padded, int n)
+{
+    const auto level = [](float v) {
+        return static_cast<std::uint64_t>(std::lround(std::clamp(v, 0.0f, 1.0f) * 32767.0f));
+    };
+    const std::size_t stride = static_cast<std::size_t>(n) + 2;
+    std::vector<std::uint64_t> cells;
+    cells.reserve((stride - 1) * (stride - 1));
+    for (std::size_t y = 0; y + 1 < stride; ++y) {
+        for (std::size_t x = 0; x + 1 < stride; ++x) {
+            const float* top = &padded[y * stride + x];
+            const float* bottom = top + stride;
+            cells.push_back(level(top[0]) | level(top[1]) << 16 | level(bottom[0]) << 32 | level(bottom[1]) << 48);
+        }
+    }
+    return cells;
+}
+
+// The plasma kind's rows through the active instruction set's kernel.
+void RenderPlasmaRows(const PreparedPaint& prepared, const Target& target, const Clip& clip)
+{
+    const Paint& paint = prepared.GetPaint();
+    const Geometry& g = prepared.GetGeometry();
+    Kernels::PlasmaRow row{};
+    row.cells = prepared.PlasmaCells().data();
+    row.n = Shading::PlasmaResolution(paint.plasma);
+    row.mirrored = paint.mirroredTiles;
+    row.table = prepared.Table().data();
+    row.mask = target.format == Output::Mask8;
+    // A degenerate tile shows its first sample everywhere, as the reference does.
+    RunAlongAxes(prepared, target, clip, row, Kernels::Active().plasma, g.iux, g.iuy, g.ivx, g.ivy, 0.0);
+}
+
+// The four-colour kind's rows through the active instruction set's kernel.
+void RenderFourColourRows(const PreparedPaint& prepared, const Target& target, const Clip& clip)
+{
+    const Paint& paint = prepared.GetPaint();
+    const Geometry& g = prepared.GetGeometry();
+    Kernels::QuadRow row{};
+    row.mask = target.format == Output::Mask8;
+    row.transparency = paint.transparency;
+    row.e1x = g.e1.x, row.e1y = g.e1.y, row.e2x = g.e2.x, row.e2y = g.e2.y, row.e3x = g.e3.x, row.e3y = g.e3.y;
+    for (int k = 0; k < 4; ++k) {
+        const Rgba& colour = paint.colours[static_cast<std::size_t>(k)];
+        row.c[k][0] = colour.r, row.c[k][1] = colour.g, row.c[k][2] = colour.b, row.c[k][3] = colour.a;
+    }
+    row.dqx = prepared.DeviceToPaint().a;
+    row.dqy = prepared.DeviceToPaint().b;
+    ForEachRow(prepared, target, clip, [&](int x0, int count, double px, double py, void* out) {
+        row.qx0 = px;
+        row.qy0 = py;
+        row.x0 = x0;
+        row.count = count;
+        row.out = out;
+        Kernels::Active().fourColour(row);
+    });
+}
+
+// The bitmap kind's rows through the active instruction set's kernel.
+void RenderBitmapRows(const PreparedPaint& prepared, const Target& target, const Clip& clip)
+{
+    const Paint& paint = prepared.GetPaint();
+    const Geometry& g = prepared.GetGeometry();
+    Kernels::BitmapRow row{};
+    row.texels = prepared.Texels().data();
+    row.maskCells = prepared.MaskCells().data();
+    row.w = paint.image->width;
+    row.h = paint.image->height;
+    row.stride = row.w + 2;
+    row.mirrored = paint.mirroredTiles;
+    row.nearest = paint.nearest;
+    row.mask = target.format == Output::Mask8;
+    RunAlongAxes(prepared, target, clip, row, Kernels::Active().bitmap, g.iux, g.iuy, g.ivx, g.ivy, 0.0);
+}
+
+// The three-colour kind's rows through the active instruction set's kernel.
+void RenderThreeColourRows(const PreparedPaint& prepared, const Target& target, const Clip& clip)
+{
+    const Paint& paint = prepared.GetPaint();
+    const Geometry& g = prepared.GetGeometry();
+    Kernels::CornerRow row{};
+    row.mask = target.format == Output::Mask8;
+    row.transparency = paint.transparency;
+    const auto channels = [](const Rgba& x) { return std::array<float, 4>{float(x.r), float(x.g), float(x.b), float(x.a)}; };
+    const auto c0 = channels(paint.colours[0]), c1 = channels(paint.colours[1]), c2 = channels(paint.colours[2]);
+    for (int k = 0; k < 4; ++k) {
+        row.c0[k] = c0[k];
+        row.d1[k] = c1[k] - c0[k];
+        row.d2[k] = c2[k] - c0[k];
+    }
+    // A degenerate parallelogram shows its far corner (u = v = 1), as the reference does.
+    RunAlongAxes(prepared, target, clip, row, Kernels::Active().threeColour, g.iux, g.iuy, g.ivx, g.ivy, 1.0);
+}
+
+} // namespace
+
+PreparedPaint::PreparedPaint(const Paint& paint, const Affine& paintToDevice, Output output,
+                             const PreparedPaint* previous)
+    : m_paint(std::make_shared<Paint>(paint)), m_output(output), m_deviceToPaint(paintToDevice.Inverse()),
+      m_geometry(std::make_shared<const Geometry>(Solve(paint)))
+{
+    // Colours that a drag does not change are shared with the previous preparation: the table,
+    // the plasma tile and the bitmap's texels are built only when the colours change. Images are
+    // compared by content, as a host translating its fill anew each time makes a new one.
+    const auto sameImage = [](const std::shared_ptr<const Paint::Image>& a, const std::shared_ptr<const Paint::Image>& b) {
+        return a == b || (a && b && a->width == b->width && a->height == b->height && a->argb == b->argb);
+    };
+    const bool sameColours = previous && previous->m_output == output && previous->m_paint->stops == paint.stops &&
+                             previous->m_paint->transparency == paint.transparency &&
+                             previous->m_paint->kind == paint.kind && previous->m_paint->plasma == paint.plasma &&
+                             sameImage(previous->m_paint->image, paint.image) && previous->m_paint->recolour == paint.recolour &&
+                             previous->m_paint->mirroredTiles == paint.mirroredTiles;
+    if (sameColours) {
+        m_table = previous->m_table;
+        m_plasmaTile = previous->m_plasmaTile;
+        m_plasmaCells = previous->m_plasmaCells;
+        m_texels = previous->m_texels;
+        m_maskCells = previous->m_maskCells;
+        return;
+    }
+    m_texels = std::make_shared<const std::vector<std::uint32_t>>(
+        paint.kind == Paint::Kind::Bitmap ? PaddedTexels(paint, output) : std::vector<std::uint32_t>());
+    m_maskCells = std::make_shared<const std::vector<std::uint32_t>>(
+        output == Output::Mask8 && !m_texels->empty() ? MaskCellsOf(*m_texels, paint.image->width, paint.image->height)
+                                                      : std::vector<std::uint32_t>());
+    if (paint.kind == Paint::Kind::Plasma) {
+        const bool same = previous && previous->m_paint->kind == Paint::Kind::Plasma &&
+                          previous->m_paint->plasma == paint.plasma;
+        m_plasmaTile = same ? previous->m_plasmaTile
+                            : std::make_shared<const std::vector<float>>(Shading::PlasmaTile(paint.plasma));
+        const int n = Shading::PlasmaResolution(paint.plasma);
+        m_plasmaCells = std::make_shared<const std::vector<std::uint64_t>>(
+            PlasmaCellsOf(Shading::PadTile(*m_plasmaTile, n, n, paint.mirroredTiles), n));
+    }
+    auto table = std::make_shared<std::vector<std::uint32_t>>();
+    if (IsRamp()) {
+        table->resize(TableSize);
+        for (int i = 0; i < TableSize; ++i)
+            (*table)[i] = Shade(paint, output, RampColour(paint, i * 10000.0 / (TableSize - 1)));
+    }
+    m_table = std::move(table);
+}
+
+const std::vector<float>& PreparedPaint::PlasmaTile() const
+{
+    static const std::vector<float> none;
+    return m_plasmaTile ? *m_plasmaTile : none;
+}
+
+const std::vector<std::uint64_t>& PreparedPaint::PlasmaCells() const
+{
+    static const std::vector<std::uint64_t> none;
+    return m_plasmaCells ? *m_plasmaCells : none;
+}
+
+const Geometry& PreparedPaint::GetGeometry() const
+{
+    return *m_geometry;
+}
+
+bool PreparedPaint::IsRamp() const
+{
+    return IsRampKind(m_paint->kind);
+}
+
+void Render(const PreparedPaint& prepared, const Target& target, const Clip& clip)
+{
+    const Paint& paint = prepared.GetPaint();
+    const Geometry& g = prepared.GetGeometry();
+    const Output out = target.format;
+    const std::vector<float>& tile = prepared.PlasmaTile();
+    if (prepared.IsRamp() && out == prepared.GetOutput()) {
+        if (paint.kind == Paint::Kind::Plasma)
+            RenderPlasmaRows(prepared, target, clip);
+        else
+            RenderRampRows(prepared, target, clip);
+        return;
+    }
+    if (paint.kind == Paint::Kind::ThreeColour && paint.colours.size() >= 3) {
+        RenderThreeColourRows(prepared, target, clip);
+        return;
+    }
+    if (paint.kind == Paint::Kind::Bitmap && !prepared.Texels().empty() && out == prepared.GetOutput()) {
+        RenderBitmapRows(prepared, target, clip);
+        return;
+    }
+    if (paint.kind == Paint::Kind::FourColour && paint.colours.size() >= 4 && !g.degenerate) {
+        RenderFourColourRows(prepared, target, clip);
+        return;
+    }
+    ForEachPixel(target, clip, prepared.DeviceToPaint(), [&](Point p) { return Direct(paint, g, tile, out, p); });
+}
+
+void RenderReference(const Paint& paint, const Affine& paintToDevice, const Target& target, const Clip& clip)
+{
+    const Geometry g = Solve(paint);
+    const std::vector<float> tile = paint.kind == Paint::Kind::Plasma ? Shading::PlasmaTile(paint.plasma) : std::vector<float>();
+    ForEachPixel(target, clip, paintToDevice.Inverse(),
+                 [&](Point p) { return Direct(paint, g, tile, target.format, p); });
+}
+
+} // namespace KestoRaster

@@ -1,0 +1,74 @@
+#include "kestotool/tool/TypeCombos.h"
+
+#include "kestotool/gdi/FillKinds.h"
+#include "kestotool/platform/CXTPControlComboBox.h"
+#include "kestotool/tool/IToolHelper.h"
+
+namespace KestoTool {
+
+using namespace KestoGDI;
+
+namespace {
+
+using Available = bool (IToolHelper::*)(CFill*);
+using KindClass = const KestoPlatform::CRuntimeClass* FillKind::*;
+
+void PopulateTypeCombo(IToolHelper* helper, KestoPlatform::CXTPControl* control, KindClass kindClass, Available available,
+                       bool setDropDownCount)
+{
+    auto* combo = dynamic_cast<KestoPlatform::CXTPControlComboBox*>(control);
+    if (!combo)
+        return;
+    const bool empty = combo->GetCount() == 0;
+    int kinds = 0;
+    for (const FillKind& kind : FillKinds::All()) {
+        if (!(kind.*kindClass))
+            continue;
+        ++kinds;
+        const RefPtr<CFill> sample = empty ? CFill::CreateFromClass(kind.*kindClass) : nullptr;
+        if (sample && (helper->*available)(sample.get())) {
+            const int index = combo->AddString(sample->GetTypeAsString());
+            combo->SetItemData(index, sample->GetFillType());
+        }
+    }
+    if (setDropDownCount)
+        combo->SetDropDownItemCount(kinds);
+}
+
+void SelectType(KestoPlatform::CXTPControl* control, const CFill* fill)
+{
+    auto* combo = dynamic_cast<KestoPlatform::CXTPControlComboBox*>(control);
+    if (!combo || !fill)
+        return;
+    for (int i = 0; i < combo->GetCount(); ++i) {
+        if (combo->GetItemData(i) == fill->GetFillType()) {
+            combo->SetCurSel(i);
+            return;
+        }
+    }
+    combo->SetCurSel(-1);
+}
+
+} // namespace
+
+void PopulateFillTypeCombo(IToolHelper* helper, KestoPlatform::CXTPControl* control)
+{
+    PopulateTypeCombo(helper, control, &FillKind::fillClass, &IToolHelper::IsFillTypeAvailable, true);
+}
+
+void PopulateTransTypeCombo(IToolHelper* helper, KestoPlatform::CXTPControl* control)
+{
+    PopulateTypeCombo(helper, control, &FillKind::transparencyClass, &IToolHelper::IsTransparencyTypeAvailable, false);
+}
+
+void SetCurrentFillComboIndex(KestoPlatform::CXTPControl* control, const CFill* fill)
+{
+    SelectType(control, fill);
+}
+
+void SetCurrentTransComboIndex(KestoPlatform::CXTPControl* control, const CFill* fill)
+{
+    SelectType(control, fill);
+}
+
+} // namespace KestoTool
