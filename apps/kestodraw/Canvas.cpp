@@ -253,6 +253,7 @@ void Canvas::RebuildTool()
 {
     m_rebuildPending = false;
     emit ToolAboutToChange();
+    m_gesture.Cancel();
     m_tool.reset();
     // One set of bars for the canvas's life: the tools register their images with it once.
     m_bars->RemoveAll();
@@ -303,15 +304,21 @@ void Canvas::Commit(const CFill* fill, const wchar_t* undoName, bool transparenc
     Shape* shape = SelectedShape();
     if (!shape || !fill)
         return;
-    if (m_inDrag) {
+    if (m_gesture.Absorb(undoName)) {
         // A commit while the mouse moves shows at once; the gesture's end makes the step.
         FieldOf(*shape, transparency) = RefPtr<const CFill>(fill);
-        if (undoName)
-            m_gestureName = undoName;
         SyncTool();
         update();
         return;
     }
+    RecordCommit(fill, undoName, transparency);
+}
+
+void Canvas::RecordCommit(const CFill* fill, const wchar_t* undoName, bool transparency)
+{
+    Shape* shape = SelectedShape();
+    if (!shape || !fill)
+        return;
     std::vector<Shape> before = m_document.shapes;
     FieldOf(*shape, transparency) = RefPtr<const CFill>(fill);
     PushStep(undoName ? QString::fromWCharArray(undoName) : DefaultStepName(), std::move(before));
@@ -320,29 +327,22 @@ void Canvas::Commit(const CFill* fill, const wchar_t* undoName, bool transparenc
 void Canvas::StartGesture(CPoint at, unsigned flags, bool create)
 {
     m_before = m_document.shapes;
-    m_gestureName.clear();
-    m_create = create;
-    m_inDrag = true;
     m_press = Press::Tool;
-    m_tool->OnDragStart(at, flags);
+    m_gesture.Press(*m_tool, at, flags, create);
 }
 
 void Canvas::EndGesture(CPoint at, unsigned flags)
 {
-    m_tool->OnDragEnd(at, flags);
-    m_inDrag = false;
-    m_create = false;
+    const std::optional<KestoTool::ToolGesture::Step> step = m_gesture.Release(at, flags);
     m_press = Press::None;
     Shape* shape = SelectedShape();
-    const RefPtr<const CFill> after(m_tool->GetFill());
-    const RefPtr<const CFill>& before = FieldOf(m_before[m_selected], m_editTransparency);
-    if (!shape || !after || (before && before->IsEqual(*after))) {
+    if (!shape || !step) {
         m_document.shapes = m_before;  // nothing changed: no step
         SyncTool();
         return;
     }
-    FieldOf(*shape, m_editTransparency) = after;
-    PushStep(m_gestureName.empty() ? DefaultStepName() : QString::fromStdWString(m_gestureName), std::move(m_before));
+    FieldOf(*shape, m_editTransparency) = step->after;
+    PushStep(step->undoName.empty() ? DefaultStepName() : QString::fromStdWString(step->undoName), std::move(m_before));
     emit HintChanged();
 }
 
@@ -356,7 +356,7 @@ void Canvas::Nudge(int dx, int dy)
     const CPoint from = handles.GetAt(node);
     CPoint to = Kesto2D::OffsetPoint(from, dx, dy);
     StartGesture(from, 0, false);
-    m_tool->OnDragChange(to, 0);
+    m_gesture.Move(to, 0);
     EndGesture(to, 0);
     m_tool->SetCurrentNode(node);
 }
@@ -431,10 +431,8 @@ void Canvas::SetFillType(const KestoPlatform::CRuntimeClass* fillClass)
     const auto* oldStops = dynamic_cast<const KestoGDI::CFillWithStops*>(old.get());
     if (auto* stops = dynamic_cast<KestoGDI::CFillWithStops*>(fresh.get()); stops && oldStops)
         stops->SetColourIntPairs(oldStops->GetColourIntPairs());
-    const bool wasDragging = m_inDrag;
-    m_inDrag = false;
-    Commit(fresh.get(), fresh->IsTransparency() ? L"Transparency Type" : L"Fill Type", fresh->IsTransparency());
-    m_inDrag = wasDragging;
+    // A step of its own, also when it comes during a drag.
+    RecordCommit(fresh.get(), fresh->IsTransparency() ? L"Transparency Type" : L"Fill Type", fresh->IsTransparency());
 }
 
 void Canvas::SetTransparencyType(const KestoPlatform::CRuntimeClass* transparencyClass)
@@ -536,7 +534,7 @@ void Canvas::mouseMoveEvent(QMouseEvent* event)
         m_fitOnResize = false;
         break;
     case Press::Tool:
-        m_tool->OnDragChange(p, flags);
+        m_gesture.Move(p, flags);
         break;
     case Press::PendingCreate:
         if (!moved)
@@ -557,7 +555,7 @@ void Canvas::mouseMoveEvent(QMouseEvent* event)
         } else {
             StartGesture(m_pressPoint, flags, true);
         }
-        m_tool->OnDragChange(p, flags);
+        m_gesture.Move(p, flags);
         break;
     case Press::Move:
         if (!moved)

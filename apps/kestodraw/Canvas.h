@@ -4,6 +4,7 @@
 #include "DrawingPainter.h"
 
 #include <kestotool/filltool/FillTool.h>
+#include <kestotool/filltool/ToolGesture.h>
 #include <kestotool/platform/CXTPCommandBars.h>
 #include <kestotool/tool/IDocumentEx.h>
 #include <kestotool/tool/IToolHelper.h>
@@ -88,8 +89,8 @@ public:
     void ClientToPaper(KestoPlatform::SIZE* size) override;
     KestoPlatform::CRect GetObjectBBox() override;
     KestoPlatform::CRect GetTransformedObjectBBox() override { return GetObjectBBox(); }
-    bool IsCreate() override { return m_create; }
-    bool IsInDrag() override { return m_inDrag; }
+    bool IsCreate() override { return m_gesture.IsCreate(); }
+    bool IsInDrag() override { return m_gesture.InDrag(); }
     void ConstrainAngle(KestoPlatform::CPoint origin, KestoPlatform::CPoint& point, bool flag) override;
     void ConstrainAnglePolar(KestoPlatform::CPoint origin, KestoPlatform::CPoint& point) override { ConstrainAngle(origin, point, false); }
     void Snap(const KestoPlatform::CPoint& in, KestoPlatform::CPoint& out) override;
@@ -149,6 +150,7 @@ private:
     void ScheduleRebuild();
     void SyncTool();
     void Commit(const KestoGDI::CFill* fill, const wchar_t* undoName, bool transparency);
+    void RecordCommit(const KestoGDI::CFill* fill, const wchar_t* undoName, bool transparency);
     void PushStep(const QString& name, std::vector<Shape> before);
     void StartGesture(KestoPlatform::CPoint at, unsigned flags, bool create);
     void EndGesture(KestoPlatform::CPoint at, unsigned flags);
@@ -179,10 +181,8 @@ private:
     QPointF m_pressDevice;
     KestoPlatform::CPoint m_pressPoint;
     KestoPlatform::CPoint m_lastPoint;
-    bool m_create = false;
-    bool m_inDrag = false;
+    KestoTool::ToolGesture m_gesture;
     std::vector<Shape> m_before;
-    std::wstring m_gestureName;
     std::vector<KestoPlatform::CPoint> m_pathPoints;
     QPointF m_panFrom;
 };

@@ -5,19 +5,19 @@
 
 void DemoHost::Drag(KestoPlatform::CPoint from, KestoPlatform::CPoint to, unsigned flags)
 {
-    inDrag = true;
-    tool->OnDragStart(from, flags);
-    tool->OnDragChange(to, flags);
-    tool->OnDragEnd(to, flags);
-    inDrag = false;
+    gesture.Press(*tool, from, flags, create);
+    gesture.Move(to, flags);
+    // The gesture's one undo step, named by the tool or by the host.
+    if (const auto step = gesture.Release(to, flags))
+        Record(step->after.get(), step->undoName.empty() ? L"Move Fill Handle" : step->undoName.c_str());
     create = false;
-    UpdateFill(tool->GetFill(), L"Move Fill Handle");
 }
 
 void DemoHost::Click(KestoPlatform::CPoint at)
 {
-    tool->OnDragStart(at, 0);
-    tool->OnDragEnd(at, 0);
+    gesture.Press(*tool, at, 0);
+    if (const auto step = gesture.Release(at, 0))
+        Record(step->after.get(), step->undoName.empty() ? nullptr : step->undoName.c_str());
 }
 
 void DemoHost::ConstrainAngle(KestoPlatform::CPoint origin, KestoPlatform::CPoint& point, bool)
@@ -31,6 +31,18 @@ void DemoHost::Snap(const KestoPlatform::CPoint& in, KestoPlatform::CPoint& out)
 }
 
 void DemoHost::UpdateFill(const KestoGDI::CFill* committed, const wchar_t* undoName)
+{
+    if (gesture.Absorb(undoName)) {
+        // Part of a gesture: shown now, recorded once at its end.
+        fill = committed->Clone();
+        if (tool && tool->GetFill() != committed)
+            tool->SetFill(committed);
+        return;
+    }
+    Record(committed, undoName);
+}
+
+void DemoHost::Record(const KestoGDI::CFill* committed, const wchar_t* undoName)
 {
     fill = committed->Clone();
     ++commits;

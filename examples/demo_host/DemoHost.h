@@ -1,6 +1,7 @@
 #pragma once
 
 #include <kestotool/filltool/FillTool.h>
+#include <kestotool/filltool/ToolGesture.h>
 #include <kestotool/tool/IDocumentEx.h>
 #include <kestotool/tool/IToolHelper.h>
 #include <kestotool/tool/IToolSite.h>
@@ -8,16 +9,17 @@
 #include <string>
 
 // A tiny host: one rectangle with a fill, a 10-unit grid, 15-degree angle steps and an undo
-// list of names. It applies every fill a tool commits and hands it back to the tool.
+// list of names. It applies every fill a tool commits and hands it back to the tool; a mouse
+// gesture is one step, however many commits it brings.
 class DemoHost : public KestoTool::IToolSite, public KestoTool::IDocumentEx, public KestoTool::IToolHelper {
 public:
     explicit DemoHost(const KestoPlatform::CRect& object) : m_object(object) {}
 
     KestoTool::FillTool* tool = nullptr;
     KestoKernel::RefPtr<KestoGDI::CFill> fill;   // the document's fill of the rectangle
-    bool create = false;
-    bool inDrag = false;
-    int commits = 0;
+    KestoTool::ToolGesture gesture;
+    bool create = false;   // the next Drag draws a new fill
+    int commits = 0;       // undo steps recorded
     std::wstring lastUndoName;
 
     // Plays one mouse gesture on the tool; the geometry it leaves is applied at the end.
@@ -32,8 +34,8 @@ public:
     void ClientToPaper(KestoPlatform::SIZE*) override {}
     KestoPlatform::CRect GetObjectBBox() override { return m_object; }
     KestoPlatform::CRect GetTransformedObjectBBox() override { return m_object; }
-    bool IsCreate() override { return create; }
-    bool IsInDrag() override { return inDrag; }
+    bool IsCreate() override { return gesture.IsCreate(); }
+    bool IsInDrag() override { return gesture.InDrag(); }
     void ConstrainAngle(KestoPlatform::CPoint origin, KestoPlatform::CPoint& point, bool flag) override;
     void ConstrainAnglePolar(KestoPlatform::CPoint origin, KestoPlatform::CPoint& point) override { ConstrainAngle(origin, point, false); }
     void Snap(const KestoPlatform::CPoint& in, KestoPlatform::CPoint& out) override;
@@ -69,5 +71,8 @@ public:
     bool IsLockRatioAvailable() override { return true; }
 
 private:
+    // Records a step: the document takes the fill and hands it back to the tool.
+    void Record(const KestoGDI::CFill* committed, const wchar_t* undoName);
+
     KestoPlatform::CRect m_object;
 };

@@ -2,6 +2,7 @@
 
 #include <kestotool/filltool/FillTool.h>
 #include <kestotool/filltool/FillToolFactory.h>
+#include <kestotool/filltool/ToolGesture.h>
 #include <kestotool/gdi/CFillLinear.h>
 #include <kestotool/platform/CXTPCommandBars.h>
 #include <kestotool/tool/NullToolSite.h>
@@ -14,7 +15,7 @@ class RectangleSite : public KestoTool::NullToolSite {
 public:
     KestoPlatform::CRect object{0, 0, 1000, 500};
     KestoKernel::RefPtr<KestoGDI::CFill> fill;
-    bool inDrag = false;
+    KestoTool::ToolGesture gesture;
     KestoTool::FillTool* tool = nullptr;
     KestoPlatform::CXTPCommandBars bars;
 
@@ -41,6 +42,11 @@ public:
 
     KestoPlatform::CRect GetObjectBBox() override { return object; }
     KestoPlatform::CRect GetTransformedObjectBBox() override { return object; }
-    bool IsInDrag() override { return inDrag; }
-    void UpdateFill(const KestoGDI::CFill* committed, const wchar_t*) override { fill = committed->Clone(); }
+    bool IsInDrag() override { return gesture.InDrag(); }
+    // A commit shows at once; outside a gesture it would also be an undo step of its own.
+    void UpdateFill(const KestoGDI::CFill* committed, const wchar_t* undoName) override
+    {
+        gesture.Absorb(undoName);
+        fill = committed->Clone();
+    }
 };

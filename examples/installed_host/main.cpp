@@ -39,18 +39,16 @@ int main()
     if (images == 0)
         return Fail("no icons: the image archive beside the library was not found");
 
-    // Drag the end handle down to the bottom right corner, then record the tool's fill.
+    // Drag the end handle down to the bottom right corner: one gesture, one undo step.
     const auto& before = dynamic_cast<const KestoGDI::CFillLinear&>(*tool->GetFill());
     const KestoPlatform::CPoint end = before.GetEnd().Round();
     const Kesto2D::K2DDblPoint start = before.GetStart();
-    // The tool may snap or constrain the points it is given, so it takes them by reference.
-    KestoPlatform::CPoint press = end, corner(1000, 500), release = corner;
-    site.inDrag = true;
-    tool->OnDragStart(press, 0);
-    tool->OnDragChange(corner, 0);
-    tool->OnDragEnd(release, 0);
-    site.inDrag = false;
-    site.fill = tool->GetFill()->Clone();
+    site.gesture.Press(*tool, end, 0);
+    site.gesture.Move({1000, 500}, 0);
+    const auto step = site.gesture.Release({1000, 500}, 0);
+    if (!step)
+        return Fail("the drag changed nothing");
+    site.fill = step->after->Clone();
 
     const auto& after = dynamic_cast<const KestoGDI::CFillLinear&>(*site.fill);
     std::printf("end handle: (%d, %d) -> (%g, %g)\n", end.x, end.y, after.GetEnd().x, after.GetEnd().y);

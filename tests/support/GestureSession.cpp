@@ -61,14 +61,14 @@ void SessionSite::UpdateFill(const CFill* fill, const wchar_t* undoName)
 {
     Check(fill);
     TestToolSite::UpdateFill(fill, undoName);
-    Keep(fill);
+    Keep(fill, undoName);
 }
 
 void SessionSite::UpdateTransparency(const CFill* fill, const wchar_t* undoName, bool flag)
 {
     Check(fill);
     TestToolSite::UpdateTransparency(fill, undoName, flag);
-    Keep(fill);
+    Keep(fill, undoName);
 }
 
 void SessionSite::Check(const CFill* fill)
@@ -77,10 +77,10 @@ void SessionSite::Check(const CFill* fill)
         failure = InvalidFill(*fill, kind);
 }
 
-void SessionSite::Keep(const CFill* fill)
+void SessionSite::Keep(const CFill* fill, const wchar_t* undoName)
 {
     commits.clear();  // the session checks commits as they come; their copies need not pile up
-    if (!inDrag && fill)
+    if (!gesture.Absorb(undoName) && fill)
         history.Record(fill);
 }
 
@@ -174,19 +174,16 @@ void GestureSession::Drag()
 {
     CPoint p = NearHandleOrAnywhere();
     const unsigned flags = (Chance(30) ? DragFlagShift : 0) | (Chance(30) ? DragFlagCtrl : 0);
-    m_site.create = m_tool->IndexFromPoint(p) == -1 && Chance(70);
-    m_site.inDrag = true;
-    m_tool->OnDragStart(p, flags);
+    m_site.gesture.Press(*m_tool, p, flags, m_tool->IndexFromPoint(p) == -1 && Chance(70));
     for (int moves = Int(1, 4); moves > 0; --moves) {
         p = Chance(50) ? NearHandleOrAnywhere() : AnyPoint();
-        m_tool->OnDragChange(p, flags);
+        m_site.gesture.Move(p, flags);
     }
-    m_tool->OnDragEnd(p, flags);
-    m_site.inDrag = false;
-    m_site.create = false;
-    // The gesture's one step: the geometry the tool holds now.
+    const std::optional<KestoTool::ToolGesture::Step> step = m_site.gesture.Release(p, flags);
     m_site.Check(m_tool->GetFill());
-    m_site.history.Record(m_tool->GetFill());
+    // The gesture's one step, when it changed the fill.
+    if (step)
+        m_site.history.Record(step->after.get());
 }
 
 void GestureSession::Drop()

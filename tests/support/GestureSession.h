@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kestotool/filltool/FillTool.h"
+#include "kestotool/filltool/ToolGesture.h"
 #include "support/TestDocument.h"
 #include "support/TestToolSite.h"
 #include "support/UndoHistory.h"
@@ -59,13 +60,16 @@ public:
     UndoHistory history;
     const KestoPlatform::CRuntimeClass* kind = nullptr;
     std::string failure;
+    KestoTool::ToolGesture gesture;
 
+    bool IsCreate() override { return gesture.IsCreate(); }
+    bool IsInDrag() override { return gesture.InDrag(); }
     void UpdateFill(const KestoGDI::CFill* fill, const wchar_t* undoName) override;
     void UpdateTransparency(const KestoGDI::CFill* fill, const wchar_t* undoName, bool flag) override;
     void Check(const KestoGDI::CFill* fill);
 
 private:
-    void Keep(const KestoGDI::CFill* fill);
+    void Keep(const KestoGDI::CFill* fill, const wchar_t* undoName);
 };
 
 // A session of random gestures on a random tool that the factory makes, as a careless host and

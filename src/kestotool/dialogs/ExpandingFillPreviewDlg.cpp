@@ -49,8 +49,10 @@ void ExpandingFillPreviewDlg::SetEditedFill(const KestoGDI::CFill* fill)
     m_fill = fill ? fill->Clone() : nullptr;
     if (const auto* stops = dynamic_cast<const KestoGDI::CFillWithStops*>(m_fill.get()))
         m_stops = stops->GetColourIntPairs();
-    if (std::unique_ptr<FillTool> tool = FillToolFactory::CreateWrapped(m_fill.get(), this))
+    if (std::unique_ptr<FillTool> tool = FillToolFactory::CreateWrapped(m_fill.get(), this)) {
+        m_gesture.Cancel();
         m_tool = std::move(tool);
+    }
     m_preview.SetFill(m_fill.get());
     OnEditedFillChanged();
 }
@@ -223,26 +225,20 @@ void ExpandingFillPreviewDlg::Commit(const KestoGDI::CFill* fill)
 
 void ExpandingFillPreviewDlg::PreviewPress(CPoint point, unsigned flags)
 {
-    if (!m_tool)
-        return;
-    m_inDrag = true;
-    m_tool->OnDragStart(point, flags);
+    if (m_tool)
+        m_gesture.Press(*m_tool, point, flags);
 }
 
 void ExpandingFillPreviewDlg::PreviewMove(CPoint point, unsigned flags)
 {
-    if (m_tool && m_inDrag)
-        m_tool->OnDragChange(point, flags);
+    m_gesture.Move(point, flags);
 }
 
 void ExpandingFillPreviewDlg::PreviewRelease(CPoint point, unsigned flags)
 {
-    if (!m_tool || !m_inDrag)
-        return;
-    m_tool->OnDragEnd(point, flags);
-    m_inDrag = false;
     // A geometry drag reshapes the tool's copy and commits nothing: its end is the commit.
-    Commit(m_tool->GetFill());
+    if (const std::optional<ToolGesture::Step> step = m_gesture.Release(point, flags))
+        Commit(step->after.get());
 }
 
 void ExpandingFillPreviewDlg::OnControlPress(KestoUI::FillControl&, CPoint point, unsigned flags)
@@ -254,7 +250,7 @@ void ExpandingFillPreviewDlg::OnControlDrag(KestoUI::FillControl&, CPoint point,
 {
     PreviewMove(point, DragFlagsOf(flags));
     // The tool reshapes its own copy while the drag lasts: show that.
-    if (m_tool && m_inDrag)
+    if (m_gesture.InDrag())
         m_preview.SetFill(m_tool->GetFill());
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kestotool/filltool/FillTool.h"
+#include "kestotool/filltool/ToolGesture.h"
 #include "kestotool/gdi/CFill.h"
 #include "kestotool/gdi/ColourIntPairs.h"
 #include "kestotool/platform/Export.h"
@@ -70,7 +71,7 @@ public:
     CRect GetObjectBBox() override { return m_objectRect; }
     CRect GetTransformedObjectBBox() override { return m_objectRect; }
     bool IsCreate() override { return false; }
-    bool IsInDrag() override { return m_inDrag; }
+    bool IsInDrag() override { return m_gesture.InDrag(); }
     void ConstrainAngle(CPoint, CPoint&, bool) override {}
     void ConstrainAnglePolar(CPoint, CPoint&) override {}
     void Snap(const CPoint&, CPoint&) override {}
@@ -137,7 +138,7 @@ private:
     KestoGDI::ColourIntPairs m_stops;
     CRect m_objectRect;
     bool m_helperSetting = true;
-    bool m_inDrag = false;
+    ToolGesture m_gesture;
     bool m_expanded = true;
     int m_expandedWidth = 0;
     KestoUI::FillControl m_preview;
