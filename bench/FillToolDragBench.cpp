@@ -44,7 +44,8 @@ RefPtr<CFill> LinearWithStops(int n)
     fill->SetControls(K2DDblPoint(0, 500), K2DDblPoint(kLength, 500));
     KestoGDI::ColourIntPairs stops;
     for (int i = 0; i < n; ++i)
-        stops.Add(KestoGDI::CRGBColour(KestoPlatform::RGB(i % 256, (i * 7) % 256, 128)), Kesto2D::MulDiv(i, 10000, n - 1));
+        stops.Add(KestoGDI::CRGBColour(KestoPlatform::RGB(i % 256, (i * 7) % 256, 128)),
+                  Kesto2D::MulDiv(i, 10000, n - 1));
     fill->SetColourIntPairs(stops);
     return fill;
 }
@@ -104,6 +105,12 @@ void CopyStopBytes(benchmark::State& state)
 } // namespace
 
 BENCHMARK(InnerStopDragStep)->Arg(3)->Arg(10)->Arg(100)->Arg(1000)->Arg(10000)->Unit(benchmark::kMicrosecond);
-BENCHMARK(InnerStopDragStepCloningHost)->Arg(3)->Arg(10)->Arg(100)->Arg(1000)->Arg(10000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(InnerStopDragStepCloningHost)
+    ->Arg(3)
+    ->Arg(10)
+    ->Arg(100)
+    ->Arg(1000)
+    ->Arg(10000)
+    ->Unit(benchmark::kMicrosecond);
 BENCHMARK(CopyStopBytes)->Arg(3)->Arg(10)->Arg(100)->Arg(1000)->Arg(10000)->Unit(benchmark::kMicrosecond);
 BENCHMARK_MAIN();

@@ -31,7 +31,8 @@ std::vector<RampStop> Stops(int n, bool levels)
     std::vector<RampStop> stops;
     for (int i = 0; i < n; ++i) {
         const auto v = static_cast<std::uint8_t>(i * 255 / (n - 1));
-        const Rgba c = levels ? Rgba{v, v, v, 255} : Rgba{v, static_cast<std::uint8_t>(255 - v), static_cast<std::uint8_t>(v / 2 + 60), 255};
+        const Rgba c = levels ? Rgba{v, v, v, 255}
+                              : Rgba{v, static_cast<std::uint8_t>(255 - v), static_cast<std::uint8_t>(v / 2 + 60), 255};
         stops.push_back({i * 10000.0 / (n - 1), c});
     }
     return stops;
@@ -105,8 +106,9 @@ std::vector<pixman_gradient_stop_t> PixmanStops(int n)
 {
     std::vector<pixman_gradient_stop_t> out;
     for (const RampStop& s : Stops(n, false))
-        out.push_back({Fixed(s.position / 10000.0), {static_cast<std::uint16_t>(s.colour.r * 257), static_cast<std::uint16_t>(s.colour.g * 257),
-                                                      static_cast<std::uint16_t>(s.colour.b * 257), 0xFFFF}});
+        out.push_back({Fixed(s.position / 10000.0),
+                       {static_cast<std::uint16_t>(s.colour.r * 257), static_cast<std::uint16_t>(s.colour.g * 257),
+                        static_cast<std::uint16_t>(s.colour.b * 257), 0xFFFF}});
     return out;
 }
 
@@ -136,7 +138,8 @@ void Pixman(benchmark::State& state, const std::string& what, int stops, bool ro
     pixman_image_set_repeat(src, what == "tile" ? PIXMAN_REPEAT_NORMAL : PIXMAN_REPEAT_PAD);
     if (rotated) {
         const Affine inv = Rotated().Inverse();
-        pixman_transform_t t{{{Fixed(inv.a), Fixed(inv.c), Fixed(inv.e)}, {Fixed(inv.b), Fixed(inv.d), Fixed(inv.f)},
+        pixman_transform_t t{{{Fixed(inv.a), Fixed(inv.c), Fixed(inv.e)},
+                              {Fixed(inv.b), Fixed(inv.d), Fixed(inv.f)},
                               {0, 0, pixman_fixed_1}}};
         pixman_image_set_transform(src, &t);
     }
@@ -210,9 +213,9 @@ public:
 
 int main(int argc, char** argv)
 {
-    const Paint::Kind kinds[] = {Paint::Kind::Linear, Paint::Kind::Radial, Paint::Kind::Elliptical, Paint::Kind::Conical,
-                                 Paint::Kind::Square, Paint::Kind::ThreeColour, Paint::Kind::FourColour,
-                                 Paint::Kind::Plasma, Paint::Kind::Bitmap};
+    const Paint::Kind kinds[] = {Paint::Kind::Linear,     Paint::Kind::Radial, Paint::Kind::Elliptical,
+                                 Paint::Kind::Conical,    Paint::Kind::Square, Paint::Kind::ThreeColour,
+                                 Paint::Kind::FourColour, Paint::Kind::Plasma, Paint::Kind::Bitmap};
     std::vector<std::string> rows;
     for (const Paint::Kind kind : kinds) {
         const bool corners = kind == Paint::Kind::ThreeColour || kind == Paint::Kind::FourColour;
@@ -226,13 +229,13 @@ int main(int argc, char** argv)
                 for (const bool translucent : {false, true}) {
                     if (translucent && (!corners || mask))
                         continue;
-                    const std::string variant = !corners   ? "/stops:" + std::to_string(stops)
-                                                : mask       ? "/levels"
+                    const std::string variant = !corners      ? "/stops:" + std::to_string(stops)
+                                                : mask        ? "/levels"
                                                 : translucent ? "/translucent"
                                                               : "/opaque";
                     for (const bool rotated : {false, true}) {
-                        const std::string name = std::string("kesto/") + Name(kind) + (mask ? "/mask" : "/colour") + variant +
-                                                 (rotated ? "/rotated" : "/aligned");
+                        const std::string name = std::string("kesto/") + Name(kind) + (mask ? "/mask" : "/colour") +
+                                                 variant + (rotated ? "/rotated" : "/aligned");
                         benchmark::RegisterBenchmark(name.c_str(), Kesto, kind, mask, stops, rotated, translucent)
                             ->Unit(benchmark::kMillisecond);
                         rows.push_back(name);
@@ -244,14 +247,16 @@ int main(int argc, char** argv)
     for (const std::string what : {"linear", "radial", "conical", "tile"})
         for (const bool rotated : {false, true})
             benchmark::RegisterBenchmark(("pixman/" + what + (rotated ? "/rotated" : "/aligned")).c_str(), Pixman, what,
-                                         8, rotated)->Unit(benchmark::kMillisecond);
+                                         8, rotated)
+                ->Unit(benchmark::kMillisecond);
     benchmark::RegisterBenchmark("memset", Memset)->Unit(benchmark::kMillisecond);
 
     benchmark::Initialize(&argc, argv);
     RatioReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
 
-    std::cout << "\n" << "row" << std::string(44, ' ') << "Mpix/s   ratio\n";
+    std::cout << "\n"
+              << "row" << std::string(44, ' ') << "Mpix/s   ratio\n";
     const auto rate = [&](const std::string& name) {
         for (const auto& [key, value] : reporter.rates)
             if (key.rfind(name, 0) == 0)
@@ -265,11 +270,13 @@ int main(int argc, char** argv)
         std::string base = "memset";
         for (const Paint::Kind kind : kinds)
             if (row.find(std::string("/") + Name(kind) + "/") != std::string::npos && !Counterpart(kind).empty())
-                base = "pixman/" + Counterpart(kind) + (row.find("rotated") != std::string::npos ? "/rotated" : "/aligned");
+                base = "pixman/" + Counterpart(kind) +
+                       (row.find("rotated") != std::string::npos ? "/rotated" : "/aligned");
         if (const auto many = row.find("stops:1000"); many != std::string::npos)
             base = std::string(row).replace(many, 10, "stops:2");
         const double theirs = rate(base);
-        std::printf("%-48s %8.0f  %6.2fx %s\n", row.c_str(), mine / 1e6, theirs > 0 ? mine / theirs : 0.0, base.c_str());
+        std::printf("%-48s %8.0f  %6.2fx %s\n", row.c_str(), mine / 1e6, theirs > 0 ? mine / theirs : 0.0,
+                    base.c_str());
     }
     return 0;
 }

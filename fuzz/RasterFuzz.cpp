@@ -47,8 +47,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     double position = 0;
     for (int i = in.Int(0, 6); i > 0; --i) {
         position += in.Int(0, 4000);
-        paint.stops.push_back({position, {in.Byte(), in.Byte(), in.Byte(), in.Byte()}, in.Int(0, 100) / 100.0,
-                               in.Int(0, 100) / 100.0});
+        paint.stops.push_back(
+            {position, {in.Byte(), in.Byte(), in.Byte(), in.Byte()}, in.Int(0, 100) / 100.0, in.Int(0, 100) / 100.0});
     }
     for (int i = in.Int(0, 4); i > 0; --i)
         paint.colours.push_back({in.Byte(), in.Byte(), in.Byte(), in.Byte()});
@@ -65,7 +65,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             image->argb.push_back(in.Next());
         paint.image = image;
     }
-    const Affine placement{in.Coordinate(), in.Coordinate(), in.Coordinate(), in.Coordinate(), in.Coordinate(), in.Coordinate()};
+    const Affine placement{in.Coordinate(), in.Coordinate(), in.Coordinate(),
+                           in.Coordinate(), in.Coordinate(), in.Coordinate()};
     const Output out = in.Int(0, 1) ? Output::Mask8 : Output::Argb32;
 
     constexpr int W = 19, H = 7;

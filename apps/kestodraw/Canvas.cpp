@@ -54,7 +54,8 @@ RefPtr<const CFill>& FieldOf(Shape& shape, bool transparency)
 // colour to white, or a linear transparency from opaque to clear.
 RefPtr<CFill> StarterFill(const CFill* current, bool transparency, const KestoPlatform::CRect& box)
 {
-    RefPtr<CFill> fill = transparency ? RefPtr<CFill>(new KestoGDI::CTransparencyLinear) : RefPtr<CFill>(new KestoGDI::CFillLinear);
+    RefPtr<CFill> fill =
+        transparency ? RefPtr<CFill>(new KestoGDI::CTransparencyLinear) : RefPtr<CFill>(new KestoGDI::CFillLinear);
     fill->SetDefaultControls(box);
     if (const auto* solid = dynamic_cast<const KestoGDI::CFillSolid*>(current); solid && !transparency) {
         KestoGDI::ColourIntPairs stops;
@@ -192,8 +193,9 @@ void Canvas::DeleteSelected()
 
 void Canvas::SetKind(int fillType)
 {
-    const KestoPlatform::CRuntimeClass* c = m_editTransparency ? KestoGDI::CTransparency::GetRuntimeClassFromType(fillType)
-                                                          : CFill::GetRuntimeClassFromType(fillType);
+    const KestoPlatform::CRuntimeClass* c = m_editTransparency
+                                                ? KestoGDI::CTransparency::GetRuntimeClassFromType(fillType)
+                                                : CFill::GetRuntimeClassFromType(fillType);
     if (c)
         m_editTransparency ? SetTransparencyType(c) : SetFillType(c);
 }
@@ -201,7 +203,8 @@ void Canvas::SetKind(int fillType)
 QImage Canvas::RenderPage(double pixelsPerUnit)
 {
     QImage image(std::max(1, static_cast<int>(std::lround(m_document.width * pixelsPerUnit))),
-                 std::max(1, static_cast<int>(std::lround(m_document.height * pixelsPerUnit))), QImage::Format_ARGB32_Premultiplied);
+                 std::max(1, static_cast<int>(std::lround(m_document.height * pixelsPerUnit))),
+                 QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::white);
     QPainter painter(&image);
     m_painter.Paint(painter, m_document, QTransform::fromScale(pixelsPerUnit, pixelsPerUnit), image.rect());
@@ -296,7 +299,8 @@ QString Canvas::DefaultStepName() const
 
 void Canvas::PushStep(const QString& name, std::vector<Shape> before)
 {
-    m_undo.push(new ShapesEdit(name, std::move(before), m_document.shapes, [this](const std::vector<Shape>& shapes) { ApplyShapes(shapes); }));
+    m_undo.push(new ShapesEdit(name, std::move(before), m_document.shapes,
+                               [this](const std::vector<Shape>& shapes) { ApplyShapes(shapes); }));
 }
 
 void Canvas::Commit(const CFill* fill, const wchar_t* undoName, bool transparency)
@@ -337,7 +341,7 @@ void Canvas::EndGesture(CPoint at, unsigned flags)
     m_press = Press::None;
     Shape* shape = SelectedShape();
     if (!shape || !step) {
-        m_document.shapes = m_before;  // nothing changed: no step
+        m_document.shapes = m_before; // nothing changed: no step
         SyncTool();
         return;
     }
@@ -399,13 +403,15 @@ void Canvas::Snap(const CPoint& in, CPoint& out)
 
 KestoPlatform::CString Canvas::GetCurrentSelectionDescription()
 {
-    return m_selected >= 0 ? KestoPlatform::CString(m_document.shapes[m_selected].Description()) : KestoPlatform::CString();
+    return m_selected >= 0 ? KestoPlatform::CString(m_document.shapes[m_selected].Description())
+                           : KestoPlatform::CString();
 }
 
 void Canvas::AddContextItem(int hostCommand)
 {
     m_bars->CreateControl(
-        hostCommand, true, [this](KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc) { return m_tool->OnCreateControl(cc); },
+        hostCommand, true,
+        [this](KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc) { return m_tool->OnCreateControl(cc); },
         [this](KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc) { m_tool->OnAfterCreateControl(cc); });
 }
 
@@ -479,7 +485,8 @@ CPoint Canvas::ToDocument(const QPointF& device) const
 
 unsigned Canvas::DragFlags(Qt::KeyboardModifiers modifiers)
 {
-    return (modifiers & Qt::ShiftModifier ? KestoTool::DragFlagShift : 0u) | (modifiers & Qt::ControlModifier ? KestoTool::DragFlagCtrl : 0u);
+    return (modifiers & Qt::ShiftModifier ? KestoTool::DragFlagShift : 0u) |
+           (modifiers & Qt::ControlModifier ? KestoTool::DragFlagCtrl : 0u);
 }
 
 void Canvas::mousePressEvent(QMouseEvent* event)
@@ -533,9 +540,7 @@ void Canvas::mouseMoveEvent(QMouseEvent* event)
         m_pan = m_panFrom + (event->position() - m_pressDevice);
         m_fitOnResize = false;
         break;
-    case Press::Tool:
-        m_gesture.Move(p, flags);
-        break;
+    case Press::Tool: m_gesture.Move(p, flags); break;
     case Press::PendingCreate:
         if (!moved)
             return;
@@ -561,8 +566,9 @@ void Canvas::mouseMoveEvent(QMouseEvent* event)
         if (!moved)
             return;
         m_document.shapes = m_before;
-        m_document.shapes[m_selected].Offset(static_cast<int>(std::clamp<long long>(static_cast<long long>(p.x) - m_pressPoint.x, INT_MIN, INT_MAX)),
-                                             static_cast<int>(std::clamp<long long>(static_cast<long long>(p.y) - m_pressPoint.y, INT_MIN, INT_MAX)));
+        m_document.shapes[m_selected].Offset(
+            static_cast<int>(std::clamp<long long>(static_cast<long long>(p.x) - m_pressPoint.x, INT_MIN, INT_MAX)),
+            static_cast<int>(std::clamp<long long>(static_cast<long long>(p.y) - m_pressPoint.y, INT_MIN, INT_MAX)));
         SyncTool();
         break;
     case Press::Shape:
@@ -584,9 +590,7 @@ void Canvas::mouseReleaseEvent(QMouseEvent* event)
     switch (press) {
     case Press::None:
     case Press::Pan: break;
-    case Press::Tool:
-        EndGesture(p, DragFlags(event->modifiers()));
-        break;
+    case Press::Tool: EndGesture(p, DragFlags(event->modifiers())); break;
     case Press::PendingCreate:
         // A click off the handles selects what is under it.
         Select(m_document.ShapeAt(p));
@@ -598,7 +602,8 @@ void Canvas::mouseReleaseEvent(QMouseEvent* event)
     case Press::Shape: {
         Shape shape;
         shape.box = KestoPlatform::CRect(m_pressPoint, p).Normalized();
-        shape.fill = RefPtr<const CFill>(new KestoGDI::CFillSolid(KestoGDI::CRGBColour(KestoPlatform::RGB(120, 170, 230)), false));
+        shape.fill = RefPtr<const CFill>(
+            new KestoGDI::CFillSolid(KestoGDI::CRGBColour(KestoPlatform::RGB(120, 170, 230)), false));
         if (m_mode == Mode::Path) {
             shape.kind = Shape::Kind::Path;
             shape.points = m_pathPoints;
@@ -611,7 +616,9 @@ void Canvas::mouseReleaseEvent(QMouseEvent* event)
         }
         if (shape.box.Width() * m_zoom < 2 || shape.box.Height() * m_zoom < 2)
             break;
-        AddShape(std::move(shape), m_mode == Mode::Path ? tr("Add Path") : m_mode == Mode::Ellipse ? tr("Add Ellipse") : tr("Add Rectangle"));
+        AddShape(std::move(shape), m_mode == Mode::Path      ? tr("Add Path")
+                                   : m_mode == Mode::Ellipse ? tr("Add Ellipse")
+                                                             : tr("Add Rectangle"));
         break;
     }
     }
@@ -685,7 +692,7 @@ std::unique_ptr<KestoGDI::CColour> Canvas::DroppedColour(const QMimeData* mime) 
     try {
         return FillJson::ReadColour(QJsonDocument::fromJson(mime->data(ColourMime)).object());
     } catch (const FormatError&) {
-        return nullptr;  // another program's data under our type: not a colour we can drop
+        return nullptr; // another program's data under our type: not a colour we can drop
     }
 }
 
@@ -772,7 +779,8 @@ void Canvas::paintEvent(QPaintEvent*)
     if (m_press == Press::Shape) {
         painter.setPen(QPen(QColor(0, 90, 200), 1, Qt::DashLine));
         painter.setBrush(Qt::NoBrush);
-        const QRectF band = view.mapRect(QRectF(QPointF(m_pressPoint.x, m_pressPoint.y), QPointF(m_lastPoint.x, m_lastPoint.y)).normalized());
+        const QRectF band = view.mapRect(
+            QRectF(QPointF(m_pressPoint.x, m_pressPoint.y), QPointF(m_lastPoint.x, m_lastPoint.y)).normalized());
         if (m_mode == Mode::Ellipse)
             painter.drawEllipse(band);
         else if (m_mode == Mode::Rectangle)

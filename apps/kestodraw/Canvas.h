@@ -28,7 +28,10 @@ namespace KestoDraw {
 // drag protocol, keys into the tool's keys and nudges, and dropped palette colours into stops.
 // Every change reaches the document as one step on the undo stack: a gesture, however many
 // commits it makes while the mouse moves, is one step.
-class Canvas : public QWidget, public KestoTool::IToolSite, public KestoTool::IDocumentEx, public KestoTool::IToolHelper {
+class Canvas : public QWidget,
+               public KestoTool::IToolSite,
+               public KestoTool::IDocumentEx,
+               public KestoTool::IToolHelper {
     Q_OBJECT
 public:
     enum class Mode { Select, Rectangle, Ellipse, Path };
@@ -92,7 +95,10 @@ public:
     bool IsCreate() override { return m_gesture.IsCreate(); }
     bool IsInDrag() override { return m_gesture.InDrag(); }
     void ConstrainAngle(KestoPlatform::CPoint origin, KestoPlatform::CPoint& point, bool flag) override;
-    void ConstrainAnglePolar(KestoPlatform::CPoint origin, KestoPlatform::CPoint& point) override { ConstrainAngle(origin, point, false); }
+    void ConstrainAnglePolar(KestoPlatform::CPoint origin, KestoPlatform::CPoint& point) override
+    {
+        ConstrainAngle(origin, point, false);
+    }
     void Snap(const KestoPlatform::CPoint& in, KestoPlatform::CPoint& out) override;
     KestoPlatform::CString GetCurrentSelectionDescription() override;
     void AddContextItem(int hostCommand) override;
@@ -109,9 +115,11 @@ public:
 
     // IToolHelper
     int CreateColourControl(KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc) override;
-    bool ColourPicker(const KestoGDI::CColour* current, KestoGDI::CColour*& result, KestoPlatform::CWnd* owner) override;
+    bool ColourPicker(const KestoGDI::CColour* current, KestoGDI::CColour*& result,
+                      KestoPlatform::CWnd* owner) override;
     KestoGDI::CColour* ColourPicker(const KestoGDI::CColour* current, KestoPlatform::CWnd* owner) override;
-    KestoGDI::CColour* AskUserForNewColour(const KestoGDI::CColour* current, KestoPlatform::CPoint where, KestoPlatform::CWnd* owner) override;
+    KestoGDI::CColour* AskUserForNewColour(const KestoGDI::CColour* current, KestoPlatform::CPoint where,
+                                           KestoPlatform::CWnd* owner) override;
     bool IsFillTypeAvailable(KestoGDI::CFill*) override { return true; }
     bool IsTransparencyTypeAvailable(KestoGDI::CFill*) override { return true; }
     bool GetDialogSetting() override { return true; }
@@ -134,7 +142,7 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    bool focusNextPrevChild(bool) override { return false; }  // Tab cycles handles here
+    bool focusNextPrevChild(bool) override { return false; } // Tab cycles handles here
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
     void dragLeaveEvent(QDragLeaveEvent* event) override;
@@ -172,7 +180,7 @@ private:
 
     double m_zoom = 0.2;
     QPointF m_pan{20, 20};
-    bool m_fitOnResize = true;  // until the user zooms or pans, the page fits the window
+    bool m_fitOnResize = true; // until the user zooms or pans, the page fits the window
     int m_grid = 0;
     int m_angleStep = 1500;
 

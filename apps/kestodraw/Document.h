@@ -16,10 +16,10 @@ struct Shape {
     enum class Kind { Rectangle, Ellipse, Path };
 
     Kind kind = Kind::Rectangle;
-    KestoPlatform::CRect box;                  // normalized; a path's bounds
-    std::vector<KestoPlatform::CPoint> points;  // a path's corners
-    KestoKernel::RefPtr<const KestoGDI::CFill> fill;          // never null
-    KestoKernel::RefPtr<const KestoGDI::CFill> transparency;  // null: none
+    KestoPlatform::CRect box;                                // normalized; a path's bounds
+    std::vector<KestoPlatform::CPoint> points;               // a path's corners
+    KestoKernel::RefPtr<const KestoGDI::CFill> fill;         // never null
+    KestoKernel::RefPtr<const KestoGDI::CFill> transparency; // null: none
 
     QPainterPath Outline() const;
     // The name that starts every hint line about the shape ("Rectangle: ").

@@ -69,8 +69,9 @@ Shape ReadShape(const QJsonValue& value)
     const QJsonArray box = Array(in, "box");
     if (box.size() != 4)
         throw FormatError(QStringLiteral("\"box\" should be four numbers: left, top, right, bottom"));
-    shape.box = KestoPlatform::CRect(Coordinate(box[0], "\"box\""), Coordinate(box[1], "\"box\""), Coordinate(box[2], "\"box\""),
-                                Coordinate(box[3], "\"box\"")).Normalized();
+    shape.box = KestoPlatform::CRect(Coordinate(box[0], "\"box\""), Coordinate(box[1], "\"box\""),
+                                     Coordinate(box[2], "\"box\""), Coordinate(box[3], "\"box\""))
+                    .Normalized();
     if (shape.kind == Shape::Kind::Path) {
         const QJsonArray points = Array(in, "points");
         if (points.size() < 3 || points.size() > kMaxPathCorners)
@@ -112,13 +113,16 @@ Document DocumentFile::Read(const QByteArray& bytes)
     QJsonParseError parse{};
     const QJsonDocument json = QJsonDocument::fromJson(bytes, &parse);
     if (parse.error != QJsonParseError::NoError)
-        throw FormatError(QStringLiteral("it is not a JSON document (%1 at byte %2)").arg(parse.errorString()).arg(parse.offset));
+        throw FormatError(
+            QStringLiteral("it is not a JSON document (%1 at byte %2)").arg(parse.errorString()).arg(parse.offset));
     if (!json.isObject() || json.object().value("format").toString() != "kestodraw")
         throw FormatError(QStringLiteral("it is not a kestodraw drawing"));
     const QJsonObject root = json.object();
     const int version = Int(root, "version", 0, 1 << 30);
     if (version > Version)
-        throw FormatError(QStringLiteral("it was saved by a newer kestodraw (format version %1; this one reads %2)").arg(version).arg(Version));
+        throw FormatError(QStringLiteral("it was saved by a newer kestodraw (format version %1; this one reads %2)")
+                              .arg(version)
+                              .arg(Version));
     Document document;
     const QJsonArray page = Array(root, "page");
     if (page.size() != 2)

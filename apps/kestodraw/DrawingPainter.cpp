@@ -54,7 +54,7 @@ void DrawingPainter::PaintShape(QPainter& painter, const Shape& shape, const QTr
     if (const std::optional<KestoRaster::Paint>& paint = PaintOf(*shape.fill, scale))
         Render(PreparedPaint(*paint, toLayer, Output::Argb32), fillTarget, all);
     else
-        fill.fill(QColor(200, 200, 200));  // a kind the renderer does not paint shows as plain grey
+        fill.fill(QColor(200, 200, 200)); // a kind the renderer does not paint shows as plain grey
 
     QImage shown = fill;
     if (shape.transparency) {

@@ -35,7 +35,10 @@ constexpr double kLimit = Kesto2D::CoordinateLimit;
 // Bitmaps in documents are tiles; anything larger is a damaged or hostile file.
 constexpr int kMaxBitmapSide = 4096;
 
-QJsonArray WritePoint(double x, double y) { return {x, y}; }
+QJsonArray WritePoint(double x, double y)
+{
+    return {x, y};
+}
 
 K2DDblPoint ReadPoint(const QJsonValue& value, const QString& what)
 {
@@ -94,7 +97,8 @@ QString WriteBitmap(const CLtBitmap& bitmap)
 {
     QImage image(bitmap.GetWidth(), bitmap.GetHeight(), QImage::Format_ARGB32);
     for (int y = 0; y < bitmap.GetHeight(); ++y)
-        std::memcpy(image.scanLine(y), bitmap.GetBits() + static_cast<std::size_t>(y) * bitmap.GetWidth(), sizeof(std::uint32_t) * bitmap.GetWidth());
+        std::memcpy(image.scanLine(y), bitmap.GetBits() + static_cast<std::size_t>(y) * bitmap.GetWidth(),
+                    sizeof(std::uint32_t) * bitmap.GetWidth());
     QBuffer png;
     png.open(QIODevice::WriteOnly);
     image.save(&png, "PNG");
@@ -103,12 +107,15 @@ QString WriteBitmap(const CLtBitmap& bitmap)
 
 RefPtr<const CLtBitmap> ReadBitmap(const QString& base64)
 {
-    const QImage image = QImage::fromData(QByteArray::fromBase64(base64.toLatin1()), "PNG").convertToFormat(QImage::Format_ARGB32);
+    const QImage image =
+        QImage::fromData(QByteArray::fromBase64(base64.toLatin1()), "PNG").convertToFormat(QImage::Format_ARGB32);
     if (image.isNull() || image.width() > kMaxBitmapSide || image.height() > kMaxBitmapSide)
-        throw FormatError(QStringLiteral("\"bitmap\" should be a PNG image of at most %1 pixels a side").arg(kMaxBitmapSide));
+        throw FormatError(
+            QStringLiteral("\"bitmap\" should be a PNG image of at most %1 pixels a side").arg(kMaxBitmapSide));
     RefPtr<CLtBitmap> bitmap(new CLtBitmap(image.width(), image.height()));
     for (int y = 0; y < image.height(); ++y)
-        std::memcpy(bitmap->GetBits() + static_cast<std::size_t>(y) * bitmap->GetWidth(), image.constScanLine(y), sizeof(std::uint32_t) * image.width());
+        std::memcpy(bitmap->GetBits() + static_cast<std::size_t>(y) * bitmap->GetWidth(), image.constScanLine(y),
+                    sizeof(std::uint32_t) * image.width());
     return bitmap;
 }
 
@@ -124,9 +131,18 @@ QJsonArray WritePath(const KestoRaster::Path& path)
     for (const Verb verb : path.Verbs()) {
         QJsonArray segment;
         switch (verb) {
-        case Verb::Move: segment << "M"; take(segment, 1); break;
-        case Verb::Line: segment << "L"; take(segment, 1); break;
-        case Verb::Cubic: segment << "C"; take(segment, 3); break;
+        case Verb::Move:
+            segment << "M";
+            take(segment, 1);
+            break;
+        case Verb::Line:
+            segment << "L";
+            take(segment, 1);
+            break;
+        case Verb::Cubic:
+            segment << "C";
+            take(segment, 3);
+            break;
         case Verb::Close: segment << "Z"; break;
         }
         out.append(segment);
@@ -284,7 +300,8 @@ public:
         fill.SetGrid(columns, rows, CRect());
         const QJsonArray nodes = Array(m_in, "nodes");
         if (nodes.size() != columns * rows)
-            throw FormatError(QStringLiteral("\"nodes\" should hold a colour for each of the %1 nodes").arg(columns * rows));
+            throw FormatError(
+                QStringLiteral("\"nodes\" should hold a colour for each of the %1 nodes").arg(columns * rows));
         for (int i = 0; i < columns * rows; ++i)
             fill.SetNodeColour(i % columns, i / columns, *FillJson::ReadColour(nodes[i]));
     }
@@ -304,7 +321,8 @@ public:
         fill.SetFlipped(flipped.at(0).toBool(), flipped.at(1).toBool());
         // The fill keeps the inverse of the object transform it was made independent of.
         const K2DLtGeneral kept = ReadTransform(m_in, "objectTransform");
-        fill.SetScaleRotateIndependentOfObject(Bool(m_in, "independent"), kept.HasInverse() ? kept.GetInverse() : K2DLtGeneral());
+        fill.SetScaleRotateIndependentOfObject(Bool(m_in, "independent"),
+                                               kept.HasInverse() ? kept.GetInverse() : K2DLtGeneral());
         const QJsonArray box = Array(m_in, "objectBox");
         if (box.size() != 4)
             throw FormatError(QStringLiteral("\"objectBox\" should be four numbers"));
@@ -332,10 +350,12 @@ KestoKernel::RefPtr<CFill> ReadFill(const QJsonValue& value, int depth)
     const QJsonObject in = Object(value, QStringLiteral("a fill"));
     const int type = Int(in, "type", 0, 1000);
     const bool transparency = Bool(in, "transparency");
-    const CRuntimeClass* kind = transparency ? CTransparency::GetRuntimeClassFromType(type) : CFill::GetRuntimeClassFromType(type);
+    const CRuntimeClass* kind =
+        transparency ? CTransparency::GetRuntimeClassFromType(type) : CFill::GetRuntimeClassFromType(type);
     KestoKernel::RefPtr<CFill> fill = CFill::CreateFromClass(kind);
     if (!fill)
-        throw FormatError(QStringLiteral("there is no %1 of type %2").arg(transparency ? "transparency" : "fill").arg(type));
+        throw FormatError(
+            QStringLiteral("there is no %1 of type %2").arg(transparency ? "transparency" : "fill").arg(type));
     fill->SetAlpha(Int(in, "alpha", 0, 255));
     fill->SetBlendMode(static_cast<BlendMode>(Int(in, "blend", 0, static_cast<int>(BlendMode::Difference))));
     fill->SetOverprint(Bool(in, "overprint"));
@@ -346,7 +366,9 @@ KestoKernel::RefPtr<CFill> ReadFill(const QJsonValue& value, int depth)
     for (const QJsonValue& point : Array(in, "controls"))
         controls.push_back(ReadPoint(point, "a control point"));
     if (!fill->SetControlPoints(controls))
-        throw FormatError(QStringLiteral("this kind of fill has %1 control points, not %2").arg(fill->GetControlCount()).arg(controls.size()));
+        throw FormatError(QStringLiteral("this kind of fill has %1 control points, not %2")
+                              .arg(fill->GetControlCount())
+                              .arg(controls.size()));
     if (auto* withStops = dynamic_cast<CFillWithStops*>(fill.get())) {
         if (!withStops->SetColourIntPairs(ReadStops(Array(in, "stops"))))
             throw FormatError(QStringLiteral("this kind of fill cannot have that many stops"));
@@ -418,8 +440,9 @@ std::unique_ptr<CColour> FillJson::ReadColour(const QJsonValue& value)
     if (!ok || rgb.size() != 7 || rgb[0] != '#')
         throw FormatError(QStringLiteral("\"rgb\" should be a colour as #rrggbb"));
     const std::wstring name = in.value("name").toString().toStdWString();
-    return std::make_unique<CRGBColour>(KestoPlatform::RGB((value24 >> 16) & 0xFF, (value24 >> 8) & 0xFF, value24 & 0xFF),
-                                        name.empty() ? nullptr : name.c_str(), tint, alpha);
+    return std::make_unique<CRGBColour>(
+        KestoPlatform::RGB((value24 >> 16) & 0xFF, (value24 >> 8) & 0xFF, value24 & 0xFF),
+        name.empty() ? nullptr : name.c_str(), tint, alpha);
 }
 
 } // namespace KestoDraw

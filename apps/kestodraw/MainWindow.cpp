@@ -34,7 +34,8 @@ constexpr double kExportSide = 2000;
 
 MainWindow::MainWindow()
     : m_canvas(new Canvas(m_document, m_undo, this)), m_palette(new Palette(this)),
-      m_reportError([this](const QString& title, const QString& message) { QMessageBox::warning(this, title, message); })
+      m_reportError(
+          [this](const QString& title, const QString& message) { QMessageBox::warning(this, title, message); })
 {
     setCentralWidget(m_canvas);
     BuildMenus();
@@ -79,7 +80,9 @@ void MainWindow::BuildMenus()
             Open(path);
     });
     file->addAction(tr("&Save"), QKeySequence::Save, this, [this] {
-        const QString path = m_path.isEmpty() ? QFileDialog::getSaveFileName(this, tr("Save Drawing"), QString(), tr(kFileFilter)) : m_path;
+        const QString path = m_path.isEmpty()
+                                 ? QFileDialog::getSaveFileName(this, tr("Save Drawing"), QString(), tr(kFileFilter))
+                                 : m_path;
         if (!path.isEmpty())
             SaveAs(path);
     });
@@ -188,12 +191,14 @@ void MainWindow::UpdateKindBox()
         return;
     const bool transparency = m_canvas->EditsTransparency();
     const Shape& shape = m_document.shapes[m_canvas->Selected()];
-    const int current = transparency ? (shape.transparency ? shape.transparency->GetFillType() : 0) : shape.fill->GetFillType();
+    const int current =
+        transparency ? (shape.transparency ? shape.transparency->GetFillType() : 0) : shape.fill->GetFillType();
     m_kindBox->clear();
     for (const KestoGDI::FillKind& kind : KestoGDI::FillKinds::All()) {
         if (transparency && !kind.transparencyClass)
             continue;
-        m_kindBox->addItem(QString::fromWCharArray(transparency ? kind.transparencyName : kind.fillName), static_cast<int>(kind.type));
+        m_kindBox->addItem(QString::fromWCharArray(transparency ? kind.transparencyName : kind.fillName),
+                           static_cast<int>(kind.type));
         if (kind.type == current)
             m_kindBox->setCurrentIndex(m_kindBox->count() - 1);
     }
@@ -302,7 +307,8 @@ bool MainWindow::MaybeSave()
         return false;
     if (answer == QMessageBox::Discard)
         return true;
-    const QString path = m_path.isEmpty() ? QFileDialog::getSaveFileName(this, tr("Save Drawing"), QString(), tr(kFileFilter)) : m_path;
+    const QString path =
+        m_path.isEmpty() ? QFileDialog::getSaveFileName(this, tr("Save Drawing"), QString(), tr(kFileFilter)) : m_path;
     return !path.isEmpty() && SaveAs(path);
 }
 

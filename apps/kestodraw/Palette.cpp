@@ -29,9 +29,9 @@ Palette::Palette(QWidget* parent) : QWidget(parent)
         int r, g, b;
         const wchar_t* name;
     } colours[] = {
-        {0, 0, 0, L"Black"},        {255, 255, 255, L"White"},     {200, 30, 40, L"Red"},       {245, 130, 30, L"Orange"},
-        {250, 215, 40, L"Yellow"},  {60, 170, 70, L"Green"},       {30, 160, 170, L"Teal"},     {40, 90, 200, L"Blue"},
-        {110, 60, 170, L"Violet"},  {220, 80, 160, L"Pink"},       {130, 85, 50, L"Brown"},     {128, 128, 128, L"Grey"},
+        {0, 0, 0, L"Black"},       {255, 255, 255, L"White"}, {200, 30, 40, L"Red"},   {245, 130, 30, L"Orange"},
+        {250, 215, 40, L"Yellow"}, {60, 170, 70, L"Green"},   {30, 160, 170, L"Teal"}, {40, 90, 200, L"Blue"},
+        {110, 60, 170, L"Violet"}, {220, 80, 160, L"Pink"},   {130, 85, 50, L"Brown"}, {128, 128, 128, L"Grey"},
     };
     for (const auto& c : colours)
         m_swatches.push_back(std::make_unique<KestoGDI::CRGBColour>(KestoPlatform::RGB(c.r, c.g, c.b), c.name));
@@ -103,7 +103,8 @@ void Palette::mousePressEvent(QMouseEvent* event)
 
 void Palette::mouseMoveEvent(QMouseEvent* event)
 {
-    if (m_pressed < 0 || (event->position().toPoint() - m_pressAt).manhattanLength() < QApplication::startDragDistance())
+    if (m_pressed < 0 ||
+        (event->position().toPoint() - m_pressAt).manhattanLength() < QApplication::startDragDistance())
         return;
     auto* drag = new QDrag(this);
     auto* mime = new QMimeData;

@@ -58,7 +58,9 @@ bool ScriptPlayer::PlayStep(const QString& line)
         ok = ok && okX && okY;
         return p;
     };
-    const auto file = [&](qsizetype i) { return i < w.size() ? m_output.absoluteFilePath(w[i]) : (ok = false, QString()); };
+    const auto file = [&](qsizetype i) {
+        return i < w.size() ? m_output.absoluteFilePath(w[i]) : (ok = false, QString());
+    };
     Canvas& canvas = m_window.GetCanvas();
     if (verb == "mode" && w.size() == 2) {
         const QStringList modes{"select", "rectangle", "ellipse", "path"};
@@ -158,7 +160,9 @@ void ScriptPlayer::Drag(KestoPlatform::CPoint from, KestoPlatform::CPoint to, Qt
 {
     Press(from, modifiers);
     for (int i = 1; i <= kDragSteps; ++i) {
-        const auto along = [i](int a, int b) { return static_cast<int>(a + (static_cast<long long>(b) - a) * i / kDragSteps); };
+        const auto along = [i](int a, int b) {
+            return static_cast<int>(a + (static_cast<long long>(b) - a) * i / kDragSteps);
+        };
         Move(KestoPlatform::CPoint(along(from.x, to.x), along(from.y, to.y)), modifiers);
     }
     Release(to, modifiers);
@@ -193,9 +197,11 @@ bool ScriptPlayer::ChooseKind(int type)
     int index = -1;
     if (canvas.Tool()) {
         // The tool's own type combo: the item whose data is the type.
-        const int id = KestoTool::ToolIdMap::GetInstance().MapIDToApp(KestoTool::FillToolKey, KestoTool::FillCmdEditType);
+        const int id =
+            KestoTool::ToolIdMap::GetInstance().MapIDToApp(KestoTool::FillToolKey, KestoTool::FillCmdEditType);
         m_window.ContextBar().UpdateControls();
-        const auto* model = dynamic_cast<const KestoPlatform::CXTPControlComboBox*>(canvas.ContextBars()->FindControl(id));
+        const auto* model =
+            dynamic_cast<const KestoPlatform::CXTPControlComboBox*>(canvas.ContextBars()->FindControl(id));
         box = qobject_cast<QComboBox*>(m_window.ContextBar().WidgetOf(id));
         for (int i = 0; model && i < model->GetCount(); ++i) {
             if (model->GetItemData(i) == type)
@@ -222,7 +228,8 @@ void ScriptPlayer::Settle()
 void ScriptPlayer::Shoot(const QString& name)
 {
     ++m_shots;
-    const QString path = m_output.absoluteFilePath(QStringLiteral("%1-%2.png").arg(m_shots, 2, 10, QChar('0')).arg(name));
+    const QString path =
+        m_output.absoluteFilePath(QStringLiteral("%1-%2.png").arg(m_shots, 2, 10, QChar('0')).arg(name));
     m_window.grab().save(path, "PNG");
 }
 

@@ -44,7 +44,8 @@ public:
 
 private:
     QPointF ToWidget(KestoPlatform::CPoint at) const;
-    void SendMouse(int type, KestoPlatform::CPoint at, Qt::MouseButton button, Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers);
+    void SendMouse(int type, KestoPlatform::CPoint at, Qt::MouseButton button, Qt::MouseButtons buttons,
+                   Qt::KeyboardModifiers modifiers);
     void Settle();
     void Shoot(const QString& name);
 

@@ -2,7 +2,6 @@
 
 #include <kestotool/tool/SiteGeometry.h>
 
-
 void DemoHost::Drag(KestoPlatform::CPoint from, KestoPlatform::CPoint to, unsigned flags)
 {
     gesture.Press(*tool, from, flags, create);

@@ -16,10 +16,10 @@ public:
     explicit DemoHost(const KestoPlatform::CRect& object) : m_object(object) {}
 
     KestoTool::FillTool* tool = nullptr;
-    KestoKernel::RefPtr<KestoGDI::CFill> fill;   // the document's fill of the rectangle
+    KestoKernel::RefPtr<KestoGDI::CFill> fill; // the document's fill of the rectangle
     KestoTool::ToolGesture gesture;
-    bool create = false;   // the next Drag draws a new fill
-    int commits = 0;       // undo steps recorded
+    bool create = false; // the next Drag draws a new fill
+    int commits = 0;     // undo steps recorded
     std::wstring lastUndoName;
 
     // Plays one mouse gesture on the tool; the geometry it leaves is applied at the end.
@@ -28,7 +28,7 @@ public:
     void Click(KestoPlatform::CPoint at);
     const KestoPlatform::CRect& Object() const { return m_object; }
 
-    unsigned long GetToolColour() override { return 0xD77800; }  // a blue
+    unsigned long GetToolColour() override { return 0xD77800; } // a blue
     Kesto2D::K2DLtGeneral GetObjectToSpreadTransform() override { return {}; }
     Kesto2D::K2DLtGeneral GetAppObjectToSpreadTransform() override { return {}; }
     void ClientToPaper(KestoPlatform::SIZE*) override {}
@@ -37,7 +37,10 @@ public:
     bool IsCreate() override { return gesture.IsCreate(); }
     bool IsInDrag() override { return gesture.InDrag(); }
     void ConstrainAngle(KestoPlatform::CPoint origin, KestoPlatform::CPoint& point, bool flag) override;
-    void ConstrainAnglePolar(KestoPlatform::CPoint origin, KestoPlatform::CPoint& point) override { ConstrainAngle(origin, point, false); }
+    void ConstrainAnglePolar(KestoPlatform::CPoint origin, KestoPlatform::CPoint& point) override
+    {
+        ConstrainAngle(origin, point, false);
+    }
     void Snap(const KestoPlatform::CPoint& in, KestoPlatform::CPoint& out) override;
     KestoPlatform::CString GetCurrentSelectionDescription() override { return L"Rectangle: "; }
     void AddContextItem(int) override {}
@@ -61,7 +64,8 @@ public:
         return false;
     }
     KestoGDI::CColour* ColourPicker(const KestoGDI::CColour*, KestoPlatform::CWnd*) override { return nullptr; }
-    KestoGDI::CColour* AskUserForNewColour(const KestoGDI::CColour*, KestoPlatform::CPoint, KestoPlatform::CWnd*) override
+    KestoGDI::CColour* AskUserForNewColour(const KestoGDI::CColour*, KestoPlatform::CPoint,
+                                           KestoPlatform::CWnd*) override
     {
         return nullptr;
     }

@@ -13,14 +13,15 @@ double Cover(double halfWidth, double distance)
 } // namespace
 
 template <class Coverage>
-void PixelRenderTarget::Paint(double left, double top, double right, double bottom, KestoPlatform::COLORREF colour, int alpha,
-                              Coverage coverage)
+void PixelRenderTarget::Paint(double left, double top, double right, double bottom, KestoPlatform::COLORREF colour,
+                              int alpha, Coverage coverage)
 {
     const int x0 = std::max(0, static_cast<int>(std::floor(left)) - 1);
     const int y0 = std::max(0, static_cast<int>(std::floor(top)) - 1);
     const int x1 = std::min(m_width, static_cast<int>(std::ceil(right)) + 1);
     const int y1 = std::min(m_height, static_cast<int>(std::ceil(bottom)) + 1);
-    const double channels[3] = {static_cast<double>(KestoPlatform::GetRValue(colour)), static_cast<double>(KestoPlatform::GetGValue(colour)),
+    const double channels[3] = {static_cast<double>(KestoPlatform::GetRValue(colour)),
+                                static_cast<double>(KestoPlatform::GetGValue(colour)),
                                 static_cast<double>(KestoPlatform::GetBValue(colour))};
     for (int y = y0; y < y1; ++y) {
         for (int x = x0; x < x1; ++x) {
@@ -42,8 +43,8 @@ void PixelRenderTarget::Segment(double ax, double ay, double bx, double by, cons
     const double half = pen.width / 2;
     const double dx = bx - ax, dy = by - ay;
     const double length2 = dx * dx + dy * dy;
-    Paint(std::min(ax, bx) - half, std::min(ay, by) - half, std::max(ax, bx) + half, std::max(ay, by) + half, pen.colour,
-          pen.alpha, [&](double x, double y) {
+    Paint(std::min(ax, bx) - half, std::min(ay, by) - half, std::max(ax, bx) + half, std::max(ay, by) + half,
+          pen.colour, pen.alpha, [&](double x, double y) {
               const double t = length2 > 0 ? std::clamp(((x - ax) * dx + (y - ay) * dy) / length2, 0.0, 1.0) : 0.0;
               return Cover(half, std::hypot(x - (ax + t * dx), y - (ay + t * dy)));
           });
@@ -71,7 +72,8 @@ void PixelRenderTarget::DrawCircle(const KestoPlatform::CPoint& centre, int radi
     Ring(centre.x, centre.y, radius, pen);
 }
 
-void PixelRenderTarget::DrawLine(const KestoPlatform::CPoint& a, const KestoPlatform::CPoint& b, const KestoGDI::RenderPen& pen)
+void PixelRenderTarget::DrawLine(const KestoPlatform::CPoint& a, const KestoPlatform::CPoint& b,
+                                 const KestoGDI::RenderPen& pen)
 {
     Segment(a.x, a.y, b.x, b.y, pen);
 }

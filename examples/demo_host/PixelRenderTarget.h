@@ -9,13 +9,16 @@
 // lines and handles over its fill.
 class PixelRenderTarget : public KestoGDI::IRenderTarget {
 public:
-    PixelRenderTarget(std::uint32_t* pixels, int width, int height) : m_pixels(pixels), m_width(width), m_height(height) {}
+    PixelRenderTarget(std::uint32_t* pixels, int width, int height) : m_pixels(pixels), m_width(width), m_height(height)
+    {
+    }
 
     double ScalePixels(double pixels) const override { return pixels; }
     void DrawDisc(const KestoPlatform::CPoint& centre, int radius, const KestoGDI::RenderBrush& fill,
                   const std::optional<KestoGDI::RenderPen>& outline) override;
     void DrawCircle(const KestoPlatform::CPoint& centre, int radius, const KestoGDI::RenderPen& pen) override;
-    void DrawLine(const KestoPlatform::CPoint& a, const KestoPlatform::CPoint& b, const KestoGDI::RenderPen& pen) override;
+    void DrawLine(const KestoPlatform::CPoint& a, const KestoPlatform::CPoint& b,
+                  const KestoGDI::RenderPen& pen) override;
     void DrawPolyline(const Kesto2D::K2DArrayPoint& points, const KestoGDI::RenderPen& pen) override;
     void DrawCurve(const Kesto2D::K2DCurve& curve, const KestoGDI::RenderPen& pen) override;
 

@@ -45,8 +45,8 @@ void ReportStep(const char* step, DemoHost& host, KestoTool::FillTool& tool, int
         std::cout << ' ' << Point(p);
     std::cout << "  (current " << tool.GetCurrentNode() << ")\n";
     if (host.commits > commitsBefore)
-        std::cout << "   commit:  \"" << KestoPlatform::CString(host.lastUndoName).ToUtf8() << "\" " << DescribeFill(*host.fill)
-                  << '\n';
+        std::cout << "   commit:  \"" << KestoPlatform::CString(host.lastUndoName).ToUtf8() << "\" "
+                  << DescribeFill(*host.fill) << '\n';
     else
         std::cout << "   commit:  none\n";
 }

@@ -34,8 +34,8 @@ void SvgRenderTarget::DrawDisc(const KestoPlatform::CPoint& centre, int radius, 
                                const std::optional<KestoGDI::RenderPen>& outline)
 {
     char text[160];
-    std::snprintf(text, sizeof text, "<circle cx=\"%d\" cy=\"%d\" r=\"%d\" fill=\"%s\" fill-opacity=\"%.3f\"",
-                  centre.x, centre.y, radius, SvgColour(fill.colour).c_str(), fill.alpha / 255.0);
+    std::snprintf(text, sizeof text, "<circle cx=\"%d\" cy=\"%d\" r=\"%d\" fill=\"%s\" fill-opacity=\"%.3f\"", centre.x,
+                  centre.y, radius, SvgColour(fill.colour).c_str(), fill.alpha / 255.0);
     m_svg += text + (outline ? Stroke(*outline) : std::string()) + "/>\n";
 }
 
@@ -45,11 +45,11 @@ void SvgRenderTarget::DrawCircle(const KestoPlatform::CPoint& centre, int radius
              std::to_string(radius) + "\" fill=\"none\"" + Stroke(pen) + "/>\n";
 }
 
-void SvgRenderTarget::DrawLine(const KestoPlatform::CPoint& a, const KestoPlatform::CPoint& b, const KestoGDI::RenderPen& pen)
+void SvgRenderTarget::DrawLine(const KestoPlatform::CPoint& a, const KestoPlatform::CPoint& b,
+                               const KestoGDI::RenderPen& pen)
 {
-    m_svg += "<line x1=\"" + std::to_string(a.x) + "\" y1=\"" + std::to_string(a.y) + "\" x2=\"" +
-             std::to_string(b.x) + "\" y2=\"" + std::to_string(b.y) + "\"" + Stroke(pen) +
-             " stroke-linecap=\"round\"/>\n";
+    m_svg += "<line x1=\"" + std::to_string(a.x) + "\" y1=\"" + std::to_string(a.y) + "\" x2=\"" + std::to_string(b.x) +
+             "\" y2=\"" + std::to_string(b.y) + "\"" + Stroke(pen) + " stroke-linecap=\"round\"/>\n";
 }
 
 void SvgRenderTarget::DrawPolyline(const Kesto2D::K2DArrayPoint& points, const KestoGDI::RenderPen& pen)

@@ -11,7 +11,8 @@ public:
     void DrawDisc(const KestoPlatform::CPoint& centre, int radius, const KestoGDI::RenderBrush& fill,
                   const std::optional<KestoGDI::RenderPen>& outline) override;
     void DrawCircle(const KestoPlatform::CPoint& centre, int radius, const KestoGDI::RenderPen& pen) override;
-    void DrawLine(const KestoPlatform::CPoint& a, const KestoPlatform::CPoint& b, const KestoGDI::RenderPen& pen) override;
+    void DrawLine(const KestoPlatform::CPoint& a, const KestoPlatform::CPoint& b,
+                  const KestoGDI::RenderPen& pen) override;
     void DrawPolyline(const Kesto2D::K2DArrayPoint& points, const KestoGDI::RenderPen& pen) override;
     void DrawCurve(const Kesto2D::K2DCurve& curve, const KestoGDI::RenderPen& pen) override;
 

@@ -62,7 +62,10 @@ const std::uint8_t* Glyph(char c)
 
 class Canvas {
 public:
-    Canvas(int width, int height) : m_width(width), m_height(height), m_pixels(static_cast<std::size_t>(width) * height, 0xFFFFFFFF) {}
+    Canvas(int width, int height)
+        : m_width(width), m_height(height), m_pixels(static_cast<std::size_t>(width) * height, 0xFFFFFFFF)
+    {
+    }
 
     Target Argb() { return {m_pixels.data(), m_width, m_height, m_width * 4, Output::Argb32}; }
     int Width() const { return m_width; }

@@ -36,7 +36,8 @@ public:
     void AddContextItem(int hostCommand) override
     {
         bars.CreateControl(
-            hostCommand, true, [this](KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc) { return tool->OnCreateControl(cc); },
+            hostCommand, true,
+            [this](KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc) { return tool->OnCreateControl(cc); },
             [this](KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc) { tool->OnAfterCreateControl(cc); });
     }
 

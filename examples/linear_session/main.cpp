@@ -46,10 +46,10 @@ std::string Picture(const DemoHost& host, const FillTool& tool)
            "<rect width=\"20\" height=\"20\" fill=\"#ffffff\"/><rect width=\"10\" height=\"10\" fill=\"#d0d0d0\"/>"
            "<rect x=\"10\" y=\"10\" width=\"10\" height=\"10\" fill=\"#d0d0d0\"/></pattern>\n";
     char head[200];
-    std::snprintf(head, sizeof head,
-                  "<linearGradient id=\"fill\" gradientUnits=\"userSpaceOnUse\" x1=\"%g\" y1=\"%g\" x2=\"%g\" y2=\"%g\">\n",
-                  line.GetStart().x + margin, line.GetStart().y + margin, line.GetEnd().x + margin,
-                  line.GetEnd().y + margin);
+    std::snprintf(
+        head, sizeof head,
+        "<linearGradient id=\"fill\" gradientUnits=\"userSpaceOnUse\" x1=\"%g\" y1=\"%g\" x2=\"%g\" y2=\"%g\">\n",
+        line.GetStart().x + margin, line.GetStart().y + margin, line.GetEnd().x + margin, line.GetEnd().y + margin);
     svg += head;
     for (const auto& stop : line.GetColourIntPairs()) {
         char text[120];
@@ -60,7 +60,8 @@ std::string Picture(const DemoHost& host, const FillTool& tool)
     }
     svg += "</linearGradient></defs>\n";
     const std::string box = "x=\"" + std::to_string(r.left + margin) + "\" y=\"" + std::to_string(r.top + margin) +
-                            "\" width=\"" + std::to_string(r.Width()) + "\" height=\"" + std::to_string(r.Height()) + "\"";
+                            "\" width=\"" + std::to_string(r.Width()) + "\" height=\"" + std::to_string(r.Height()) +
+                            "\"";
     svg += "<rect " + box + " fill=\"url(#checks)\"/>\n<rect " + box + " fill=\"url(#fill)\" stroke=\"#333333\"/>\n";
     SvgRenderTarget target;
     K2DLtGeneral view;

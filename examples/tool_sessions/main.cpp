@@ -4,8 +4,8 @@
 // prints every step. Each result is written as a picture painted by the renderer with the
 // tool's own lines and handles over it.
 #include "DemoHost.h"
-#include "SessionLog.h"
 #include "SampleMotif.h"
+#include "SessionLog.h"
 #include "SessionPicture.h"
 
 #include <kestotool/filltool/FillToolFactory.h>
@@ -42,7 +42,8 @@ const KestoPlatform::CRect kObject(0, 0, 400, 240);
 // One session's host and tool, and the steps a script plays on them.
 class Player {
 public:
-    explicit Player(KestoKernel::RefPtr<CFill> fill, const KestoPlatform::CRect& object = kObject, double unitsPerPixel = 1)
+    explicit Player(KestoKernel::RefPtr<CFill> fill, const KestoPlatform::CRect& object = kObject,
+                    double unitsPerPixel = 1)
         : m_host(object), m_unitsPerPixel(unitsPerPixel)
     {
         m_host.fill = std::move(fill);
@@ -151,7 +152,8 @@ void PlayStops(Player& p, const std::function<CPoint(const CFill&, double)>& alo
 {
     p.Create("drag out a new fill with Ctrl: it starts at the object's centre");
     p.DragHandle("drag the first handle by (24, 16)", 0, 24, 16);
-    p.DragHandle("drag the last stop's handle with Shift: the angle snaps to 15-degree steps", 1, -30, 50, DragFlagShift);
+    p.DragHandle("drag the last stop's handle with Shift: the angle snaps to 15-degree steps", 1, -30, 50,
+                 DragFlagShift);
     if (p.HandleCount() > 2)
         p.DragHandle("drag the extra handle with Ctrl", 2, 10, -25, DragFlagCtrl);
     p.Drop("drop orange at 40% of the line", along(p.Fill(), 0.4), kOrange);
@@ -226,12 +228,14 @@ int main(int argc, char** argv)
         Run("elliptical", Starting<KestoGDI::CFillEllipse>({kNavy, kGold}), stops(AlongAxis), directory) &&
         Run("conical", Starting<KestoGDI::CFillConical>({kNavy, kGold}), stops(AroundHalfCircle), directory) &&
         Run("square", Starting<KestoGDI::CFillSquare>({kNavy, kGold}), stops(AlongAxis), directory) &&
-        Run("three-colour", Starting<KestoGDI::CFillThreeColour>({kNavy, kGold, KestoPlatform::RGB(200, 40, 90)}), PlayCorners,
-            directory) &&
-        Run("four-colour",
-            Starting<KestoGDI::CFillFourColour>({kNavy, kGold, KestoPlatform::RGB(200, 40, 90), KestoPlatform::RGB(40, 170, 90)}),
+        Run("three-colour", Starting<KestoGDI::CFillThreeColour>({kNavy, kGold, KestoPlatform::RGB(200, 40, 90)}),
             PlayCorners, directory) &&
-        Run("plasma", Starting<KestoGDI::CFillFractal>({kNavy, kGold}),
+        Run("four-colour",
+            Starting<KestoGDI::CFillFourColour>(
+                {kNavy, kGold, KestoPlatform::RGB(200, 40, 90), KestoPlatform::RGB(40, 170, 90)}),
+            PlayCorners, directory) &&
+        Run(
+            "plasma", Starting<KestoGDI::CFillFractal>({kNavy, kGold}),
             [](Player& p) {
                 p.Create("drag out a new plasma with Ctrl: it starts at the object's centre");
                 const int p1 = p.HandleCount() - 2;
@@ -242,10 +246,12 @@ int main(int argc, char** argv)
                 p.Drag("slide it to a quarter", AlongAxis(p.Fill(), 0.5), AlongAxis(p.Fill(), 0.25));
             },
             directory) &&
-        Run("bitmap", bricks.Clone(),
+        Run(
+            "bitmap", bricks.Clone(),
             [](Player& p) {
                 p.DragHandle("drag P1 by (40, 30): the tile turns and grows, P2 turns with it", 1, 40, 30);
-                p.DragHandle("drag P1 with Shift alone: no constraint, as if Shift were not held", 1, 7, 3, DragFlagShift);
+                p.DragHandle("drag P1 with Shift alone: no constraint, as if Shift were not held", 1, 7, 3,
+                             DragFlagShift);
                 p.DragHandle("drag P2 with Ctrl: P1 moves by the perpendicular offset", 2, -20, 10, DragFlagCtrl);
                 p.DragHandle("drag P0 by (60, 40): the tile moves", 0, 60, 40);
             },

@@ -18,9 +18,9 @@
 #include "kestotool/gdi/CTransparencyThreePoint.h"
 #include "kestotool/platform/CXTPControlComboBox.h"
 #include "kestotool/resources/ResourceIds.h"
+#include "kestotool/ui/KCResourceDialog.h"
 #include "support/TestDocument.h"
 #include "support/UserInput.h"
-#include "kestotool/ui/KCResourceDialog.h"
 
 #include <gtest/gtest.h>
 
@@ -32,8 +32,8 @@ using KestoTest::UserInput;
 
 namespace {
 
-constexpr int kChooser = -2;  // the host's colour chooser rather than a dialog
-constexpr int kNothing = -3;  // no editor at all
+constexpr int kChooser = -2; // the host's colour chooser rather than a dialog
+constexpr int kNothing = -3; // no editor at all
 
 // Runs on every window back end.
 struct EditorTest : testing::TestWithParam<UserInput*> {
@@ -160,9 +160,9 @@ TEST_P(EditorTest, TransparenciesReachTheirEditorsWithOrWithoutADocument)
         EXPECT_EQ(opened, row.expected);
         EXPECT_EQ(bool(result), row.expected != kNothing);
         if (row.expected == IDD_SOLID_TRANSPARENCY) {
-            EXPECT_EQ(openedParent, nullptr);  // this dialog never gets the parent
+            EXPECT_EQ(openedParent, nullptr); // this dialog never gets the parent
         } else if (row.expected != kNothing) {
-            EXPECT_FALSE(thirdButtonShown);  // no document: the setting is no
+            EXPECT_FALSE(thirdButtonShown); // no document: the setting is no
         }
     }
 }
@@ -189,14 +189,14 @@ TEST(TypeCombos, FilledOnceWithTheOfferedKindsAndKeptInStep)
     KestoPlatform::CXTPControlComboBox transparencies;
     PopulateTransTypeCombo(&helper, &transparencies);
     EXPECT_EQ(transparencies.GetCount(), 11);
-    EXPECT_EQ(transparencies.GetDropDownItemCount(), 0);  // left alone, unlike the fill combo
+    EXPECT_EQ(transparencies.GetDropDownItemCount(), 0); // left alone, unlike the fill combo
     SetCurrentTransComboIndex(&transparencies, std::make_unique<CTransparencyLinear>().get());
     EXPECT_EQ(transparencies.GetCurSel(), 2);
     SetCurrentTransComboIndex(&transparencies, std::make_unique<CFillVector>().get());
     EXPECT_EQ(transparencies.GetCurSel(), -1);
 
     KestoPlatform::CXTPControlButton notACombo;
-    PopulateFillTypeCombo(&helper, &notACombo);  // ignored
+    PopulateFillTypeCombo(&helper, &notACombo); // ignored
     SetCurrentFillComboIndex(&fills, nullptr);
     EXPECT_EQ(fills.GetCurSel(), -1);
 }

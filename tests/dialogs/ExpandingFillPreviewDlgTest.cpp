@@ -83,7 +83,7 @@ TEST(ExpandingFillPreviewDlg, AKindWithoutAToolKeepsThePreviousTool)
     CGradientFillDlg none(&document, nullptr, CRect(0, 0, 100, 100), nullptr);
     none.SetEditedFill(&solid);
     EXPECT_EQ(none.GetTool(), nullptr);
-    none.PreviewPress(CPoint(10, 10), 0);  // goes nowhere
+    none.PreviewPress(CPoint(10, 10), 0); // goes nowhere
     EXPECT_FALSE(none.IsInDrag());
 
     const CFillLinear fill = Linear(CRect(0, 0, 100, 100));
@@ -107,8 +107,8 @@ TEST(ExpandingFillPreviewDlg, APreviewDragCommitsToTheDialogByItsRule)
 
     CGradientFillDlg stops(&document, &fill, CRect(0, 0, 1000, 1000), nullptr);
     CThreeAndFourColourFillDlg toolOnly(&document, &fill, CRect(0, 0, 1000, 1000), nullptr);
-    for (ExpandingFillPreviewDlg* dialog : {static_cast<ExpandingFillPreviewDlg*>(&stops),
-                                            static_cast<ExpandingFillPreviewDlg*>(&toolOnly)}) {
+    for (ExpandingFillPreviewDlg* dialog :
+         {static_cast<ExpandingFillPreviewDlg*>(&stops), static_cast<ExpandingFillPreviewDlg*>(&toolOnly)}) {
         dialog->PreviewPress(end, 0);
         EXPECT_TRUE(dialog->IsInDrag());
         dialog->PreviewMove(moved, 0);

@@ -133,7 +133,7 @@ TEST_P(FillEditors, GradientStopsKindAngleAndPreviewDragComeBackOnOK)
     const RefPtr<CFill> result = dialog.TakeFill();
     ASSERT_NE(result, nullptr);
     EXPECT_TRUE(result->IsEqual(*dialog.GetFill()));
-    EXPECT_EQ(StopsOf(&linear), RedToBlue());  // the caller's fill is never touched
+    EXPECT_EQ(StopsOf(&linear), RedToBlue()); // the caller's fill is never touched
 }
 
 TEST_P(FillEditors, CancelHandsBackNothing)
@@ -180,8 +180,8 @@ TEST_P(FillEditors, PlasmaPatternControls)
         EXPECT_EQ(dialog.GetSeedEdit().GetWindowText(), KestoPlatform::CString(L"7"));
         input.ClickButton(dialog, IDC_PLASMA_NEW_SEED);
         EXPECT_EQ(dialog.GetSeedEdit().GetWindowText(), KestoPlatform::CString(L"424242"));
-        Enter(dialog.GetResolutionEdit(), L"5000", dialog.GetSeedEdit());  // clamped
-        Enter(dialog.GetSeedEdit(), L"-3", dialog.GetResolutionEdit());     // refused
+        Enter(dialog.GetResolutionEdit(), L"5000", dialog.GetSeedEdit()); // clamped
+        Enter(dialog.GetSeedEdit(), L"-3", dialog.GetResolutionEdit());   // refused
         input.DragSlider(dialog.GetGrainSlider(), 80);
         input.ClickButton(dialog, IDC_PLASMA_INVERT);
         EXPECT_TRUE(dialog.GetInvertBox().GetCheck());
@@ -206,7 +206,7 @@ TEST_P(FillEditors, CornerColoursAndLevelsCommitToTheTool)
     CThreeAndFourColourFillDlg fillDialog(&document, &three, kObject, nullptr);
     input.SetColourScript([](KestoPlatform::COLORREF) { return RGB(9, 9, 9); });
     input.SetModalScript([&](KestoPlatform::CDialog&) {
-        EXPECT_FALSE(fillDialog.GetColourButton(3).IsWindowVisible());  // three corners
+        EXPECT_FALSE(fillDialog.GetColourButton(3).IsWindowVisible()); // three corners
         EXPECT_FALSE(fillDialog.GetLevelEdit(0).IsWindowVisible());
         input.ClickButton(fillDialog, IDC_CORNER_COLOUR_FIRST + 1);
         input.ClickButton(fillDialog, KestoPlatform::IDOK);
@@ -225,7 +225,8 @@ TEST_P(FillEditors, CornerColoursAndLevelsCommitToTheTool)
         input.ClickButton(transpDialog, KestoPlatform::IDOK);
     });
     ASSERT_EQ(transpDialog.DoModal(), KestoPlatform::IDOK);
-    EXPECT_EQ(dynamic_cast<const CMonoColour&>(StopsOf(transpDialog.TakeFill().get()).GetAt(3)->GetColour()).GetLevel(), 255);
+    EXPECT_EQ(dynamic_cast<const CMonoColour&>(StopsOf(transpDialog.TakeFill().get()).GetAt(3)->GetColour()).GetLevel(),
+              255);
 }
 
 TEST_P(FillEditors, VectorModeResetAndTransformWithObject)
@@ -241,7 +242,8 @@ TEST_P(FillEditors, VectorModeResetAndTransformWithObject)
         EXPECT_EQ(dialog.GetTool()->GetControlBoxMode(), FillToolVector::SpacingMode);
         const bool withObject = dialog.GetTransformBox().GetCheck();
         input.ClickButton(dialog, IDC_VECTOR_TRANSFORM);
-        EXPECT_EQ(dynamic_cast<const CFillVector&>(*dialog.GetCurrentFill()).ScaleRotateIndependentOfObject(), withObject);
+        EXPECT_EQ(dynamic_cast<const CFillVector&>(*dialog.GetCurrentFill()).ScaleRotateIndependentOfObject(),
+                  withObject);
         input.ClickButton(dialog, IDC_VECTOR_RESET);
         input.ClickButton(dialog, KestoPlatform::IDOK);
     });

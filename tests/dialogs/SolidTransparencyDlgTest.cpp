@@ -77,7 +77,7 @@ TEST_P(SolidTransparencyDlgTest, UserDrivesSliderEditAndSpinThenConfirms)
         dlg.GetEdit().SetFocus();
         dlg.GetEdit().SetSel(0, -1);
         input.Type(L"250");
-        EXPECT_EQ(LevelOf(dlg.GetPreview().GetFill()), 51);  // nothing happens while typing
+        EXPECT_EQ(LevelOf(dlg.GetPreview().GetFill()), 51); // nothing happens while typing
         input.MoveFocus(&dlg.GetSlider());
         EXPECT_EQ(dlg.GetEdit().GetWindowText(), CString(L"100"));
         EXPECT_EQ(dlg.GetSlider().GetPos(), 100);
@@ -97,7 +97,7 @@ TEST_P(SolidTransparencyDlgTest, UserDrivesSliderEditAndSpinThenConfirms)
     });
     ASSERT_EQ(dialog.DoModal(), KestoPlatform::IDOK);
     EXPECT_EQ(LevelOf(dialog.GetTrans().get()), 26);
-    EXPECT_EQ(LevelOf(&original), 128);  // the caller's transparency is never touched
+    EXPECT_EQ(LevelOf(&original), 128); // the caller's transparency is never touched
 }
 
 TEST_P(SolidTransparencyDlgTest, WithoutATransparencyItStartsFullyTransparent)
@@ -121,7 +121,7 @@ TEST_P(SolidTransparencyDlgTest, SetTransHoldsACopyAndOnlyUpdateTransShowsIt)
     EXPECT_EQ(dialog.GetPreview().GetFill(), nullptr);
     dialog.UpdateTrans(&quarter);
     EXPECT_EQ(LevelOf(dialog.GetPreview().GetFill()), 64);
-    EXPECT_NE(dialog.GetTrans().get(), dialog.GetTrans().get());  // each call a new copy
+    EXPECT_NE(dialog.GetTrans().get(), dialog.GetTrans().get()); // each call a new copy
 }
 
 INSTANTIATE_TEST_SUITE_P(Backends, SolidTransparencyDlgTest, testing::ValuesIn(KestoTest::UserInputs()),

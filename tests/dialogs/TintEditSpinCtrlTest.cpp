@@ -21,7 +21,9 @@ constexpr int kSpinId = 101;
 constexpr int kOtherId = 102;
 
 const KestoPlatform::DialogTemplate kTemplate{
-    1, L"Tint", KestoPlatform::CRect(0, 0, 200, 100),
+    1,
+    L"Tint",
+    KestoPlatform::CRect(0, 0, 200, 100),
     {{"Edit", kTintId, KestoPlatform::CRect(10, 10, 60, 30), L""},
      {"Spin", kSpinId, KestoPlatform::CRect(60, 10, 75, 30), L""},
      {"Edit", kOtherId, KestoPlatform::CRect(10, 40, 60, 60), L""}},
@@ -46,7 +48,10 @@ public:
                                                                                : "other");
         return CDialog::OnCommand(param, control);
     }
-    KestoPlatform::CSpinButtonCtrl& Spin() { return dynamic_cast<KestoPlatform::CSpinButtonCtrl&>(*GetDlgItem(kSpinId)); }
+    KestoPlatform::CSpinButtonCtrl& Spin()
+    {
+        return dynamic_cast<KestoPlatform::CSpinButtonCtrl&>(*GetDlgItem(kSpinId));
+    }
 
 protected:
     void DoDataExchange(KestoPlatform::CDataExchange* pDX) override { tint.DDX(pDX, m_bindId); }
@@ -92,7 +97,7 @@ TEST(TintEditSpinCtrlText, TextFormsAndParsing)
     const struct {
         const wchar_t* text;
         int tint;
-    } parsed[] = {{L"0", 100},   {L"-0", -100}, {L"abc", 0},  {L"150", 0},   {L"+70", 30},
+    } parsed[] = {{L"0", 100},    {L"-0", -100}, {L"abc", 0}, {L"150", 0},  {L"+70", 30},
                   {L" 70% ", 30}, {L"-70", -30}, {L"100", 0}, {L"-101", 0}, {L"", 0}};
     for (const auto& row : parsed)
         EXPECT_EQ(CTintEditSpinCtrl::ParseTint(row.text), row.tint) << CString(row.text).ToUtf8();
@@ -103,7 +108,7 @@ TEST_P(TintEditSpinCtrl, ParsedValuesAreClampedToTheRange)
     TintDialog dialog(false);
     dialog.tint.SetRange(-50, 50);
     RunModal(dialog, [this](TintDialog& d) {
-        d.tint.SetWindowText(L"10");  // tint 90
+        d.tint.SetWindowText(L"10"); // tint 90
         d.tint.UpdateDataFromControl();
         EXPECT_EQ(d.tint.GetTint(), 50);
     });
@@ -117,14 +122,14 @@ TEST_P(TintEditSpinCtrl, TypingWithUpdateWhileTypingNotifiesAfterHalfASecondOfQu
         d.tint.SetSel(0, -1);
         input.Type(L"8");
         input.AdvanceClock(400);
-        input.Type(L"0");  // restarts the timer
+        input.Type(L"0"); // restarts the timer
         input.AdvanceClock(499);
         EXPECT_TRUE(d.commands.empty());
         input.AdvanceClock(1);
         EXPECT_EQ(d.commands, Commands{"changed"});
         EXPECT_EQ(d.tint.GetTint(), 20);
         EXPECT_EQ(d.tint.GetWindowText(), CString(L"+80%"));
-        input.AdvanceClock(5000);  // the timer stopped itself
+        input.AdvanceClock(5000); // the timer stopped itself
         EXPECT_EQ(d.commands.size(), 1u);
     });
 }
@@ -164,13 +169,13 @@ TEST_P(TintEditSpinCtrl, TypingWithoutUpdateWaitsForEnterOrFocusLoss)
         input.Type(L"-40");
         input.AdvanceClock(1000);
         EXPECT_EQ(d.tint.GetTint(), 0);
-        input.PressKey(KestoPlatform::VK_RETURN);  // parses, but neither redraws nor notifies
+        input.PressKey(KestoPlatform::VK_RETURN); // parses, but neither redraws nor notifies
         EXPECT_EQ(d.tint.GetTint(), -60);
         EXPECT_EQ(d.tint.GetWindowText(), CString(L"-40"));
         EXPECT_TRUE(d.commands.empty());
         input.MoveFocus(d.GetDlgItem(kOtherId));
         EXPECT_EQ(d.tint.GetWindowText(), CString(L"-40%"));
-        EXPECT_EQ(d.commands, (Commands{"other", "changed", "finished"}));  // EN_KILLFOCUS first
+        EXPECT_EQ(d.commands, (Commands{"other", "changed", "finished"})); // EN_KILLFOCUS first
     });
 }
 
@@ -215,9 +220,9 @@ TEST_P(TintEditSpinCtrl, SpinFollowsTheEditBoxWhenShownEnabledOrMoved)
         EXPECT_TRUE(d.Spin().IsWindowVisible());
         d.tint.EnableWindow(false);
         EXPECT_FALSE(d.Spin().IsWindowEnabled());
-        d.tint.MoveWindow(KestoPlatform::CRect(20, 15, 90, 35));  // moved by (10, 5) and resized
+        d.tint.MoveWindow(KestoPlatform::CRect(20, 15, 90, 35)); // moved by (10, 5) and resized
         EXPECT_EQ(d.Spin().GetWindowRect(), KestoPlatform::CRect(70, 15, 85, 35));
-        d.tint.SetWindowPos(0, 0, 10, 10, KestoPlatform::SWP_NOMOVE);  // a resize alone leaves it
+        d.tint.SetWindowPos(0, 0, 10, 10, KestoPlatform::SWP_NOMOVE); // a resize alone leaves it
         EXPECT_EQ(d.Spin().GetWindowRect(), KestoPlatform::CRect(70, 15, 85, 35));
     });
 }
@@ -226,7 +231,7 @@ TEST_P(TintEditSpinCtrl, AfterTheDialogClosesTheControlLeavesItsSpinAloneAndBind
 {
     TintDialog dialog(false);
     RunModal(dialog, [](TintDialog&) {});
-    dialog.tint.ShowWindow(KestoPlatform::SW_HIDE);  // the spin window is gone: nothing to touch
+    dialog.tint.ShowWindow(KestoPlatform::SW_HIDE); // the spin window is gone: nothing to touch
     dialog.tint.EnableWindow(false);
     RunModal(dialog, [this](TintDialog& d) {
         ASSERT_TRUE(d.tint.IsWindow());

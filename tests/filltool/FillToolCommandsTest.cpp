@@ -17,10 +17,10 @@
 #include "kestotool/platform/HeadlessBackend.h"
 #include "kestotool/platform/ScreenMetrics.h"
 #include "kestotool/resources/ResourceIds.h"
-#include "support/TestDocument.h"
-#include "support/TestToolSite.h"
 #include "kestotool/tool/ToolIdMap.h"
 #include "kestotool/ui/FillPreview.h"
+#include "support/TestDocument.h"
+#include "support/TestToolSite.h"
 
 #include <gtest/gtest.h>
 
@@ -55,7 +55,10 @@ protected:
         return tool;
     }
     int Host(int number) const { return base + number; }
-    bool Command(FillTool& tool, int number) { return tool.OnCmdMsg(Host(number), KestoPlatform::CN_COMMAND, nullptr, nullptr); }
+    bool Command(FillTool& tool, int number)
+    {
+        return tool.OnCmdMsg(Host(number), KestoPlatform::CN_COMMAND, nullptr, nullptr);
+    }
 };
 
 // Opens the hint composer to the tests.
@@ -75,7 +78,8 @@ TEST_F(CommandsTest, ContextBarGetsTheEditCommandTheContextItemAndAFilledTypeCom
     ASSERT_EQ(bars.GetCount(), 3);
     const CXTPControl* edit = bars.GetAt(0);
     EXPECT_EQ(edit->GetStyle(), KestoPlatform::XTPButtonStyle::IconAndCaption);
-    EXPECT_EQ(edit->GetPrompt(), CString(L"Edit the selected object's fill properties.\nFill editor dialog\nEdit Fill"));
+    EXPECT_EQ(edit->GetPrompt(),
+              CString(L"Edit the selected object's fill properties.\nFill editor dialog\nEdit Fill"));
     auto* combo = dynamic_cast<KestoPlatform::CXTPControlComboBox*>(bars.GetAt(2));
     ASSERT_NE(combo, nullptr);
     EXPECT_EQ(combo->GetCount(), 13);
@@ -99,7 +103,7 @@ struct CreateRow {
     int number;
     bool toolBar;
     bool handled;
-    XTPControlType type;  // the control the bars end up with
+    XTPControlType type; // the control the bars end up with
 };
 
 TEST_F(CommandsTest, ControlsAreCreatedByEachBranch)
@@ -126,7 +130,7 @@ TEST_F(CommandsTest, ControlsAreCreatedByEachBranch)
         EXPECT_EQ(made->GetType(), row.type) << row.name;
     }
     EXPECT_EQ(document.helper.colourControlsCreated, 1);
-    EXPECT_EQ(bars.FindControl(Host(FillCmdEditType))->GetRect(), CRect(0, 0, 180, 33));  // 120 x 22 at 144 dpi
+    EXPECT_EQ(bars.FindControl(Host(FillCmdEditType))->GetRect(), CRect(0, 0, 180, 33)); // 120 x 22 at 144 dpi
     EXPECT_EQ(bars.FindControl(Host(FillCmdOpacityStart))->GetStyle(), KestoPlatform::XTPButtonStyle::Caption);
     KestoPlatform::XTP_COMMANDBARS_CREATECONTROL foreign;
     foreign.nID = 12;
@@ -140,13 +144,14 @@ TEST_F(CommandsTest, CommandsAndUpdatesAreDispatchedByHostIdAndForeignIdsIgnored
     EXPECT_TRUE(Command(*tool, FillCmdEnd));
     ASSERT_EQ(site.commits.size(), 1u);
     EXPECT_FALSE(tool->OnCmdMsg(base - 1, KestoPlatform::CN_COMMAND, nullptr, nullptr));
-    EXPECT_FALSE(tool->OnCmdMsg(FillCmdEnd, KestoPlatform::CN_COMMAND, nullptr, nullptr));  // a library number is no host ID
+    EXPECT_FALSE(
+        tool->OnCmdMsg(FillCmdEnd, KestoPlatform::CN_COMMAND, nullptr, nullptr)); // a library number is no host ID
     EXPECT_EQ(document.helper.pickerCurrents.size(), 1u);
 
     KestoPlatform::CXTPControlPopupColor colour(Host(FillCmdEnd));
     KestoPlatform::CCmdUI ui(Host(FillCmdEnd), &colour);
     EXPECT_TRUE(ui.DoUpdate(tool.get()));
-    EXPECT_EQ(colour.GetColor(), 0x00FF00u);  // the end stop, as committed and handed back
+    EXPECT_EQ(colour.GetColor(), 0x00FF00u); // the end stop, as committed and handed back
     EXPECT_TRUE(ui.IsEnabled());
     EXPECT_TRUE(tool->RecognisedID(static_cast<unsigned>(Host(FillCmdSpaceMode))));
 }
@@ -163,7 +168,8 @@ TEST_F(CommandsTest, TypeChangeReachesTheSiteAndANonComboIsReported)
     long result = 0;
     KestoPlatform::AFX_NOTIFY extra{&result, &notify};
     EXPECT_TRUE(tool->OnCmdMsg(Host(FillCmdEditType), KestoPlatform::CN_NOTIFY(100), &extra, nullptr));
-    EXPECT_EQ(site.typeRequests, std::vector<const KestoPlatform::CRuntimeClass*>{KestoGDI::CFillRadial::GetThisClass()});
+    EXPECT_EQ(site.typeRequests,
+              std::vector<const KestoPlatform::CRuntimeClass*>{KestoGDI::CFillRadial::GetThisClass()});
 
     std::vector<int> lines;
     KestoKernel::ScopedVerifyHandler handler([&](const KestoKernel::VerifyReport& r) { lines.push_back(r.line); });
@@ -181,8 +187,9 @@ TEST_F(CommandsTest, EditFillRoundTripsThroughPageSpaceAndCommitsOnce)
     fill.SetControls(K2DDblPoint(0, 0), K2DDblPoint(100, 0));
     auto tool = Tool(fill);
     KestoPlatform::Headless().SetModalScript([](KestoPlatform::CDialog& d) {
-        const KestoGDI::CFill* seen = dynamic_cast<const KestoUI::FillPreview*>(d.GetDlgItem(IDC_EDITOR_PREVIEW))->GetFill();
-        EXPECT_EQ(seen->GetControlPoint(0), K2DDblPoint(1000, 0));  // the editor works in page space
+        const KestoGDI::CFill* seen =
+            dynamic_cast<const KestoUI::FillPreview*>(d.GetDlgItem(IDC_EDITOR_PREVIEW))->GetFill();
+        EXPECT_EQ(seen->GetControlPoint(0), K2DDblPoint(1000, 0)); // the editor works in page space
         KestoPlatform::Headless().ClickButton(d, KestoPlatform::IDOK);
     });
     EXPECT_TRUE(Command(*tool, FillCmdEdit));
@@ -199,7 +206,8 @@ TEST_F(CommandsTest, EditFillKeepsAVectorFillsOwnTransform)
     vector.UpdateBBox(CRect(0, 0, 10, 10), own);
     site.objectBox = CRect(0, 0, 50, 40);
     auto tool = Tool(vector);
-    KestoPlatform::Headless().SetModalScript([](KestoPlatform::CDialog& d) { KestoPlatform::Headless().ClickButton(d, KestoPlatform::IDOK); });
+    KestoPlatform::Headless().SetModalScript(
+        [](KestoPlatform::CDialog& d) { KestoPlatform::Headless().ClickButton(d, KestoPlatform::IDOK); });
     Command(*tool, FillCmdEdit);
     ASSERT_EQ(site.commits.size(), 1u);
     const auto& committed = dynamic_cast<const KestoGDI::CFillVector&>(*site.commits[0].fill);
@@ -212,7 +220,8 @@ TEST_F(CommandsTest, EditTransparencyCommitsTheDialogsTransparency)
     KestoGDI::CTransparencyFlat flat;
     auto tool = Tool(flat);
     KestoPlatform::Headless().SetModalScript([](KestoPlatform::CDialog& d) {
-        KestoPlatform::Headless().DragSlider(dynamic_cast<KestoPlatform::CSliderCtrl&>(*d.GetDlgItem(IDC_SOLID_SLIDER)), 100);
+        KestoPlatform::Headless().DragSlider(dynamic_cast<KestoPlatform::CSliderCtrl&>(*d.GetDlgItem(IDC_SOLID_SLIDER)),
+                                             100);
         KestoPlatform::Headless().ClickButton(d, KestoPlatform::IDOK);
     });
     EXPECT_TRUE(Command(*tool, FillCmdTransEdit));

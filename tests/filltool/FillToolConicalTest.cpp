@@ -5,8 +5,8 @@
 #include "kestotool/gdi/CRGBColour.h"
 #include "kestotool/gdi/CTransparencyConical.h"
 #include "kestotool/kernel/VerifyReporter.h"
-#include "support/TestToolSite.h"
 #include "kestotool/tool/Module.h"
+#include "support/TestToolSite.h"
 
 #include <gtest/gtest.h>
 
@@ -62,7 +62,7 @@ TEST_F(ConicalTest, HandlesRunFromRRoundTheHalfCircleToTheOppositePointThenTheCe
     K2DArrayPoint handles;
     two->BaseGetHandles(&handles);
     EXPECT_EQ(std::vector<CPoint>(handles.begin(), handles.end()), (P{{100, 0}, {-100, 0}, {0, 0}}));
-    EXPECT_EQ(two->GradientIndex(2), 1);  // the centre shows the last stop
+    EXPECT_EQ(two->GradientIndex(2), 1); // the centre shows the last stop
 
     // Every stop handle lies on the half circle that counts as the line, where its own position
     // is read back.
@@ -79,12 +79,12 @@ TEST_F(ConicalTest, HandlesRunFromRRoundTheHalfCircleToTheOppositePointThenTheCe
 TEST_F(ConicalTest, TheTwoHalvesFoldOntoOnePositionButOnlyOneIsTheLine)
 {
     auto tool = Tool(Sweep({0, 0}, {100, 0}));
-    const CPoint up(0, -100), down(0, 100);  // a quarter turn anticlockwise on screen, and clockwise
+    const CPoint up(0, -100), down(0, 100); // a quarter turn anticlockwise on screen, and clockwise
     EXPECT_EQ(tool->GetPercentageFromPoint(up), 5000);
     EXPECT_EQ(tool->GetPercentageFromPoint(down), 5000);
     EXPECT_TRUE(tool->IsPointOnLine(up, -1));
     EXPECT_FALSE(tool->IsPointOnLine(down, -1));
-    EXPECT_FALSE(tool->IsPointOnLine({0, -150}, -1));  // off the radius
+    EXPECT_FALSE(tool->IsPointOnLine({0, -150}, -1)); // off the radius
     EXPECT_EQ(tool->GetPercentageFromPoint({100, 0}), 1);
     EXPECT_EQ(tool->GetPercentageFromPoint({-100, 0}), 9999);
 }
@@ -93,14 +93,14 @@ TEST_F(ConicalTest, DragsOfEachHandleNeverSnapToTheGrid)
 {
     site.grid = 10;
     auto tool = Tool(Sweep({0, 0}, {100, 0}, {5000}));
-    site.Drag(*tool, {-100, 0}, {{-90, 3}});  // the last stop: R moves the other way
+    site.Drag(*tool, {-100, 0}, {{-90, 3}}); // the last stop: R moves the other way
     EXPECT_EQ(Last(), (P{{0, 0}, {90, -3}}));
-    site.Drag(*tool, {0, 0}, {{7, 4}});  // the centre moves the whole sweep
+    site.Drag(*tool, {0, 0}, {{7, 4}}); // the centre moves the whole sweep
     EXPECT_EQ(Last(), (P{{7, 4}, {97, 1}}));
-    site.Drag(*tool, {97, 1}, {{57, 41}});  // R turns about the centre
+    site.Drag(*tool, {97, 1}, {{57, 41}}); // R turns about the centre
     EXPECT_EQ(Last(), (P{{7, 4}, {57, 41}}));
     auto inner = Tool(Sweep({0, 0}, {100, 0}, {5000}));
-    site.Drag(*inner, {0, -100}, {{-100, -100}});  // the inner stop slides round to 135 degrees
+    site.Drag(*inner, {0, -100}, {{-100, -100}}); // the inner stop slides round to 135 degrees
     EXPECT_EQ(Positions(), (std::vector<int>{0, 7500, 10000}));
 }
 
@@ -111,8 +111,8 @@ TEST_F(ConicalTest, ShiftConstrainsTheEndsAboutTheCentre)
     auto tool = Tool(Sweep({0, 0}, {100, 0}));
     site.Drag(*tool, {100, 0}, {{80, -70}}, DragFlagShift);
     const P turned = Last();
-    EXPECT_EQ(turned[1].x, -turned[1].y);  // on the 45-degree ray
-    site.Drag(*tool, {-turned[1].x, -turned[1].y}, {{0, 100}}, DragFlagShift);  // opposite end
+    EXPECT_EQ(turned[1].x, -turned[1].y);                                      // on the 45-degree ray
+    site.Drag(*tool, {-turned[1].x, -turned[1].y}, {{0, 100}}, DragFlagShift); // opposite end
     EXPECT_EQ(Last()[1].x, 0);
 }
 
@@ -124,7 +124,7 @@ TEST_F(ConicalTest, CreationSetsCentreAndRadiusEndAndShiftChangesNothing)
     EXPECT_EQ(Last(), (P{{30, 40}, {33, 97}}));
     EXPECT_EQ(tool->GetCurrentNode(), 2);
     site.Drag(*tool, {30, 40}, {{33, 97}}, DragFlagCtrl);
-    EXPECT_EQ(Last(), (P{{200, 100}, {33, 97}}));  // the pointer stays the radius end
+    EXPECT_EQ(Last(), (P{{200, 100}, {33, 97}})); // the pointer stays the radius end
 }
 
 TEST_F(ConicalTest, DeleteWithTheCentreSelectedKeepsEveryStop)
@@ -157,13 +157,13 @@ TEST_F(ConicalTest, EveryHintIdIsReachedByItsState)
     struct Row {
         const char* name;
         bool create;
-        int node;  // three stops: 0 R, 1 inner, 2 opposite, 3 centre
+        int node; // three stops: 0 R, 1 inner, 2 opposite, 3 centre
         bool dragging;
         int fillId;
         int transparencyId;
     };
     const Row rows[] = {
-        {"creating", true, 2, true, 100, 110},       {"no node", false, -1, false, 101, 111},
+        {"creating", true, 2, true, 100, 110},          {"no node", false, -1, false, 101, 111},
         {"centre, dragging", false, 3, true, 102, 112}, {"centre, over", false, 3, false, 113, 107},
         {"first, dragging", false, 0, true, 104, 109},  {"first, over", false, 0, false, 114, 106},
         {"inner, dragging", false, 1, true, 103, 108},  {"last, over", false, 2, false, 115, 105},

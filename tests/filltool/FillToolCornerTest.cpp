@@ -74,9 +74,9 @@ TEST_F(CornerTest, ThreeColourOriginMovesEverythingAndSnapsAlone)
 TEST_F(CornerTest, ThreeColourArmsTurnTheOtherArmOrMoveItByThePerpendicularWithCtrl)
 {
     auto tool = Make<FillToolThreeColour>(kSquareArms);
-    site.Drag(*tool, {100, 0}, {{0, 100}});  // P1 a quarter turn: P2 turns with it
+    site.Drag(*tool, {100, 0}, {{0, 100}}); // P1 a quarter turn: P2 turns with it
     EXPECT_EQ(Last(), (P{{0, 0}, {0, 100}, {-100, 0}}));
-    site.Drag(*tool, {-100, 0}, {{0, -100}});  // P2 a quarter turn back: P1 follows
+    site.Drag(*tool, {-100, 0}, {{0, -100}}); // P2 a quarter turn back: P1 follows
     EXPECT_EQ(Last(), (P{{0, 0}, {-100, 0}, {0, -100}}));
     // With Ctrl the other arm moves by the perpendicular rule with P1's flag: the pointer's
     // offset turned from P2's arm onto P1's and scaled by |P0P1| / |P0P2|.
@@ -90,11 +90,11 @@ TEST_F(CornerTest, ThreeColourShiftSeesTheOriginFromP1AndTheArmsFromP0)
     site.angleStep = 4500;
     site.angleSnapTolerance = 1000;
     auto tool = Make<FillToolThreeColour>(kSquareArms);
-    site.Drag(*tool, {0, 0}, {{42, 58}}, DragFlagShift);  // from P1: the pointer lands on a 45-degree ray
+    site.Drag(*tool, {0, 0}, {{42, 58}}, DragFlagShift); // from P1: the pointer lands on a 45-degree ray
     const CPoint p0 = Last()[0];
     EXPECT_EQ(p0.x - 100 + p0.y, 0) << p0.x << "," << p0.y;
     auto arm = Make<FillToolThreeColour>(kSquareArms);
-    site.Drag(*arm, {100, 0}, {{190, 10}}, DragFlagShift);  // about P0: back onto the axis
+    site.Drag(*arm, {100, 0}, {{190, 10}}, DragFlagShift); // about P0: back onto the axis
     EXPECT_EQ(Last()[1].y, 0);
 }
 
@@ -103,12 +103,12 @@ TEST_F(CornerTest, ThreeColourCreationAndAMissedHandle)
     site.create = true;
     auto tool = Make<FillToolThreeColour>(kSquareArms);
     site.Drag(*tool, {10, 10}, {{110, 10}}, DragFlagCtrl);
-    EXPECT_EQ(Last()[0], CPoint(200, 100));  // the create centre
+    EXPECT_EQ(Last()[0], CPoint(200, 100)); // the create centre
     EXPECT_EQ(Last()[1], CPoint(110, 10));
     EXPECT_EQ(tool->GetCurrentNode(), 1);
     site.create = false;
     reports.clear();
-    site.Drag(*tool, {300, 300}, {{310, 300}});  // no handle there: reported, nothing moves
+    site.Drag(*tool, {300, 300}, {{310, 300}}); // no handle there: reported, nothing moves
     EXPECT_EQ(reports.size(), 1u);
     EXPECT_EQ(Last()[0], CPoint(200, 100));
 }
@@ -123,7 +123,7 @@ TEST_F(CornerTest, FourColourHandleTwoIsTheOppositeCornerAndHandleThreeIsP2)
     site.Drag(*tool, {100, 100}, {{130, 110}});
     EXPECT_EQ(Last(), (P{{0, 0}, {130, 0}, {0, 110}, {130, 110}}));
     auto p2 = Make<FillToolFourColour>(kSquare);
-    site.Drag(*p2, {0, 100}, {{-100, 0}});  // P2 a quarter turn: P1 turns, P3 completes
+    site.Drag(*p2, {0, 100}, {{-100, 0}}); // P2 a quarter turn: P1 turns, P3 completes
     EXPECT_EQ(Last(), (P{{0, 0}, {0, 100}, {-100, 0}, {-100, 100}}));
 }
 
@@ -137,7 +137,7 @@ TEST_F(CornerTest, FourColourOriginMovesEveryCornerAndShiftWorksFromTheDraggedCo
     site.angleStep = 4500;
     site.angleSnapTolerance = 1000;
     auto shifted = Make<FillToolFourColour>(kSquare);
-    site.Drag(*shifted, {100, 100}, {{160, 150}}, DragFlagShift);  // 45 degrees from P3's own start
+    site.Drag(*shifted, {100, 100}, {{160, 150}}, DragFlagShift); // 45 degrees from P3's own start
     const CPoint p3 = Last()[3];
     EXPECT_EQ(p3.x - 100, p3.y - 100);
 }
@@ -164,8 +164,8 @@ TEST_F(CornerTest, FourColourCreationBuildsTheFourthCornerBeforeSnapping)
     const P made = Last();
     EXPECT_EQ(made[0], CPoint(20, 20));
     EXPECT_EQ(made[1], CPoint(120, 20));
-    EXPECT_EQ(made[2], CPoint(21, -81));   // square to the pointer, not snapped
-    EXPECT_EQ(made[3], CPoint(121, -81));  // pointer + perpendicular, before the snap
+    EXPECT_EQ(made[2], CPoint(21, -81));  // square to the pointer, not snapped
+    EXPECT_EQ(made[3], CPoint(121, -81)); // pointer + perpendicular, before the snap
 }
 
 TEST_F(CornerTest, SizesShapesHintsAndDrawing)
@@ -179,7 +179,8 @@ TEST_F(CornerTest, SizesShapesHintsAndDrawing)
         EXPECT_EQ(Make<FillToolThreeColour>(Three({0, 0}, row.a, {0, 80}))->CheckSize(), row.large) << row.name;
         EXPECT_EQ(Make<FillToolThreeColour>(Three({0, 0}, {80, 0}, row.b))->CheckSize(), row.large) << row.name;
         // The four-colour tool measures P2-P3 and P2-P0.
-        EXPECT_EQ(Make<FillToolFourColour>(Four(row.a, {0, 0}, {0, 0}, {row.b.x, 0}))->CheckSize(), row.large) << row.name;
+        EXPECT_EQ(Make<FillToolFourColour>(Four(row.a, {0, 0}, {0, 0}, {row.b.x, 0}))->CheckSize(), row.large)
+            << row.name;
     }
     auto three = Make<FillToolThreeColour>(Three({10, 10}, {110, 30}, {30, 90}));
     EXPECT_EQ(three->GetFillRect(nullptr), CRect(10, 10, 110, 90));
@@ -200,7 +201,8 @@ TEST_F(CornerTest, SizesShapesHintsAndDrawing)
         if (entry.rfind("disc", 0) == 0)
             centres.insert(entry.substr(5, entry.find(')') - 4));
     EXPECT_EQ(centres, (std::set<std::string>{"(0,0)", "(100,0)", "(100,100)", "(0,100)"}));
-    EXPECT_NE(target.Log().front().find("(0,0)(100,0)(100,100)(0,100)(0,0)"), std::string::npos) << target.Log().front();
+    EXPECT_NE(target.Log().front().find("(0,0)(100,0)(100,100)(0,100)(0,0)"), std::string::npos)
+        << target.Log().front();
 }
 
 TEST_F(CornerTest, WithoutAFillEveryOperationReports)

@@ -23,7 +23,7 @@ public:
 
 class DrawingTest : public testing::Test {
 protected:
-    KestoTest::TestToolSite site;  // tool colour 0xFF0000
+    KestoTest::TestToolSite site; // tool colour 0xFF0000
     KestoGDI::CFillLinear fill;
     DrawingTool tool{&fill, &site};
     KestoGDI::CRecordingRenderTarget target{1.0};
@@ -68,11 +68,11 @@ TEST_F(DrawingTest, OutlineOnlyHandleIsOneBlackDisc)
 
 TEST_F(DrawingTest, SizesScaleWithThePixelAndRoundHalfAwayFromZero)
 {
-    KestoGDI::CRecordingRenderTarget big(1.5);  // r0 = 6
+    KestoGDI::CRecordingRenderTarget big(1.5); // r0 = 6
     tool.SetCurrentNode(1);
     tool.DrawBoxControl(&big, false, CPoint(0, 0), 0ul, 0);
     EXPECT_EQ(big.Log(), (Lines{
-                             "disc (0,0) r=10 fill=FFFFFF/192 pen=none",  // 6 + 3.75 = 9.75
+                             "disc (0,0) r=10 fill=FFFFFF/192 pen=none", // 6 + 3.75 = 9.75
                              "disc (0,0) r=6 fill=000000/255 pen=FF0000/255/1.5",
                          }));
 }
@@ -143,6 +143,6 @@ TEST_F(DrawingTest, RenderContextDrawsSquaresWithTheSameLayers)
                                  "line (0,0)(10,0) pen=FFFFFF/192/3",
                                  "line (0,0)(10,0) pen=FF0000/255/1",
                              }));
-    EXPECT_FALSE(context.GetPen());  // sessions restored the selection
+    EXPECT_FALSE(context.GetPen()); // sessions restored the selection
     EXPECT_FALSE(context.GetBrush());
 }

@@ -17,8 +17,8 @@
 #include <gtest/gtest.h>
 
 #include <map>
-#include <utility>
 #include <typeinfo>
+#include <utility>
 
 using namespace KestoTool;
 

@@ -33,9 +33,9 @@ TEST(FillToolImages, SharedImagesArePairedAsTheTableSays)
     KestoTool::RegisterFillToolImages(images, 0);
     const CSize s(24, 24);
     const auto same = [&](int a, int b) { return images.GetImage(a, s)->argb == images.GetImage(b, s)->argb; };
-    EXPECT_TRUE(same(1, 3));    // colour commands reuse the edit-fill image
+    EXPECT_TRUE(same(1, 3)); // colour commands reuse the edit-fill image
     EXPECT_TRUE(same(1, 5));
-    EXPECT_TRUE(same(15, 19));  // lock ratio and reset handles reuse maximum fit
+    EXPECT_TRUE(same(15, 19)); // lock ratio and reset handles reuse maximum fit
     EXPECT_TRUE(same(16, 18));
     EXPECT_FALSE(same(1, 8));
     EXPECT_FALSE(same(6, 7));

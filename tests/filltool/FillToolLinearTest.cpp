@@ -11,10 +11,10 @@
 #include "kestotool/kernel/VerifyReporter.h"
 #include "kestotool/platform/CCmdUI.h"
 #include "kestotool/platform/WindowTypes.h"
-#include "support/TestDocument.h"
-#include "support/TestToolSite.h"
 #include "kestotool/tool/Module.h"
 #include "kestotool/tool/ToolIdMap.h"
+#include "support/TestDocument.h"
+#include "support/TestToolSite.h"
 
 #include <gtest/gtest.h>
 
@@ -76,11 +76,11 @@ TEST_F(LinearTest, DraggingAStopCommitsItsNewPositionOnce)
 {
     auto tool = Tool(Line({0, 0}, {1000, 0}, {5000}));
     site.Drag(*tool, {500, 0}, {{800, 2}});
-    ASSERT_EQ(site.commits.size(), 2u);  // the stop list from the tool, then the host's record
+    ASSERT_EQ(site.commits.size(), 2u); // the stop list from the tool, then the host's record
     EXPECT_FALSE(site.commits[0].gesture);
     EXPECT_FALSE(site.commits[0].hasName);
     EXPECT_EQ(Positions(site.commits[0].fill.get()), (std::vector<int>{0, 8000, 10000}));
-    EXPECT_EQ(Ends(site.commits[1].fill.get()), Ends_t({0, 0}, {1000, 0}));  // the line stays
+    EXPECT_EQ(Ends(site.commits[1].fill.get()), Ends_t({0, 0}, {1000, 0})); // the line stays
 }
 
 TEST_F(LinearTest, AHeldFillIsSharedUntilADragReshapesACopyOfIt)
@@ -236,7 +236,7 @@ TEST_F(LinearTest, TransparencyDropsAndLevelBoxesUseLevels)
     t->SetControls(K2DDblPoint(0, 0), K2DDblPoint(1000, 0));
     CPoint middle(500, 0);
     tool->OnFillCellDrop(middle, std::make_unique<CRGBColour>(0xFFFFFF).get());
-    EXPECT_EQ(tool->GetLevel(1), 0);  // white is opaque
+    EXPECT_EQ(tool->GetLevel(1), 0); // white is opaque
     EXPECT_TRUE(site.commits.back().transparency);
 
     KestoTool::Init(40000, 40100);
@@ -250,7 +250,7 @@ TEST_F(LinearTest, TransparencyDropsAndLevelBoxesUseLevels)
     EXPECT_TRUE(tool->OnCmdMsg(base + FillCmdOpacityStartHandle, KestoPlatform::CN_NOTIFY(100), &extra, nullptr));
     EXPECT_EQ(tool->GetLevel(0), 255);
     EXPECT_TRUE(site.commits.back().flag);
-    box.SetValue(49.6);  // 50 percent: level 128
+    box.SetValue(49.6); // 50 percent: level 128
     notify.hdr.code = 0;
     tool->OnCmdMsg(base + FillCmdOpacityStartHandle, KestoPlatform::CN_NOTIFY(0), &extra, nullptr);
     EXPECT_EQ(tool->GetLevel(0), 128);
@@ -259,7 +259,7 @@ TEST_F(LinearTest, TransparencyDropsAndLevelBoxesUseLevels)
     KestoPlatform::CXTPControlEdit endBox(base + FillCmdOpacityEndHandle);
     KestoPlatform::CCmdUI ui(base + FillCmdOpacityEndHandle, &endBox);
     ui.DoUpdate(tool.get());
-    EXPECT_EQ(endBox.GetValue(), 100);  // level 255
+    EXPECT_EQ(endBox.GetValue(), 100); // level 255
     EXPECT_TRUE(ui.IsEnabled());
 }
 
@@ -270,7 +270,7 @@ TEST_F(LinearTest, AlphaAndTintGoToTheCurrentStopAndAStaleNodeIsCleared)
     EXPECT_TRUE(tool->OnAlphaCellChanged(96));
     EXPECT_EQ(tool->GetGradientColour(1)->GetAlpha(), 96);
     EXPECT_TRUE(tool->OnTintChanged(-100));
-    EXPECT_EQ(tool->GetGradientColour(1)->GetRGB(), 0u);  // white tinted fully to black
+    EXPECT_EQ(tool->GetGradientColour(1)->GetRGB(), 0u); // white tinted fully to black
     EXPECT_EQ(tool->GetGradientColour(1)->GetAlpha(), 96);
     tool->SetCurrentNode(5);
     EXPECT_FALSE(tool->OnAlphaCellChanged(10));
@@ -292,7 +292,7 @@ TEST_F(LinearTest, DeleteRemovesOnlyInnerStops)
     EXPECT_TRUE(site.commits.empty());
     tool->OnKeyDown(KeyDelete, 1, 0);
     EXPECT_EQ(Positions(tool->GetFill()), (std::vector<int>{0, 10000}));
-    EXPECT_FALSE(tool->CanDeleteCurrentNode());  // two stops left: neither can go
+    EXPECT_FALSE(tool->CanDeleteCurrentNode()); // two stops left: neither can go
 }
 
 TEST_F(LinearTest, RotatingRightThenLeftRestoresThePlacement)
@@ -302,7 +302,7 @@ TEST_F(LinearTest, RotatingRightThenLeftRestoresThePlacement)
     tool->RotateFill(-9000);
     ASSERT_EQ(site.commits.size(), 1u);
     EXPECT_EQ(site.commits[0].name, L"Rotate Fill");
-    EXPECT_EQ(Ends(tool->GetFill()), Ends_t({200, 0}, {200, 200}));  // clockwise about (200, 100)
+    EXPECT_EQ(Ends(tool->GetFill()), Ends_t({200, 0}, {200, 200})); // clockwise about (200, 100)
     tool->RotateFill(9000);
     EXPECT_TRUE(tool->GetFill()->IsEqual(start));
 
@@ -313,7 +313,7 @@ TEST_F(LinearTest, RotatingRightThenLeftRestoresThePlacement)
 
 TEST_F(LinearTest, LockedRatioScalesTheFillToTheObjectsOtherSide)
 {
-    auto tool = Tool(Line({0, 100}, {400, 100}));  // spans the 400-wide box
+    auto tool = Tool(Line({0, 100}, {400, 100})); // spans the 400-wide box
     KestoTool::Init(40000, 40100);
     const int base = ToolIdMap::GetInstance().AllocateRange(FillToolKey, FillCommands::Count());
     tool->OnCmdMsg(base + FillCmdLockRatio, KestoPlatform::CN_COMMAND, nullptr, nullptr);
@@ -362,8 +362,8 @@ struct HintRow {
 TEST_F(LinearTest, EveryHintIdIsReachedByItsState)
 {
     const HintRow rows[] = {
-        {"creating", true, 1, true, 147, 160},      {"no node", false, -1, false, 148, 161},
-        {"end, dragging", false, 2, true, 149, 162}, {"start, over", false, 0, false, 168, 164},
+        {"creating", true, 1, true, 147, 160},         {"no node", false, -1, false, 148, 161},
+        {"end, dragging", false, 2, true, 149, 162},   {"start, over", false, 0, false, 168, 164},
         {"inner, dragging", false, 1, true, 167, 163}, {"inner, over", false, 1, false, 169, 165},
     };
     auto fill = Tool(Line({0, 0}, {1000, 0}, {5000}));
@@ -400,12 +400,13 @@ TEST_F(LinearTest, ShapesOfTheLine)
 TEST_F(LinearTest, MaxFitGrowsTheBoxToTheBitmapsProportions)
 {
     site.objectBox = CRect(0, 0, 400, 400);
-    const KestoGDI::CFillBitmap bitmap{RefPtr<const KestoGDI::CLtBitmap>(KestoKernel::MakeRef<KestoGDI::CLtBitmap>(100, 50))};
+    const KestoGDI::CFillBitmap bitmap{
+        RefPtr<const KestoGDI::CLtBitmap>(KestoKernel::MakeRef<KestoGDI::CLtBitmap>(100, 50))};
     FillToolGradient tool(&bitmap, &site);
     site.tool = &tool;
     tool.FitToShape(false);
     EXPECT_EQ(tool.GetFill()->GetControlPoint(1), K2DDblPoint(400, 0));
-    tool.FitToShape(true);  // a 2:1 bitmap over a square grows 200 each side to cover it
+    tool.FitToShape(true); // a 2:1 bitmap over a square grows 200 each side to cover it
     EXPECT_EQ(tool.GetFill()->GetControlPoint(0), K2DDblPoint(-200, 0));
     EXPECT_EQ(tool.GetFill()->GetControlPoint(1), K2DDblPoint(600, 0));
     EXPECT_EQ(tool.GetFill()->GetControlPoint(2), K2DDblPoint(-200, 400));

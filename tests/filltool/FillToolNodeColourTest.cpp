@@ -7,9 +7,9 @@
 #include "kestotool/gdi/CFillNone.h"
 #include "kestotool/gdi/CFillSolid.h"
 #include "kestotool/gdi/CRGBColour.h"
+#include "kestotool/tool/ToolIdMap.h"
 #include "support/TestDocument.h"
 #include "support/TestToolSite.h"
-#include "kestotool/tool/ToolIdMap.h"
 
 #include <gtest/gtest.h>
 
@@ -57,7 +57,7 @@ TEST_F(NodeColourTest, GradientNodesAreTheStartEndAndSelectedStops)
     tool->SetCurrentNode(-1);
     EXPECT_EQ(tool->GetNodeColour(5), nullptr);
     tool->SetCurrentNode(2);
-    EXPECT_EQ(tool->GetNodeColour(5), nullptr);  // past the last stop
+    EXPECT_EQ(tool->GetNodeColour(5), nullptr); // past the last stop
 }
 
 TEST_F(NodeColourTest, SettingAGradientNodeCommitsOneFillWithNoStepName)
@@ -138,7 +138,7 @@ TEST_F(NodeColourTest, AdjustAsksThePickerWithTheNodeColourAndCommitsItsAnswer)
     tool->AdjustNodeColour(4);
     ASSERT_EQ(document.helper.pickerCurrents.size(), 2u);
     EXPECT_EQ(document.helper.pickerCurrents[0]->GetRGB(), kBlack);
-    ASSERT_EQ(site.commits.size(), 1u);  // the cancelled pick changed nothing
+    ASSERT_EQ(site.commits.size(), 1u); // the cancelled pick changed nothing
     EXPECT_EQ(StopRgb(site.commits[0].fill.get(), 0), kRed);
 }
 

@@ -8,8 +8,8 @@
 #include "kestotool/gdi/CTransparencyEllipse.h"
 #include "kestotool/gdi/CTransparencyRadial.h"
 #include "kestotool/kernel/VerifyReporter.h"
-#include "support/TestToolSite.h"
 #include "kestotool/tool/Module.h"
+#include "support/TestToolSite.h"
 
 #include <gtest/gtest.h>
 
@@ -84,18 +84,18 @@ protected:
 struct HintRow {
     const char* name;
     bool create;
-    int node;  // for a fill of three stops: 0 centre, 1 inner, 2 rim, 3 shape
+    int node; // for a fill of three stops: 0 centre, 1 inner, 2 rim, 3 shape
     bool dragging;
     int fillId;
     int transparencyId;
 };
 
 constexpr HintRow kHints[] = {
-    {"creating", true, 2, true, 137, 150},        {"no node", false, -1, false, 138, 151},
+    {"creating", true, 2, true, 137, 150},          {"no node", false, -1, false, 138, 151},
     {"centre, dragging", false, 0, true, 139, 152}, {"centre, over", false, 0, false, 143, 156},
-    {"rim, dragging", false, 2, true, 141, 154},  {"rim, over", false, 2, false, 145, 158},
-    {"inner, dragging", false, 1, true, 140, 153}, {"inner, over", false, 1, false, 144, 157},
-    {"shape, dragging", false, 3, true, 142, 155}, {"shape, over", false, 3, false, 146, 159},
+    {"rim, dragging", false, 2, true, 141, 154},    {"rim, over", false, 2, false, 145, 158},
+    {"inner, dragging", false, 1, true, 140, 153},  {"inner, over", false, 1, false, 144, 157},
+    {"shape, dragging", false, 3, true, 142, 155},  {"shape, over", false, 3, false, 146, 159},
 };
 
 template <class Tool>
@@ -137,21 +137,21 @@ TEST_F(RoundTest, RadialRimChangesOnlyTheRadiusAndShiftConstrainsItsAngleAboutTh
     EXPECT_EQ(Last(), (P{{100, 100}, {160, 160}}));
     site.angleStep = 4500;
     site.angleSnapTolerance = 1000;
-    site.Drag(*tool, {160, 160}, {{100, 192}}, DragFlagShift);  // nearly straight down from C
+    site.Drag(*tool, {160, 160}, {{100, 192}}, DragFlagShift); // nearly straight down from C
     EXPECT_EQ(Last(), (P{{100, 100}, {100, 192}}));
 }
 
 TEST_F(RoundTest, RadialCreationDrawsFromThePressOrTheCreateCentreAndAMissLeavesNoNode)
 {
     auto tool = Make<FillToolRadial>(Circle({100, 100}, {200, 100}, {5000}));
-    site.Drag(*tool, {300, 20}, {{300, 60}});  // not creating: a miss edits nothing
+    site.Drag(*tool, {300, 20}, {{300, 60}}); // not creating: a miss edits nothing
     EXPECT_EQ(tool->GetCurrentNode(), -1);
     EXPECT_EQ(Last(), (P{{100, 100}, {200, 100}}));
     EXPECT_EQ(Positions(site.commits.back().fill.get()), (std::vector<int>{0, 5000, 10000}));
     site.create = true;
     site.Drag(*tool, {300, 20}, {{300, 60}});
     EXPECT_EQ(Last(), (P{{300, 20}, {300, 60}}));
-    EXPECT_EQ(tool->GetCurrentNode(), -1);  // without Shift the node stays as it was
+    EXPECT_EQ(tool->GetCurrentNode(), -1); // without Shift the node stays as it was
     site.Drag(*tool, {300, 20}, {{300, 60}}, DragFlagCtrl);
     EXPECT_EQ(Last(), (P{{200, 100}, {300, 60}}));
 }
@@ -188,7 +188,7 @@ TEST_F(RoundTest, EllipticalCentreSnapsAloneAndTheAxesKeepTheOffset)
 TEST_F(RoundTest, EllipticalRimTurnsTheShapeHandleOrWithCtrlKeepsTheAspectRatio)
 {
     auto tool = Make<FillToolElliptical>(Ellipse({0, 0}, {100, 0}, {0, -50}));
-    site.Drag(*tool, {100, 0}, {{0, 100}});  // a quarter turn: F turns with E
+    site.Drag(*tool, {100, 0}, {{0, 100}}); // a quarter turn: F turns with E
     EXPECT_EQ(Last(), (P{{0, 0}, {0, 100}, {50, 0}}));
     auto ctrl = Make<FillToolElliptical>(Ellipse({0, 0}, {100, 0}, {0, -50}));
     // With Ctrl, F moves by the rim's offset turned from F's direction to E's and scaled by
@@ -206,7 +206,7 @@ TEST_F(RoundTest, EllipticalShapeHandleTurnsTheRimAndShowsTheLastStop)
     ASSERT_EQ(handles.GetSize(), 4);
     EXPECT_EQ(handles.GetAt(3), CPoint(0, -50));
     EXPECT_EQ(tool->GradientIndex(3), 2);
-    site.Drag(*tool, {0, -50}, {{50, 0}});  // F a quarter turn on: E follows
+    site.Drag(*tool, {0, -50}, {{50, 0}}); // F a quarter turn on: E follows
     EXPECT_EQ(Last(), (P{{0, 0}, {0, 100}, {50, 0}}));
     const KestoGDI::CRGBColour green(KestoPlatform::RGB(0, 255, 0));
     CPoint onShape(50, 0);
@@ -224,7 +224,7 @@ TEST_F(RoundTest, EllipticalCreationNeverSnapsAndStartsAtTheCreateCentreWithCtrl
     const P made = Last();
     EXPECT_EQ(made[0], CPoint(33, 17));
     EXPECT_EQ(made[1], CPoint(133, 17));
-    EXPECT_EQ(made[2].x, 33);  // the shape point stands square to the rim
+    EXPECT_EQ(made[2].x, 33); // the shape point stands square to the rim
     EXPECT_EQ(tool->GetCurrentNode(), 1);
     site.Drag(*tool, {33, 17}, {{133, 17}}, DragFlagCtrl);
     EXPECT_EQ(Last()[0], CPoint(200, 100));

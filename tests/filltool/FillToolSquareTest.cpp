@@ -88,12 +88,12 @@ TEST_F(SquareTest, AStopDraggedPastItsNeighbourStaysCurrent)
 TEST_F(SquareTest, AxisDragsTurnTheOtherAxisOrWithCtrlKeepTheAspectRatio)
 {
     auto tool = Tool(Square({0, 0}, {100, 0}, {0, -50}));
-    site.Drag(*tool, {100, 0}, {{0, 100}});  // E a quarter turn: F turns with it
+    site.Drag(*tool, {100, 0}, {{0, 100}}); // E a quarter turn: F turns with it
     EXPECT_EQ(Last(), (P{{0, 0}, {0, 100}, {50, 0}}));
     auto ctrl = Tool(Square({0, 0}, {100, 0}, {0, -50}));
     site.Drag(*ctrl, {100, 0}, {{200, 0}}, DragFlagCtrl);
     EXPECT_EQ(Last(), (P{{0, 0}, {200, 0}, {0, -100}}));
-    site.Drag(*ctrl, {0, -100}, {{0, -50}}, DragFlagCtrl);  // F back to half: E halves too
+    site.Drag(*ctrl, {0, -100}, {{0, -50}}, DragFlagCtrl); // F back to half: E halves too
     EXPECT_EQ(Last(), (P{{0, 0}, {100, 0}, {0, -50}}));
 }
 
@@ -104,7 +104,7 @@ TEST_F(SquareTest, ShiftConstrainsAHandleFromItsOwnStartAndOnlyTheCentreSnaps)
     auto tool = Tool(Square({0, 0}, {100, 0}, {0, -100}));
     site.Drag(*tool, {100, 0}, {{150, 45}}, DragFlagShift);
     const CPoint end = Last()[1];
-    EXPECT_EQ(end.x - 100, end.y);  // 45 degrees from E's start, not from the centre
+    EXPECT_EQ(end.x - 100, end.y); // 45 degrees from E's start, not from the centre
     site.grid = 10;
     auto moved = Tool(Square({0, 0}, {100, 0}, {0, -100}));
     site.Drag(*moved, {0, 0}, {{13, 4}});
@@ -139,7 +139,7 @@ TEST_F(SquareTest, EveryOperationNeedingAFillReportsItsLine)
     std::vector<int> lines;
     KestoKernel::ScopedVerifyHandler handler([&](const KestoKernel::VerifyReport& r) { lines.push_back(r.line); });
     FillToolSquare tool(nullptr, &site);
-    lines.clear();  // the construction's own report
+    lines.clear(); // the construction's own report
     EXPECT_EQ(tool.GetPercentageFromPoint({0, 0}), -1);
     K2DArrayPoint handles;
     tool.BaseGetHandles(&handles);

@@ -9,8 +9,8 @@
 #include "kestotool/gdi/CFillVector.h"
 #include "kestotool/gdi/CRGBColour.h"
 #include "kestotool/gdi/CTransparencyLinear.h"
-#include "support/TestToolSite.h"
 #include "kestotool/tool/ToolIdMap.h"
+#include "support/TestToolSite.h"
 
 #include <gtest/gtest.h>
 
@@ -49,7 +49,7 @@ TEST(FillTool, KeepsAPrivateCopyAndTakesNewFillsAsCopies)
     const RefPtr<const CFill> held(tool.GetFill());
     KestoGDI::CFillSolid next;
     tool.SetFill(&next);
-    EXPECT_EQ(held->GetRefCount(), 1);  // the tool let go of its old copy
+    EXPECT_EQ(held->GetRefCount(), 1); // the tool let go of its old copy
     EXPECT_TRUE(tool.GetFill()->IsEqual(next));
     EXPECT_NE(tool.GetFill(), &next);
 
@@ -58,7 +58,7 @@ TEST(FillTool, KeepsAPrivateCopyAndTakesNewFillsAsCopies)
     tool.OnDragChange(p, 4);
     tool.OnDragEnd(p, 4);
     EXPECT_EQ(tool.GetDragStart(), CPoint(12, 34));
-    EXPECT_TRUE(site.commits.empty());  // the base commits nothing for a drag
+    EXPECT_TRUE(site.commits.empty()); // the base commits nothing for a drag
 }
 
 TEST(FillTool, GhostNodeClearsOnce)
@@ -89,17 +89,14 @@ struct HitRow {
 TEST(FillTool, HitTestUsesEightPixelBoxesLeftTopInclusive)
 {
     TestToolSite site;
-    site.pixelToPaper = 2;  // the 8-pixel box is 16 units: x - 8 <= px < x + 8
+    site.pixelToPaper = 2; // the 8-pixel box is 16 units: x - 8 <= px < x + 8
     KestoGDI::CFillLinear fill;
     FillTool tool(&fill, &site);
     const K2DArrayPoint handles = Points({{100, 100}, {110, 100}});
     const HitRow rows[] = {
-        {"left-top corner of the first box", {92, 92}, 0},
-        {"overlap goes to the lower index", {105, 100}, 0},
-        {"past the first box's right edge", {108 + 8, 100}, 1},
-        {"on the second box's right edge", {118, 100}, -1},
-        {"on both boxes' bottom edge", {105, 108}, -1},
-        {"far away", {0, 0}, -1},
+        {"left-top corner of the first box", {92, 92}, 0},      {"overlap goes to the lower index", {105, 100}, 0},
+        {"past the first box's right edge", {108 + 8, 100}, 1}, {"on the second box's right edge", {118, 100}, -1},
+        {"on both boxes' bottom edge", {105, 108}, -1},         {"far away", {0, 0}, -1},
     };
     for (const auto& row : rows)
         EXPECT_EQ(tool.HitPoint(handles, row.point), row.expected) << row.name;
@@ -133,7 +130,7 @@ TEST(FillTool, SnapAnglePointPrefersTheAnglePointWithinTolerance)
 {
     TestToolSite site;
     site.angleStep = 4500;
-    site.angleSnapTolerance = 4.5;  // rounds to 5 pixels, 5 units at scale 1
+    site.angleSnapTolerance = 4.5; // rounds to 5 pixels, 5 units at scale 1
     KestoGDI::CFillLinear fill;
     FillTool tool(&fill, &site);
     const SnapRow rows[] = {

@@ -54,7 +54,8 @@ protected:
     std::vector<int> Positions() const
     {
         std::vector<int> v;
-        for (const auto& stop : dynamic_cast<const KestoGDI::CFillWithStops&>(*site.commits.back().fill).GetColourIntPairs())
+        for (const auto& stop :
+             dynamic_cast<const KestoGDI::CFillWithStops&>(*site.commits.back().fill).GetColourIntPairs())
             v.push_back(stop.GetValue());
         return v;
     }
@@ -79,20 +80,20 @@ TEST_F(TileTest, PlasmaHandlesAreTheStopLineThenP2AndStopsReachBothEnds)
 TEST_F(TileTest, PlasmaP2AloneLeavesTheStopLineAndShiftTurnsIt)
 {
     auto tool = Make<FillToolPlasma>(Plasma());
-    site.Drag(*tool, {0, 100}, {{-100, 0}});  // a quarter turn of P2 alone
+    site.Drag(*tool, {0, 100}, {{-100, 0}}); // a quarter turn of P2 alone
     EXPECT_EQ(Last(), (P{{0, 0}, {100, 0}, {-100, 0}}));
     auto shifted = Make<FillToolPlasma>(Plasma());
-    site.Drag(*shifted, {0, 100}, {{-100, 0}}, DragFlagShift);  // P1 keeps its angle to P2
+    site.Drag(*shifted, {0, 100}, {{-100, 0}}, DragFlagShift); // P1 keeps its angle to P2
     EXPECT_EQ(Last(), (P{{0, 0}, {0, 100}, {-100, 0}}));
     auto p1 = Make<FillToolPlasma>(Plasma());
-    site.Drag(*p1, {100, 0}, {{0, 100}});  // P1 turns P2 with it
+    site.Drag(*p1, {100, 0}, {{0, 100}}); // P1 turns P2 with it
     EXPECT_EQ(Last(), (P{{0, 0}, {0, 100}, {-100, 0}}));
 }
 
 TEST_F(TileTest, PlasmaShiftConstrainsThroughTheSiteWhateverTheSnapTolerance)
 {
     site.angleStep = 4500;
-    site.angleSnapTolerance = 0.001;  // the snapping helper would give up here
+    site.angleSnapTolerance = 0.001; // the snapping helper would give up here
     auto tool = Make<FillToolPlasma>(Plasma());
     site.Drag(*tool, {100, 0}, {{140, 36}}, DragFlagShift);
     const CPoint p1 = Last()[1];
@@ -107,7 +108,7 @@ TEST_F(TileTest, BitmapWithoutStopsHasItsThreeHandlesAndCtrlKeepsTheTileSquare)
     EXPECT_EQ(P(handles.begin(), handles.end()), (P{{0, 0}, {100, 0}, {0, 100}}));
     site.Drag(*tool, {0, 100}, {{0, 150}}, DragFlagCtrl);
     EXPECT_EQ(Last(), (P{{0, 0}, {150, 0}, {0, 150}}));
-    site.Drag(*tool, {0, 150}, {{-150, 0}});  // P2 a quarter turn: P1 turns with it
+    site.Drag(*tool, {0, 150}, {{-150, 0}}); // P2 a quarter turn: P1 turns with it
     EXPECT_EQ(Last(), (P{{0, 0}, {0, 150}, {-150, 0}}));
 }
 
@@ -116,10 +117,10 @@ TEST_F(TileTest, BitmapShiftOnP1CountsOnlyWithCtrl)
     site.grid = 10;
     site.angleStep = 4500;
     auto tool = Make<FillToolBitmap>(Tile());
-    site.Drag(*tool, {100, 0}, {{133, 27}}, DragFlagShift);  // as if Shift were not held: snapped
+    site.Drag(*tool, {100, 0}, {{133, 27}}, DragFlagShift); // as if Shift were not held: snapped
     EXPECT_EQ(Last()[1], CPoint(130, 30));
     auto both = Make<FillToolBitmap>(Tile());
-    site.Drag(*both, {100, 0}, {{133, 27}}, DragFlagShift | DragFlagCtrl);  // constrained about P0
+    site.Drag(*both, {100, 0}, {{133, 27}}, DragFlagShift | DragFlagCtrl); // constrained about P0
     EXPECT_EQ(Last()[1].y, 0);
     auto origin = Make<FillToolBitmap>(Tile());
     site.Drag(*origin, {0, 0}, {{13, 4}});
@@ -155,5 +156,6 @@ TEST_F(TileTest, WithoutAFillEveryOperationReports)
     EXPECT_EQ(bitmap.GetPercentageFromPoint({0, 0}), -1);
     EXPECT_FALSE(plasma.CheckSize());
     EXPECT_TRUE(bitmap.GetEffectiveBBox(nullptr).IsEmpty());
-    EXPECT_EQ(modules, (std::vector<std::string>{"FillToolPlasma", "FillToolBitmap", "FillToolPlasma", "FillToolBitmap"}));
+    EXPECT_EQ(modules,
+              (std::vector<std::string>{"FillToolPlasma", "FillToolBitmap", "FillToolPlasma", "FillToolBitmap"}));
 }

@@ -7,11 +7,10 @@
 #include "kestotool/kernel/VerifyReporter.h"
 #include "kestotool/platform/CCmdUI.h"
 #include "kestotool/raster/PreparedPaint.h"
-#include "support/TestToolSite.h"
 #include "kestotool/tool/ToolIdMap.h"
+#include "support/TestToolSite.h"
 
 #include <gtest/gtest.h>
-
 
 using namespace KestoTool;
 using KestoGDI::VectorDrawing;
@@ -30,14 +29,15 @@ RefPtr<const VectorDrawing> Drawing(int width, int height)
     quarter.LineTo({width / 2.0, height / 2.0});
     quarter.LineTo({0, height / 2.0});
     quarter.Close();
-    drawing->AddShape(quarter, KestoKernel::MakeRef<KestoGDI::CFillSolid>(KestoGDI::CRGBColour(KestoPlatform::RGB(255, 0, 0)), true));
+    drawing->AddShape(
+        quarter, KestoKernel::MakeRef<KestoGDI::CFillSolid>(KestoGDI::CRGBColour(KestoPlatform::RGB(255, 0, 0)), true));
     return drawing;
 }
 
 CFillVector Vector(int width = 40000, int height = 40000)
 {
     CFillVector fill{Drawing(width, height)};
-    fill.SetRawBox({{0, 0}, {double(width), 0}, {0, -double(height)}}, true);  // upright
+    fill.SetRawBox({{0, 0}, {double(width), 0}, {0, -double(height)}}, true); // upright
     return fill;
 }
 
@@ -75,10 +75,10 @@ TEST_F(VectorToolTest, ScalingHandlesAreTheBoxAndSpacingHandlesFollowTheFlips)
     // Offsets give spacing vectors s1 = (10, 40) and s2 = (-30, -20).
     struct Case {
         bool h, v;
-        P expected;  // B, A, B's rotation handle, A's
+        P expected; // B, A, B's rotation handle, A's
     } cases[] = {
         {false, false, {{-30, -40020}, {40010, 40}, {-30, -55020}, {40010, -14960}}},
-        {false, true, {{-30, 39980}, {40010, 40}, {-30, 54980}, {40010, 15040}}},     // v negated, zero turned
+        {false, true, {{-30, 39980}, {40010, 40}, {-30, 54980}, {40010, 15040}}},      // v negated, zero turned
         {true, false, {{-30, -40020}, {-39990, 40}, {-30, -55020}, {-39990, -14960}}}, // u negated
         {true, true, {{30, 40020}, {-40010, -40}, {30, 25020}, {-40010, -15040}}},     // half round about O
     };
@@ -95,10 +95,10 @@ TEST_F(VectorToolTest, ScalingHandlesAreTheBoxAndSpacingHandlesFollowTheFlips)
 TEST_F(VectorToolTest, SpacingHandlesFollowThePointerBeforeAndAfterTheTileIsMeasured)
 {
     auto tool = Make(Vector(), FillToolVector::SpacingMode);
-    site.Drag(*tool, {40000, 0}, {{47000, 2500}}, DragFlagShift);  // A, unsnapped
+    site.Drag(*tool, {40000, 0}, {{47000, 2500}}, DragFlagShift); // A, unsnapped
     EXPECT_EQ(Handles(*tool)[1], CPoint(47000, 2500));
-    EXPECT_EQ(tool->GetTileRotation(), 0);  // upright
-    site.Drag(*tool, {0, -40000}, {{-6000, -52000}}, DragFlagShift);  // B
+    EXPECT_EQ(tool->GetTileRotation(), 0);                           // upright
+    site.Drag(*tool, {0, -40000}, {{-6000, -52000}}, DragFlagShift); // B
     EXPECT_EQ(Handles(*tool)[0], CPoint(-6000, -52000));
     EXPECT_EQ(Handles(*tool)[1], CPoint(47000, 2500));
     // Snapping: 7000 across is within reach of w / 4 = 10000, the 2500 down of 0.
@@ -110,15 +110,16 @@ TEST_F(VectorToolTest, SnapListsAreInTheirOrderAndTheFirstWithinReachWins)
 {
     auto tool = Make(Vector(40000, 4000));
     site.Drag(*tool, {0, 0}, {});
-    EXPECT_EQ(tool->GetXSnapOffsets(), (std::vector<int>{0, 10000, -10000, 20000, -20000, 40000, -40000, 80000, -80000,
-                                                         120000, -120000}));
-    EXPECT_EQ(tool->GetYSnapOffsets(), (std::vector<int>{0, 1000, -1000, 2000, -2000, 4000, -4000, 8000, -8000, 12000, -12000}));
+    EXPECT_EQ(tool->GetXSnapOffsets(),
+              (std::vector<int>{0, 10000, -10000, 20000, -20000, 40000, -40000, 80000, -80000, 120000, -120000}));
+    EXPECT_EQ(tool->GetYSnapOffsets(),
+              (std::vector<int>{0, 1000, -1000, 2000, -2000, 4000, -4000, 8000, -8000, 12000, -12000}));
     struct Case {
         CPoint in, out;
     } cases[] = {
-        {{3499, 1900}, {0, 0}},       // 3499 from 0 snaps; on y, 0 comes before the nearer 2000
-        {{3500, 3400}, {3500, 0}},    // 3500 from 0 is out of reach, 6500 from 10000 too
-        {{-13499, 5100}, {-10000, 2000}},  // 2000 comes before the nearer 4000
+        {{3499, 1900}, {0, 0}},           // 3499 from 0 snaps; on y, 0 comes before the nearer 2000
+        {{3500, 3400}, {3500, 0}},        // 3500 from 0 is out of reach, 6500 from 10000 too
+        {{-13499, 5100}, {-10000, 2000}}, // 2000 comes before the nearer 4000
         {{60000, 16000}, {60000, 16000}},
     };
     for (const Case& c : cases) {
@@ -148,15 +149,15 @@ TEST_F(VectorToolTest, CreateDragsNeedTheirTravel)
 {
     site.create = true;
     auto scaling = Make(Vector());
-    site.Drag(*scaling, {50000, 50000}, {{56000, 56000}});  // an edit drag of no handle
+    site.Drag(*scaling, {50000, 50000}, {{56000, 56000}}); // an edit drag of no handle
     EXPECT_EQ(LastBox(), (P{{0, 0}, {40000, 0}, {0, -40000}}));
     site.Drag(*scaling, {50000, 50000}, {{56001, 50000}});
-    EXPECT_EQ(LastBox(), (P{{50000, 50000}, {56001, 50000}, {50000, 43999}}));  // square, as the drawing
+    EXPECT_EQ(LastBox(), (P{{50000, 50000}, {56001, 50000}, {50000, 43999}})); // square, as the drawing
 
     auto spacing = Make(Vector(), FillToolVector::SpacingMode);
     site.Drag(*spacing, {50000, 50000}, {{56000, 58000}}, DragFlagShift);
     EXPECT_EQ(Last().GetAdditionalOffset(), CPoint());
-    site.Drag(*spacing, {50000, 50000}, {{56001, 56001}}, DragFlagShift);  // moves A as far
+    site.Drag(*spacing, {50000, 50000}, {{56001, 56001}}, DragFlagShift); // moves A as far
     EXPECT_EQ(Handles(*spacing)[1], CPoint(46001, 6001));
 }
 
@@ -167,8 +168,8 @@ TEST_F(VectorToolTest, AxisDragsScaleTheTileInProportionAndCarryTheSpacing)
     auto tool = Make(fill);
     site.Drag(*tool, {40000, 0}, {{80000, 0}});
     EXPECT_EQ(LastBox(), (P{{0, 0}, {80000, 0}, {0, -40000}}));
-    EXPECT_EQ(Last().GetAdditionalOffset().x, 2000);  // the gap doubled with the tile
-    site.Drag(*tool, {0, -40000}, {{0, -20000}});  // the y end leads
+    EXPECT_EQ(Last().GetAdditionalOffset().x, 2000); // the gap doubled with the tile
+    site.Drag(*tool, {0, -40000}, {{0, -20000}});    // the y end leads
     EXPECT_EQ(LastBox(), (P{{0, 0}, {40000, 0}, {0, -20000}}));
     site.Drag(*tool, {0, 0}, {{500, -700}});
     EXPECT_EQ(LastBox(), (P{{500, -700}, {40500, -700}, {500, -20700}}));

@@ -32,7 +32,7 @@ int MiddleStop(const CFill& fill)
 
 class ToolGestureTest : public testing::Test {
 protected:
-    KestoTest::SessionSite site;  // records commits outside a gesture as undo steps
+    KestoTest::SessionSite site; // records commits outside a gesture as undo steps
     KestoTest::TestDocument document;
     CFillLinear fill = LineWithStop();
     FillToolLinear tool{&fill, &site};
@@ -56,7 +56,7 @@ TEST_F(ToolGestureTest, ADragIsOneStepFromThePressFillToACopyOfTheEndFill)
     const auto step = site.gesture.Release({800, 0}, 0);
     EXPECT_FALSE(site.IsInDrag());
     ASSERT_TRUE(step);
-    EXPECT_EQ(site.history.Size(), 0);  // the tool's commits during the drag made no step
+    EXPECT_EQ(site.history.Size(), 0); // the tool's commits during the drag made no step
     EXPECT_EQ(MiddleStop(*step->before), 5000);
     EXPECT_EQ(MiddleStop(*step->after), 8000);
     EXPECT_NE(step->after.get(), tool.GetFill());

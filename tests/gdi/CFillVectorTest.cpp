@@ -25,9 +25,9 @@ TEST(CFillVector, ScalingToTheDrawingKeepsTheOriginAndTheAxesDirections)
         bool yLeads, fitAspect;
         K2DDblPoint x, y;
     } cases[] = {
-        {false, false, {0, -400}, {200, 0}},  // the drawing's own lengths
-        {false, true, {0, -1000}, {500, 0}},  // x keeps its 1000
-        {true, true, {0, -600}, {300, 0}},    // y keeps its 300
+        {false, false, {0, -400}, {200, 0}}, // the drawing's own lengths
+        {false, true, {0, -1000}, {500, 0}}, // x keeps its 1000
+        {true, true, {0, -600}, {300, 0}},   // y keeps its 300
     };
     for (const Case& c : cases) {
         K2DDblPoint o(10, 10), x(10, -990), y(310, 10);
@@ -36,7 +36,7 @@ TEST(CFillVector, ScalingToTheDrawingKeepsTheOriginAndTheAxesDirections)
         EXPECT_EQ(x, K2DDblPoint(10 + c.x.x, 10 + c.x.y));
         EXPECT_EQ(y, K2DDblPoint(10 + c.y.x, 10 + c.y.y));
     }
-    K2DDblPoint o, x, y(0, 50);  // an axis of no length stays
+    K2DDblPoint o, x, y(0, 50); // an axis of no length stays
     fill.ScaleControlBoxToMetaInstance(o, x, y, false, true);
     EXPECT_EQ(y, K2DDblPoint(0, 50));
 }
@@ -47,7 +47,7 @@ TEST(CFillVector, ADefaultBoxShowsTheDrawingAtItsSizeUntilAnEditScalesIt)
     fill.SetDefaultControls(CRect(0, 0, 1000, 1000));
     EXPECT_FALSE(fill.IsAlreadyScaled());
     const CFillVector::Box placed = fill.GetPlacedBox();
-    EXPECT_EQ(placed.origin, K2DDblPoint(0, 1000));  // upright: the origin is the bottom-left corner
+    EXPECT_EQ(placed.origin, K2DDblPoint(0, 1000)); // upright: the origin is the bottom-left corner
     EXPECT_EQ(placed.xEnd, K2DDblPoint(400, 1000));
     EXPECT_EQ(placed.yEnd, K2DDblPoint(0, 800));
     EXPECT_EQ(fill.GetWidthHeight(), CPoint(400, 200));
@@ -73,8 +73,8 @@ TEST(CFillVector, TileRotationIsZeroUprightPiUpsideDownAndNegativeLeftward)
 TEST(CFillVector, OffsetSettersWriteTheSpacingVectorsTheHandlesShow)
 {
     CFillVector fill = Vector();
-    fill.SetAdditionalOffsetsX1Y2({5, 7});    // s2 = (5, 7)
-    fill.SetAdditionalOffsetsX2Y1({-3, -4});  // s1 = (3, 4)
+    fill.SetAdditionalOffsetsX1Y2({5, 7});   // s2 = (5, 7)
+    fill.SetAdditionalOffsetsX2Y1({-3, -4}); // s1 = (3, 4)
     EXPECT_EQ(fill.GetAdditionalOffset(), CPoint(3, -7));
     EXPECT_EQ(fill.GetAdditionalOffset2(), CPoint(-5, 4));
     fill.SetRawBox({{0, 0}, {400, 0}, {0, -200}}, true);
@@ -94,7 +94,7 @@ TEST(CFillVector, MirroringFlipsAndAnIndependentTileOnlyMoves)
     EXPECT_EQ(mirrored.GetRawBox().xEnd, K2DDblPoint(-400, 0));
 
     fill.SetScaleRotateIndependentOfObject(true, Kesto2D::K2DLtGeneral(2, 0, 0, 2, 0, 0));
-    fill.Transform(Kesto2D::K2DLtGeneral(3, 0, 0, 3, 0, 0));  // the box's middle (200, -100) goes to (600, -300)
+    fill.Transform(Kesto2D::K2DLtGeneral(3, 0, 0, 3, 0, 0)); // the box's middle (200, -100) goes to (600, -300)
     EXPECT_EQ(fill.GetRawBox().origin, K2DDblPoint(400, -200));
     EXPECT_EQ(fill.GetRawBox().xEnd, K2DDblPoint(800, -200));
     // Shown at half size, as the object's own scale of 2 is undone about the middle.

@@ -60,7 +60,7 @@ TEST(ColourIntPairs, MoveReSortsAndAnswersTheNewIndex)
     stops.Add(CRGBColour(RGB(255, 0, 0)), 2000);
     stops.Add(CRGBColour(RGB(0, 255, 0)), 4000);
     stops.Sort();
-    EXPECT_EQ(stops.Move(1, 6000), 2);  // red overtakes green
+    EXPECT_EQ(stops.Move(1, 6000), 2); // red overtakes green
     EXPECT_EQ(Values(stops), (std::vector<int>{0, 4000, 6000, 10000}));
     EXPECT_EQ(stops.GetAt(2)->GetColour().GetRGB(), RGB(255, 0, 0));
     EXPECT_EQ(stops.Move(7, 0), -1);
@@ -112,7 +112,7 @@ TEST(ColourIntPairs, SplineOfTheEarlierStopShapesTheBlend)
 {
     ColourIntPairs stops = BlackToWhite();
     EXPECT_TRUE(stops.GetAt(0)->IsStraight());
-    stops.GetAt(0)->SetSpline(CSpline(0, 0));  // ease in: slow start
+    stops.GetAt(0)->SetSpline(CSpline(0, 0)); // ease in: slow start
     EXPECT_FALSE(stops.GetAt(0)->IsStraight());
     const int eased = KestoPlatform::GetRValue(stops.MakeColourForValue(5000)->GetRGB());
     // With both inner control values 0 the blend is t^3: an eighth of the way at halfway.

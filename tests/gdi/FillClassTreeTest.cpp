@@ -38,8 +38,8 @@ struct KindRow {
     const CRuntimeClass* runtimeClass;
     int type;
     bool transparency;
-    bool gradient;   // a CFillGradient: what the editors treat as a gradient
-    bool stops;      // keeps a stop list
+    bool gradient; // a CFillGradient: what the editors treat as a gradient
+    bool stops;    // keeps a stop list
     int controls;
 };
 

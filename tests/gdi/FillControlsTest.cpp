@@ -51,11 +51,13 @@ TEST(FillControls, DefaultControlsPlaceEachKindOverTheRectangle)
         {"ellipse: fits the box", [] { return MakeRef<CFillEllipse>(); }, {{200, 200}, {400, 200}, {200, 100}}},
         {"square: fits the box", [] { return MakeRef<CFillSquare>(); }, {{200, 200}, {400, 200}, {200, 100}}},
         {"three colour: corners", [] { return MakeRef<CFillThreeColour>(); }, {{0, 100}, {400, 100}, {0, 300}}},
-        {"four colour: corners", [] { return MakeRef<CFillFourColour>(); },
+        {"four colour: corners",
+         [] { return MakeRef<CFillFourColour>(); },
          {{0, 100}, {400, 100}, {0, 300}, {400, 300}}},
         {"plasma: corners", [] { return MakeRef<CFillFractal>(); }, {{0, 100}, {400, 100}, {0, 300}}},
         {"bitmap: one tile over the box", [] { return MakeRef<CFillBitmap>(); }, {{0, 100}, {400, 100}, {0, 300}}},
-        {"mesh: grid corners", [] { return MakeRef<CFillDiscreteMesh>(); },
+        {"mesh: grid corners",
+         [] { return MakeRef<CFillDiscreteMesh>(); },
          {{0, 100}, {400, 100}, {0, 300}, {400, 300}}},
     };
     for (const auto& row : rows) {

@@ -1,4 +1,5 @@
 #include "kestotool/gdi/CFillDiscreteMesh.h"
+#include "kestotool/gdi/CFillFourColour.h"
 #include "kestotool/gdi/CFillFractal.h"
 #include "kestotool/gdi/CFillLinear.h"
 #include "kestotool/gdi/CFillThreeColour.h"
@@ -6,7 +7,6 @@
 #include "kestotool/gdi/CRGBColour.h"
 #include "kestotool/gdi/CTransparencyLinear.h"
 #include "kestotool/gdi/FillPaint.h"
-#include "kestotool/gdi/CFillFourColour.h"
 
 #include <gtest/gtest.h>
 
@@ -43,7 +43,7 @@ TEST(FillPaint, TransparenciesPaintTheirLevelsAndCornerKindsTheirCorners)
     const auto levels = FillPaint::From(transparency);
     ASSERT_TRUE(levels);
     EXPECT_TRUE(levels->transparency);
-    EXPECT_EQ(levels->stops.back().colour.r, 255);  // the default ends clear
+    EXPECT_EQ(levels->stops.back().colour.r, 255); // the default ends clear
 
     const auto corners = FillPaint::From(CFillThreeColour());
     ASSERT_TRUE(corners);
@@ -59,8 +59,8 @@ TEST(FillPaint, TransparenciesPaintTheirLevelsAndCornerKindsTheirCorners)
     four.SetColourIntPairs(round);
     const auto quad = FillPaint::From(four);
     ASSERT_TRUE(quad);
-    EXPECT_EQ(quad->colours[2].r, 30);  // P2's colour is the list's last entry
-    EXPECT_EQ(quad->colours[3].r, 20);  // P3's is entry 2, its handle's
+    EXPECT_EQ(quad->colours[2].r, 30); // P2's colour is the list's last entry
+    EXPECT_EQ(quad->colours[3].r, 20); // P3's is entry 2, its handle's
 
     CFillFractal plasma;
     plasma.SetSeed(42);

@@ -33,7 +33,7 @@ TEST(VectorDrawing, ShapesArePaintedInOrderIntoATileOfTheScaledSize)
     VectorDrawing drawing(10, 10);
     drawing.AddShape(Box(0, 0, 10, 10), Solid(KestoPlatform::RGB(0, 0, 255)));
     drawing.AddShape(Box(5, 0, 10, 5), Solid(KestoPlatform::RGB(255, 0, 0)));
-    drawing.AddShape(Box(0, 5, 5, 10), nullptr);  // no fill: left out
+    drawing.AddShape(Box(0, 5, 5, 10), nullptr); // no fill: left out
     const RefPtr<const CLtBitmap> tile = drawing.Tile(2, 3);
     ASSERT_TRUE(tile);
     EXPECT_EQ(tile->GetWidth(), 20);
@@ -46,7 +46,7 @@ TEST(VectorDrawing, ShapesArePaintedInOrderIntoATileOfTheScaledSize)
 TEST(VectorDrawing, ATileIsKeptPerSizeAndBadScalesGiveNone)
 {
     VectorDrawing drawing(16, 8);
-    CFillLinear ramp;  // black to white across the drawing
+    CFillLinear ramp; // black to white across the drawing
     ramp.SetControls({0, 0}, {16, 0});
     drawing.AddShape(Box(0, 0, 16, 8), ramp.Clone());
     const RefPtr<const CLtBitmap> once = drawing.Tile(1, 1);

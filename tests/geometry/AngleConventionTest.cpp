@@ -44,8 +44,8 @@ TEST(AngleConvention, CalcAngleOfARotatedPointIsTheComplementOfTheRotation)
 TEST(AngleConvention, CalcAngleNamedDirections)
 {
     const CPoint c(0, 0);
-    EXPECT_EQ(K2DGeometry::CalcAngle(CPoint(10, 0), c, CPoint(0, -10)), 9000);  // right to up
-    EXPECT_EQ(K2DGeometry::CalcAngle(CPoint(10, 0), c, CPoint(0, 10)), 27000);  // right to down
+    EXPECT_EQ(K2DGeometry::CalcAngle(CPoint(10, 0), c, CPoint(0, -10)), 9000); // right to up
+    EXPECT_EQ(K2DGeometry::CalcAngle(CPoint(10, 0), c, CPoint(0, 10)), 27000); // right to down
     EXPECT_EQ(K2DGeometry::CalcAngle(CPoint(10, 0), c, CPoint(-10, 0)), 18000);
     EXPECT_EQ(K2DGeometry::CalcAngle(CPoint(10, 0), c, CPoint(20, 0)), 0);
 }
@@ -61,7 +61,7 @@ TEST(Distances, DoubleAndRoundedIntegerDistanceSurviveHugeCoordinates)
 {
     EXPECT_DOUBLE_EQ(K2DGeometry::CalcDist(CPoint(0, 0), CPoint(3, 4)), 5.0);
     EXPECT_EQ(K2DGeometry::IDist(CPoint(0, 0), CPoint(1, 1)), 1);
-    EXPECT_EQ(K2DGeometry::IDist(CPoint(0, 0), CPoint(2, 3)), 4);  // 3.606
+    EXPECT_EQ(K2DGeometry::IDist(CPoint(0, 0), CPoint(2, 3)), 4); // 3.606
     constexpr int big = 1 << 30;
     EXPECT_EQ(K2DGeometry::IDist(CPoint(-big, 0), CPoint(big - 1, 0)), 2147483647);
 }

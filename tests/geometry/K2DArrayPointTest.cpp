@@ -37,7 +37,7 @@ TEST(K2DArrayPoint, EllipseIsClosedAndTouchesItsBox)
     a.AppendEllipse({100, 100}, 100, 50);
     EXPECT_EQ(a.GetSize(), 65);
     EXPECT_EQ(a.GetAt(0), CPoint(200, 100));
-    EXPECT_EQ(a.GetAt(16), CPoint(100, 50));  // a quarter turn anticlockwise: up on screen
+    EXPECT_EQ(a.GetAt(16), CPoint(100, 50)); // a quarter turn anticlockwise: up on screen
     EXPECT_EQ(a.GetBBox(), CRect(0, 50, 200, 150));
 }
 

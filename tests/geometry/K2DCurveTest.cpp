@@ -29,13 +29,13 @@ TEST(K2DCurve, TransformedCircleIsTheExactEllipse)
     const K2DDblPoint c(1000, 1000);
     K2DLtGeneral map;
     map += K2DLtTranslate(-c.x, -c.y);
-    map += K2DLtScale(3, 1);  // radii 300 and 100
+    map += K2DLtScale(3, 1); // radii 300 and 100
     map += K2DLtRotate(9000);
     map += K2DLtTranslate(c.x, c.y);
     const CRect box = K2DCurve::Circle(c, 100).Transformed(map).GetBBox();
     EXPECT_EQ(box, CRect(900, 700, 1100, 1300));
 
-    K2DLtGeneral skew(1, 0, 1, 1, 0, 0);  // x' = x + y
+    K2DLtGeneral skew(1, 0, 1, 1, 0, 0); // x' = x + y
     const CRect skewed = K2DCurve::Circle({0, 0}, 100).Transformed(skew).GetBBox();
     const int halfWidth = static_cast<int>(std::lround(100 * std::sqrt(2.0)));
     EXPECT_EQ(skewed, CRect(-halfWidth, -100, halfWidth, 100));
@@ -55,4 +55,3 @@ TEST(K2DCurve, FlattenStaysWithinTolerance)
         EXPECT_LE(radius - std::hypot(mid.x, mid.y), 0.5 + 1e-9);
     }
 }
-

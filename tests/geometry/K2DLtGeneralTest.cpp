@@ -29,7 +29,7 @@ TEST(K2DLtGeneral, RotationAboutACentreLeavesTheCentreFixed)
     t += K2DLtTranslate(c.x, c.y);
     EXPECT_EQ(t.ApplyTo(c), c);
     EXPECT_EQ(t.ApplyTo(CPoint(310, 400)), CPoint(300, 390));
-    EXPECT_EQ(t.GetM11(), 0.0);  // quarter turns are exact
+    EXPECT_EQ(t.GetM11(), 0.0); // quarter turns are exact
     EXPECT_EQ(t.GetM22(), 0.0);
 }
 
@@ -77,5 +77,5 @@ TEST(K2DLtGeneral, VectorsIgnoreTranslationAndHugePointsSaturateToTheCoordinateR
     K2DLtGeneral rotate{K2DLtRotate(4500)};
     const CPoint p = rotate.ApplyTo(CPoint(big, big));
     EXPECT_EQ(p.y, 0);
-    EXPECT_EQ(p.x, big);  // 2^30 * sqrt(2) lies outside the range
+    EXPECT_EQ(p.x, big); // 2^30 * sqrt(2) lies outside the range
 }

@@ -46,9 +46,9 @@ TEST(K2DStraightLine, PointOnFiniteLineUsesTheTolerance)
 {
     K2DStraightLine diagonal;
     ASSERT_TRUE(diagonal.SetFinite({0, 0}, {100, 100}));
-    EXPECT_TRUE(diagonal.IsPointOnLine({50, 53}, 3.0));   // 2.12 away
-    EXPECT_FALSE(diagonal.IsPointOnLine({50, 56}, 3.0));  // 4.24 away
-    EXPECT_FALSE(diagonal.IsPointOnLine({104, 104}, 3.0));  // beyond the end
+    EXPECT_TRUE(diagonal.IsPointOnLine({50, 53}, 3.0));    // 2.12 away
+    EXPECT_FALSE(diagonal.IsPointOnLine({50, 56}, 3.0));   // 4.24 away
+    EXPECT_FALSE(diagonal.IsPointOnLine({104, 104}, 3.0)); // beyond the end
     EXPECT_TRUE(diagonal.IsPointOnLine({102, 102}, 3.0));
 }
 
@@ -109,11 +109,10 @@ TEST(K2DStraightLine, PositivePerpendicularDistanceIsLeftOfTheDirectionOnScreen)
 {
     K2DStraightLine rightwards;
     rightwards.SetFinite({0, 0}, {100, 0});
-    ExpectNear(rightwards.PointAtPerpendicularDistance({0, 0}, 10), {0, -10});  // up on screen
+    ExpectNear(rightwards.PointAtPerpendicularDistance({0, 0}, 10), {0, -10}); // up on screen
     ExpectNear(rightwards.PointAtPerpendicularDistance({100, 0}, -10), {100, 10});
     K2DStraightLine down;
     down.SetFinite({0, 0}, {0, 30});
     ExpectNear(down.PointAtPerpendicularDistance({0, 30}, 5), {5, 30});
     EXPECT_NEAR(down.GetAngle(rightwards), std::numbers::pi / 2, 1e-12);
 }
-

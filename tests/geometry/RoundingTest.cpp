@@ -17,8 +17,8 @@ struct RoundRow {
 TEST(Rounding, TheThreeRulesDifferOnlyOnNegativeValues)
 {
     const RoundRow rows[] = {
-        {0.0, 0, 0, 0},     {0.4, 0, 0, 0},     {0.5, 1, 1, 1},       {1.5, 2, 2, 2},       {2.5, 3, 3, 3},
-        {-0.4, 0, 0, 0},    {-0.5, 0, -1, 0},   {-1.5, -1, -2, -1},   {-2.5, -2, -3, -2},   {-2.6, -3, -3, -2},
+        {0.0, 0, 0, 0},  {0.4, 0, 0, 0},   {0.5, 1, 1, 1},     {1.5, 2, 2, 2},     {2.5, 3, 3, 3},
+        {-0.4, 0, 0, 0}, {-0.5, 0, -1, 0}, {-1.5, -1, -2, -1}, {-2.5, -2, -3, -2}, {-2.6, -3, -3, -2},
     };
     for (const auto& row : rows) {
         EXPECT_EQ(RoundHalfUp(row.x), row.halfUp) << row.x;

@@ -11,6 +11,7 @@ public:
     explicit Counted(int* deaths, int value = 0) : m_deaths(deaths), m_value(value) {}
     ~Counted() override { ++*m_deaths; }
     std::size_t Measure() const override { return sizeof(*this); }
+
 private:
     int* m_deaths;
 

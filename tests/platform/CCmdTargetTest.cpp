@@ -17,7 +17,11 @@ public:
 protected:
     void OnOne() { calls.push_back("base one"); }
     void OnTwo() { calls.push_back("base two"); }
-    void OnUpdateOne(CCmdUI* ui) { ui->Enable(true); ui->SetCheck(1); }
+    void OnUpdateOne(CCmdUI* ui)
+    {
+        ui->Enable(true);
+        ui->SetCheck(1);
+    }
     void OnPicked(NMXTPCONTROL* n, long* result)
     {
         calls.push_back("picked " + std::to_string(n ? n->hdr.code : -1));

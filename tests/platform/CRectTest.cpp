@@ -16,12 +16,8 @@ TEST(CRect, PtInRectIncludesLeftTopAndExcludesRightBottom)
 {
     const CRect r(10, 20, 30, 40);
     const PtInRectRow rows[] = {
-        {"top-left corner", {10, 20}, true},
-        {"inside", {15, 25}, true},
-        {"last column", {29, 39}, true},
-        {"right edge", {30, 25}, false},
-        {"bottom edge", {15, 40}, false},
-        {"left of left", {9, 25}, false},
+        {"top-left corner", {10, 20}, true}, {"inside", {15, 25}, true},       {"last column", {29, 39}, true},
+        {"right edge", {30, 25}, false},     {"bottom edge", {15, 40}, false}, {"left of left", {9, 25}, false},
         {"above top", {15, 19}, false},
     };
     for (const auto& row : rows)
@@ -73,4 +69,3 @@ TEST(CRect, UnionIgnoresEmptyRectsAndIntersectionReportsNoOverlap)
     EXPECT_FALSE(i.IntersectRect(CRect(0, 0, 10, 10), CRect(10, 0, 20, 10)));
     EXPECT_TRUE(i.IsRectNull());
 }
-

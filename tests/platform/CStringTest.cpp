@@ -36,7 +36,6 @@ TEST(CString, TrimRemovesWhitespaceOnBothEnds)
     EXPECT_TRUE(blank.Trim().IsEmpty());
 }
 
-
 TEST(CString, Utf8RoundTripAndInvalidBytes)
 {
     const CString text(L"F\u00fcllung \u20ac \U0001F600");

@@ -27,14 +27,13 @@ public:
     void OnKillFocus(CWnd*) override { log->push_back(name + " kill"); }
     void OnSetFocus(CWnd*) override { log->push_back(name + " set"); }
     void OnShowWindow(bool show, int) override { log->push_back(name + (show ? " show" : " hide")); }
-    void OnWindowPosChanging(WINDOWPOS* pos) override
-    {
-        log->push_back(name + " pos " + std::to_string(pos->flags));
-    }
+    void OnWindowPosChanging(WINDOWPOS* pos) override { log->push_back(name + " pos " + std::to_string(pos->flags)); }
 };
 
 const DialogTemplate kTemplate{
-    500, L"Test", CRect(0, 0, 200, 100),
+    500,
+    L"Test",
+    CRect(0, 0, 200, 100),
     {{"Edit", 10, CRect(0, 0, 50, 20), L"7"},
      {"Spin", 11, CRect(50, 0, 60, 20), L""},
      {"Custom", 12, CRect(0, 30, 50, 50), L"c"},
@@ -88,9 +87,9 @@ TEST(Window, ABackEndGetsAPeerPerWindowUpdatesButNoEchoOfUserTextAndTheModalEnd)
         auto& dlg = static_cast<NumberDialog&>(d);
         dlg.edit.SetFocus();
         backend.updates.clear();
-        backend.EnterText(L"12");  // the widget shows it already
+        backend.EnterText(L"12"); // the widget shows it already
         EXPECT_TRUE(backend.updates.empty());
-        dlg.edit.SetWindowText(L"15");  // the program's change is shown
+        dlg.edit.SetWindowText(L"15"); // the program's change is shown
         EXPECT_EQ(backend.updates, std::vector<std::string>{"15"});
         backend.ClickButton(dlg, IDOK);
     });
@@ -112,10 +111,10 @@ TEST(Window, TimersFireInTimeOrderOnTheFakeClockUntilKilled)
     b.SetTimer(7, 200);
     Headless().AdvanceClock(199);
     EXPECT_TRUE(log.empty());
-    Headless().AdvanceClock(401);  // to 600: b at 200 and 400, a at 300, then a and b at 600
+    Headless().AdvanceClock(401); // to 600: b at 200 and 400, a at 300, then a and b at 600
     EXPECT_EQ(log, (std::vector<std::string>{"b timer 7", "a timer 1", "b timer 7", "a timer 1", "b timer 7"}));
     a.KillTimer(1);
-    b.SetTimer(7, 1000);  // restarting replaces
+    b.SetTimer(7, 1000); // restarting replaces
     log.clear();
     Headless().AdvanceClock(999);
     EXPECT_TRUE(log.empty());
@@ -174,7 +173,7 @@ TEST(Window, ModalRunBuildsTheTemplateExchangesDataAndEndsWithOk)
     NumberDialog dialog(&kTemplate, nullptr);
     Headless().SetModalScript([](CDialog& d) {
         auto& dlg = static_cast<NumberDialog&>(d);
-        EXPECT_EQ(dlg.edit.GetWindowText(), CString(L"3"));  // loaded from the member
+        EXPECT_EQ(dlg.edit.GetWindowText(), CString(L"3")); // loaded from the member
         ASSERT_NE(dlg.GetDlgItem(12), nullptr);
         EXPECT_EQ(dlg.GetDlgItem(12)->GetWindowText(), CString(L"c"));
         // The spin's buddy is the edit box before it.
@@ -198,7 +197,7 @@ TEST(Window, TextThatIsNoNumberFailsTheExchangeAndKeepsTheMember)
     Headless().SetModalScript([](CDialog& d) {
         auto& dlg = static_cast<NumberDialog&>(d);
         dlg.edit.SetWindowText(L"4x");
-        Headless().ClickButton(dlg, IDOK);  // OK refuses: the dialog stays open
+        Headless().ClickButton(dlg, IDOK); // OK refuses: the dialog stays open
         EXPECT_FALSE(dlg.IsEnded());
     });
     EXPECT_EQ(dialog.DoModal(), IDCANCEL);

@@ -27,8 +27,8 @@ public:
 
 TEST(QtBackend, WallClockTimersFireFromTheEventLoopAndStopWhenKilledInTheirHandler)
 {
-    KestoTest::QtUserInput().Install();  // the application
-    KestoToolQt::QtBackend backend;      // on the wall clock
+    KestoTest::QtUserInput().Install(); // the application
+    KestoToolQt::QtBackend backend;     // on the wall clock
     KestoPlatform::WindowBackend* previous = KestoPlatform::SetBackend(&backend);
     TickingWindow window;
     window.Create(nullptr, 1, KestoPlatform::CRect(0, 0, 10, 10));
@@ -71,7 +71,7 @@ TEST(QtBackend, EscapeCancelsThroughTheDialogsOwnCancel)
     KestoTool::CSolidTransparencyDlg dialog(nullptr, nullptr);
     input.SetModalScript([](KestoPlatform::CDialog& d) {
         QTest::keyClick(KestoToolQt::QtBackend::WidgetOf(d), Qt::Key_Escape);
-        EXPECT_TRUE(d.IsEnded());  // ended by OnCancel, not left for the run to cancel
+        EXPECT_TRUE(d.IsEnded()); // ended by OnCancel, not left for the run to cancel
     });
     EXPECT_EQ(dialog.DoModal(), KestoPlatform::IDCANCEL);
     input.Uninstall();

@@ -7,10 +7,10 @@
 #include "kestotool/gdi/CMonoColour.h"
 #include "kestotool/gdi/CTransparencyLinear.h"
 #include "kestotool/gdi/ColourIntPairs.h"
+#include "kestotool/tool/ToolIdMap.h"
 #include "support/TestDocument.h"
 #include "support/TestToolSite.h"
 #include "support/UserInput.h"
-#include "kestotool/tool/ToolIdMap.h"
 
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -62,7 +62,8 @@ TEST(QtCommandBar, ShowsTheToolsBarAndRoutesClicksEditsAndChoicesToTheTool)
     auto* rotate = qobject_cast<QToolButton*>(bar.WidgetOf(base + FillCmdRotateLeft));
     ASSERT_NE(rotate, nullptr);
     EXPECT_FALSE(rotate->icon().isNull());
-    const QStringList prompt = KestoToolQt::ToQString(bars.FindControl(base + FillCmdRotateLeft)->GetPrompt()).split('\n');
+    const QStringList prompt =
+        KestoToolQt::ToQString(bars.FindControl(base + FillCmdRotateLeft)->GetPrompt()).split('\n');
     ASSERT_GE(prompt.size(), 2);
     EXPECT_EQ(rotate->toolTip(), prompt[1]);
     EXPECT_EQ(rotate->statusTip(), prompt[0]);
@@ -74,7 +75,7 @@ TEST(QtCommandBar, ShowsTheToolsBarAndRoutesClicksEditsAndChoicesToTheTool)
     startLevel->setValue(40);
     emit startLevel->editingFinished();
     ASSERT_FALSE(site.commits.empty());
-    EXPECT_EQ(LevelOf(*site.commits.back().fill, 0), 102);  // 40 percent of 255, rounded
+    EXPECT_EQ(LevelOf(*site.commits.back().fill, 0), 102); // 40 percent of 255, rounded
 
     const std::size_t before = site.commits.size();
     QTest::mouseClick(rotate, Qt::LeftButton);

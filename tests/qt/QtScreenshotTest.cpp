@@ -8,26 +8,26 @@
 #include "kestotool/dialogs/ThreeAndFourColourFillDlg.h"
 #include "kestotool/dialogs/ThreeAndFourColourTranspDlg.h"
 #include "kestotool/dialogs/VectorFillDlgBase.h"
+#include "kestotool/filltool/FillToolFactory.h"
 #include "kestotool/gdi/CFillFourColour.h"
 #include "kestotool/gdi/CFillFractal.h"
+#include "kestotool/gdi/CFillLinear.h"
 #include "kestotool/gdi/CFillRadial.h"
 #include "kestotool/gdi/CFillSolid.h"
-#include "kestotool/gdi/CTransparencyLinear.h"
-#include "kestotool/gdi/CTransparencyThreePoint.h"
-#include "kestotool/gdi/VectorDrawing.h"
-#include "kestotool/resources/ResourceIds.h"
-#include "support/TestDocument.h"
-#include "kestotool/filltool/FillToolFactory.h"
-#include "kestotool/gdi/CFillLinear.h"
 #include "kestotool/gdi/CFillSquare.h"
 #include "kestotool/gdi/CMonoColour.h"
 #include "kestotool/gdi/CRGBColour.h"
+#include "kestotool/gdi/CTransparencyLinear.h"
+#include "kestotool/gdi/CTransparencyThreePoint.h"
 #include "kestotool/gdi/ColourIntPairs.h"
 #include "kestotool/gdi/FillPaint.h"
+#include "kestotool/gdi/VectorDrawing.h"
 #include "kestotool/qt/QtBackend.h"
 #include "kestotool/qt/QtRenderContext.h"
 #include "kestotool/qt/QtRenderTarget.h"
+#include "kestotool/resources/ResourceIds.h"
 #include "support/ReferenceImage.h"
+#include "support/TestDocument.h"
 #include "support/TestToolSite.h"
 #include "support/UserInput.h"
 
@@ -50,7 +50,8 @@ namespace {
 
 void ExpectMatchesReference(const QImage& picture, const QString& name)
 {
-    KestoTest::ExpectMatchesReference(picture, QStringLiteral(KESTO_REFERENCE_DIR), QStringLiteral(KESTO_DIFFERENCE_DIR), name);
+    KestoTest::ExpectMatchesReference(picture, QStringLiteral(KESTO_REFERENCE_DIR),
+                                      QStringLiteral(KESTO_DIFFERENCE_DIR), name);
 }
 
 class QtScreenshots : public testing::Test {
@@ -100,7 +101,8 @@ KestoGDI::ColourIntPairs Levels(std::initializer_list<int> levels)
     KestoGDI::ColourIntPairs stops;
     int at = 0;
     for (const int level : levels) {
-        stops.Add(KestoGDI::CMonoColour(level), levels.size() > 1 ? at * 10000 / static_cast<int>(levels.size() - 1) : 0);
+        stops.Add(KestoGDI::CMonoColour(level),
+                  levels.size() > 1 ? at * 10000 / static_cast<int>(levels.size() - 1) : 0);
         ++at;
     }
     return stops;
@@ -125,14 +127,16 @@ KestoKernel::RefPtr<const KestoGDI::VectorDrawing> Motif()
     diamond.LineTo({200, 380});
     diamond.LineTo({20, 200});
     diamond.Close();
-    drawing->AddShape(diamond, KestoKernel::MakeRef<KestoGDI::CFillSolid>(KestoGDI::CRGBColour(KestoPlatform::RGB(220, 40, 40)), true));
+    drawing->AddShape(diamond, KestoKernel::MakeRef<KestoGDI::CFillSolid>(
+                                   KestoGDI::CRGBColour(KestoPlatform::RGB(220, 40, 40)), true));
     KestoRaster::Path bar;
     bar.MoveTo({0, 180});
     bar.LineTo({400, 180});
     bar.LineTo({400, 220});
     bar.LineTo({0, 220});
     bar.Close();
-    drawing->AddShape(bar, KestoKernel::MakeRef<KestoGDI::CFillSolid>(KestoGDI::CRGBColour(KestoPlatform::RGB(30, 60, 200)), true));
+    drawing->AddShape(
+        bar, KestoKernel::MakeRef<KestoGDI::CFillSolid>(KestoGDI::CRGBColour(KestoPlatform::RGB(30, 60, 200)), true));
     return drawing;
 }
 
@@ -154,7 +158,7 @@ TEST_F(QtScreenshots, EditorsInRealWindows)
     const auto three = Placed<KestoGDI::CTransparencyThreePoint>(Levels({0, 128, 255}));
     auto vector = KestoKernel::MakeRef<KestoGDI::CFillVector>(Motif());
     vector->SetDefaultControls(object);
-    vector->UpdateBBox(object, {});  // as the tool's Edit Fill hands it over
+    vector->UpdateBBox(object, {}); // as the tool's Edit Fill hands it over
 
     CGradientFillDlg gradient(&document, radial.get(), object, nullptr);
     CGradientTranspDlg gradientTransparency(&document, transparency.get(), object, nullptr);
@@ -175,7 +179,8 @@ TEST_F(QtScreenshots, EditorsInRealWindows)
                 const KestoPlatform::CPoint at = bar.GetViewTransform().ApplyTo(KestoPlatform::CPoint(2500, 500));
                 input.DragMouse(bar, at, at);
                 KestoUI::FillControl& preview = gradient.GetPreview();
-                const KestoPlatform::CPoint rim = preview.GetViewTransform().ApplyTo(gradient.GetFill()->GetControlPoint(1).Round());
+                const KestoPlatform::CPoint rim =
+                    preview.GetViewTransform().ApplyTo(gradient.GetFill()->GetControlPoint(1).Round());
                 input.DragMouse(preview, rim, KestoPlatform::CPoint(rim.x + 15, rim.y - 25));
             }
             QWidget* window = QtBackend::WidgetOf(d);

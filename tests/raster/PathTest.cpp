@@ -87,7 +87,7 @@ TEST(Path, ACircleOfCubicsCoversItsArea)
 TEST(Path, WindingDecidesHolesAndOverlaps)
 {
     Path ring = Polygon({{2, 2}, {20, 2}, {20, 20}, {2, 20}});
-    ring.MoveTo({6, 6});  // the inner square the other way round: a hole
+    ring.MoveTo({6, 6}); // the inner square the other way round: a hole
     ring.LineTo({6, 14});
     ring.LineTo({14, 14});
     ring.LineTo({14, 6});
@@ -101,14 +101,14 @@ TEST(Path, WindingDecidesHolesAndOverlaps)
     twice.LineTo({14, 14});
     twice.LineTo({6, 14});
     twice.Close();
-    EXPECT_EQ(Covered(twice).At(10, 10), 255);  // the same way round: still just covered
+    EXPECT_EQ(Covered(twice).At(10, 10), 255); // the same way round: still just covered
     // After Close a line starts again from the closed piece's first point.
     Path again = Polygon({{2, 2}, {10, 2}, {10, 10}});
     again.LineTo({10, 10});
     again.LineTo({2, 10});
     const Mask both = Covered(again);
-    EXPECT_EQ(both.At(8, 4), 255);  // the first triangle
-    EXPECT_EQ(both.At(3, 8), 255);  // the second, from (2, 2) to (10, 10) and (2, 10)
+    EXPECT_EQ(both.At(8, 4), 255); // the first triangle
+    EXPECT_EQ(both.At(3, 8), 255); // the second, from (2, 2) to (10, 10) and (2, 10)
 }
 
 TEST(Path, AClipWritesOnlyItsPixelsAndMatchesTheFullRender)

@@ -52,15 +52,16 @@ std::vector<Named> Paints()
         {"elliptical", Make(K::Elliptical, {{30, 20}, {55, 25}, {28, 5}}, ramp, {})},
         {"conical", Make(K::Conical, {{32, 24}, {50, 24}}, ramp, {})},
         {"square", Make(K::Square, {{30, 24}, {45, 30}, {25, 10}}, ramp, {})},
-        {"three colour", Make(K::ThreeColour, {{5, 5}, {55, 8}, {10, 40}}, {}, {C(255, 0, 0), C(0, 255, 0), C(0, 0, 255, 100)})},
+        {"three colour",
+         Make(K::ThreeColour, {{5, 5}, {55, 8}, {10, 40}}, {}, {C(255, 0, 0), C(0, 255, 0), C(0, 0, 255, 100)})},
         {"four colour", Make(K::FourColour, {{4, 4}, {60, 10}, {8, 44}, {50, 40}}, {},
                              {C(255, 0, 0), C(0, 255, 0), C(0, 0, 255), C(255, 255, 0, 60)})},
         // Over the whole frame: rows inside the parallelogram, or on one side of an edge, are
         // painted by the fixed-point path (premultiplied, opaque and as a transparency).
         {"three colour covering", Make(K::ThreeColour, {{-30, -20}, {150, -10}, {-20, 120}}, {},
                                        {C(255, 0, 0), C(0, 255, 0), C(0, 0, 255, 100)})},
-        {"three colour covering opaque", Make(K::ThreeColour, {{-30, -20}, {150, -10}, {-20, 120}}, {},
-                                              {C(250, 3, 0), C(0, 255, 40), C(7, 0, 255)})},
+        {"three colour covering opaque",
+         Make(K::ThreeColour, {{-30, -20}, {150, -10}, {-20, 120}}, {}, {C(250, 3, 0), C(0, 255, 40), C(7, 0, 255)})},
         {"three colour transparency", Make(K::ThreeColour, {{-30, -20}, {150, -10}, {-20, 120}}, {},
                                            {C(255, 255, 255), C(0, 0, 0), C(90, 90, 90)}, true)},
         {"linear transparency", Make(K::Linear, {{0, 0}, {64, 0}}, levels, {}, true)},
@@ -81,7 +82,8 @@ std::vector<Named> Paints()
     bitmap.recolour = true;
     bitmap.stops = ramp;
     all.push_back({"bitmap recoloured", bitmap});
-    Paint plasma = std::find_if(all.begin(), all.end(), [](const Named& n) { return n.paint.kind == K::Plasma; })->paint;
+    Paint plasma =
+        std::find_if(all.begin(), all.end(), [](const Named& n) { return n.paint.kind == K::Plasma; })->paint;
     plasma.mirroredTiles = true;
     plasma.plasma = {77, 90, 16};
     all.push_back({"plasma, mirrored, grainy", plasma});
@@ -115,7 +117,8 @@ struct Image {
     }
     Target Of()
     {
-        return format == Output::Argb32 ? Target{words.data(), w, h, w * 4, format} : Target{bytes.data(), w, h, w, format};
+        return format == Output::Argb32 ? Target{words.data(), w, h, w * 4, format}
+                                        : Target{bytes.data(), w, h, w, format};
     }
     std::uint32_t At(int x, int y) const { return format == Output::Argb32 ? words[y * w + x] : bytes[y * w + x]; }
 };
@@ -180,7 +183,8 @@ TEST(Render, EveryKindMatchesTheReferenceWithinItsTableStepInBothOutputsOnEveryI
             for (const Output out : {Output::Argb32, Output::Mask8}) {
                 for (const Affine& placement : {Affine{}, rotated}) {
                     const auto [worst, tolerance] = AgainstReference(paint, placement, out);
-                    EXPECT_LE(worst, tolerance) << name << (out == Output::Argb32 ? " argb " : " mask ") << IsaName(isa);
+                    EXPECT_LE(worst, tolerance)
+                        << name << (out == Output::Argb32 ? " argb " : " mask ") << IsaName(isa);
                 }
             }
         }
@@ -213,7 +217,8 @@ TEST(Render, LongCornerRowsMatchTheReferenceAcrossTheirEdges)
     Paint opaqueQuad = PaintNamed("four colour");
     opaqueQuad.colours.back().a = 255;
     std::vector<Named> paints = {{"four colour opaque", opaqueQuad}};
-    for (const char* name : {"three colour", "three colour covering opaque", "three colour transparency", "four colour"})
+    for (const char* name :
+         {"three colour", "three colour covering opaque", "three colour transparency", "four colour"})
         paints.push_back({name, PaintNamed(name)});
     for (Named& named : paints)
         named.paint.points = {{300, -40}, {700, 30}, {250, 90}, {800, 70}};
@@ -227,8 +232,9 @@ TEST(Render, LongCornerRowsMatchTheReferenceAcrossTheirEdges)
     opaqueQuad.points = {{40, -40}, {1250, -10}, {80, 80}, {1280, 60}};
     paints.push_back({"four colour opaque, wide", opaqueQuad});
     // Two pixels across: a block's levels run far out of 0..255 on either side of its edges.
-    for (const auto& [name, from] : {Named{"three colour, tiny", PaintNamed("three colour covering opaque")},
-                                     Named{"three colour transparency, tiny", PaintNamed("three colour transparency")}}) {
+    for (const auto& [name, from] :
+         {Named{"three colour, tiny", PaintNamed("three colour covering opaque")},
+          Named{"three colour transparency, tiny", PaintNamed("three colour transparency")}}) {
         paints.push_back({name, from});
         paints.back().paint.points = {{600, 0}, {601.5, 0.2}, {600.3, 1.5}};
     }
@@ -277,8 +283,9 @@ TEST(Render, LongRampRowsMatchTheReferenceInsideAndAcrossTheirPieces)
 // levels jump; next to an edge's line a rise and a jump back can hide between samples.
 TEST(Render, AFoldedQuadrilateralMatchesTheReference)
 {
-    Paint swapping = Make(Paint::Kind::FourColour, {{541.38, 206.04}, {602.49, 28.32}, {0.24, -101.5}, {751.83, 585.09}}, {},
-                          {C(55, 145, 235, 150), C(214, 253, 203, 33), C(158, 135, 184, 188), C(241, 76, 216, 139)});
+    Paint swapping =
+        Make(Paint::Kind::FourColour, {{541.38, 206.04}, {602.49, 28.32}, {0.24, -101.5}, {751.83, 585.09}}, {},
+             {C(55, 145, 235, 150), C(214, 253, 203, 33), C(158, 135, 184, 188), C(241, 76, 216, 139)});
     const Affine swapped{-0.337, -1.0318, 1.0318, -0.337, -46.47, 515.69};
     OnEveryIsa([&](Isa isa) {
         const auto [worst, tolerance] = AgainstReference(swapping, swapped, Output::Mask8, 640, 4);
@@ -294,7 +301,8 @@ TEST(Render, AFoldedQuadrilateralMatchesTheReference)
             paint.transparency = transparency;
             for (const Output out : {Output::Argb32, Output::Mask8}) {
                 const auto [worst, tolerance] = AgainstReference(paint, turned, out, 1920, 60);
-                EXPECT_LE(worst, tolerance) << transparency << (out == Output::Argb32 ? " argb " : " mask ") << IsaName(isa);
+                EXPECT_LE(worst, tolerance)
+                    << transparency << (out == Output::Argb32 ? " argb " : " mask ") << IsaName(isa);
             }
         }
     });
@@ -309,7 +317,7 @@ TEST(Render, AClipPaintsOnlyItsPixelsAndASubRectangleEqualsTheFullRender)
         Image full(Output::Argb32), part(Output::Argb32, 0xDEADBEEF);
         Render(prepared, full.Of(), kAll);
         Render(prepared, part.Of(), inner);
-        Render(prepared, part.Of(), {-5, -5, 0, H + 9});  // outside the target: nothing
+        Render(prepared, part.Of(), {-5, -5, 0, H + 9}); // outside the target: nothing
         for (int y = 0; y < H; ++y) {
             for (int x = 0; x < W; ++x) {
                 const bool in = x >= inner.x0 && x < inner.x1 && y >= inner.y0 && y < inner.y1;
@@ -334,12 +342,12 @@ TEST(Render, GeometryLandsWhereTheKindsSay)
     const Paint& three = paints[6].paint;
     EXPECT_EQ(pixel(three, 5, 5), 0xFFFF0000u);
     EXPECT_EQ(pixel(three, 55, 8), 0xFF00FF00u);
-    EXPECT_EQ(pixel(three, 10, 40), 0x64000064u);  // blue at alpha 100, premultiplied
+    EXPECT_EQ(pixel(three, 10, 40), 0x64000064u); // blue at alpha 100, premultiplied
     const Paint& four = paints[7].paint;
     EXPECT_EQ(pixel(four, 4, 4), 0xFFFF0000u);
     EXPECT_EQ(pixel(four, 60, 10), 0xFF00FF00u);
     EXPECT_EQ(pixel(four, 8, 44), 0xFF0000FFu);
-    EXPECT_EQ(pixel(four, 50, 40), 0x3C3C3C00u);  // yellow at alpha 60
+    EXPECT_EQ(pixel(four, 50, 40), 0x3C3C3C00u); // yellow at alpha 60
     const Paint& linear = paints[1].paint;
     EXPECT_EQ(pixel(linear, -100, -50), pixel(linear, 8, 8)) << "padded before the start";
     EXPECT_EQ(pixel(linear, 500, 300), 0xFF1428FAu) << "padded past the end";

@@ -79,7 +79,7 @@ void SessionSite::Check(const CFill* fill)
 
 void SessionSite::Keep(const CFill* fill, const wchar_t* undoName)
 {
-    commits.clear();  // the session checks commits as they come; their copies need not pile up
+    commits.clear(); // the session checks commits as they come; their copies need not pile up
     if (!gesture.Absorb(undoName) && fill)
         history.Record(fill);
 }
@@ -139,7 +139,7 @@ void GestureSession::NewEnvironment()
     switch (Int(0, 3)) {
     case 0: box.NormalizeRect(); break;                                          // ordinary
     case 1: box = CRect(box.left, box.top, box.left, box.top); break;            // empty
-    case 2: break;                                                                // inverted or any
+    case 2: break;                                                               // inverted or any
     default: box = CRect(box.left, box.top, box.left + 1, box.top + Int(1, 10)); // a sliver
     }
     m_site.objectBox = box;
@@ -280,7 +280,7 @@ std::string GestureSession::UndoAndRedo()
 {
     // Each step gives the tool exactly the fill that was recorded for it.
     UndoHistory& history = m_site.history;
-    m_site.tool = nullptr;  // the session hands the fills back itself now
+    m_site.tool = nullptr; // the session hands the fills back itself now
     for (const bool back : {true, false}) {
         while (const CFill* fill = back ? history.Undo() : history.Redo()) {
             m_tool->SetFill(fill);

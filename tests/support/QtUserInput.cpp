@@ -7,8 +7,8 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QInputMethodEvent>
 #include <QComboBox>
+#include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QSlider>
@@ -107,13 +107,15 @@ public:
             QTest::mouseClick(button, Qt::LeftButton);
     }
     void AdvanceClock(int milliseconds) override { m_backend->AdvanceClock(milliseconds); }
-    void DragMouse(KestoPlatform::CWnd& window, KestoPlatform::CPoint from, KestoPlatform::CPoint to, unsigned flags) override
+    void DragMouse(KestoPlatform::CWnd& window, KestoPlatform::CPoint from, KestoPlatform::CPoint to,
+                   unsigned flags) override
     {
         QWidget* widget = QtBackend::WidgetOf(window);
         if (!widget)
             return;
-        const Qt::KeyboardModifiers modifiers = (flags & KestoPlatform::MK_SHIFT ? Qt::ShiftModifier : Qt::NoModifier) |
-                                                (flags & KestoPlatform::MK_CONTROL ? Qt::ControlModifier : Qt::NoModifier);
+        const Qt::KeyboardModifiers modifiers =
+            (flags & KestoPlatform::MK_SHIFT ? Qt::ShiftModifier : Qt::NoModifier) |
+            (flags & KestoPlatform::MK_CONTROL ? Qt::ControlModifier : Qt::NoModifier);
         const double scale = QtBackend::PixelsPerUnit();
         const auto send = [&](QEvent::Type type, KestoPlatform::CPoint at, Qt::MouseButtons buttons) {
             const QPointF local(at.x * scale, at.y * scale);

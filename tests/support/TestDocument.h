@@ -31,7 +31,8 @@ public:
     int CreateColourControl(KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc) override;
     bool ColourPicker(const CColour* current, CColour*& result, KestoPlatform::CWnd* owner) override;
     CColour* ColourPicker(const CColour* current, KestoPlatform::CWnd* owner) override;
-    CColour* AskUserForNewColour(const CColour* current, KestoPlatform::CPoint where, KestoPlatform::CWnd* owner) override;
+    CColour* AskUserForNewColour(const CColour* current, KestoPlatform::CPoint where,
+                                 KestoPlatform::CWnd* owner) override;
     bool IsFillTypeAvailable(KestoGDI::CFill* sample) override;
     bool IsTransparencyTypeAvailable(KestoGDI::CFill* sample) override;
     bool GetDialogSetting() override { return dialogSetting; }

@@ -3,7 +3,6 @@
 #include "kestotool/geometry/Rounding.h"
 #include "kestotool/tool/SiteGeometry.h"
 
-
 namespace KestoTest {
 
 using Kesto2D::RoundHalfAwayFromZero;
@@ -36,7 +35,8 @@ void TestToolSite::AddContextItem(int hostCommand)
     contextItems.push_back(hostCommand);
     if (bars && tool) {
         bars->CreateControl(
-            hostCommand, true, [this](KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc) { return tool->OnCreateControl(cc); },
+            hostCommand, true,
+            [this](KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc) { return tool->OnCreateControl(cc); },
             [this](KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc) { tool->OnAfterCreateControl(cc); });
     }
 }

@@ -17,12 +17,12 @@ using KestoPlatform::CRect;
 class TestToolSite : public KestoTool::IToolSite {
 public:
     struct Commit {
-        KestoKernel::RefPtr<CFill> fill;  // a copy of what the tool committed
+        KestoKernel::RefPtr<CFill> fill; // a copy of what the tool committed
         bool hasName = false;
         std::wstring name;
         bool transparency = false;
         bool flag = false;
-        bool gesture = false;  // recorded by the host at the end of a drag, not sent by the tool
+        bool gesture = false; // recorded by the host at the end of a drag, not sent by the tool
     };
 
     double pixelToPaper = 1.0;       // paper units per screen pixel

@@ -17,7 +17,10 @@ public:
         Headless().SetModalScript(nullptr);
         Headless().SetColourScript(nullptr);
     }
-    void SetModalScript(std::function<void(KestoPlatform::CDialog&)> script) override { Headless().SetModalScript(std::move(script)); }
+    void SetModalScript(std::function<void(KestoPlatform::CDialog&)> script) override
+    {
+        Headless().SetModalScript(std::move(script));
+    }
     void Type(const KestoPlatform::CString& text) override { Headless().Type(text); }
     void EnterText(const KestoPlatform::CString& text) override { Headless().EnterText(text); }
     void PressKey(unsigned key) override { Headless().PressKey(key); }
@@ -26,7 +29,8 @@ public:
     void ClickSpin(KestoPlatform::CSpinButtonCtrl& spin, bool up) override { Headless().ClickSpin(spin, up); }
     void ClickButton(KestoPlatform::CWnd& dialog, int id) override { Headless().ClickButton(dialog, id); }
     void AdvanceClock(int milliseconds) override { Headless().AdvanceClock(milliseconds); }
-    void DragMouse(KestoPlatform::CWnd& window, KestoPlatform::CPoint from, KestoPlatform::CPoint to, unsigned flags) override
+    void DragMouse(KestoPlatform::CWnd& window, KestoPlatform::CPoint from, KestoPlatform::CPoint to,
+                   unsigned flags) override
     {
         Headless().DragMouse(window, from, to, flags);
     }

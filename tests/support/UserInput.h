@@ -44,7 +44,8 @@ public:
     virtual void AdvanceClock(int milliseconds) = 0;
     // Presses the left button at from in the window (client dialog units), drags through to
     // and lets go there, holding the MK_ keys in flags.
-    virtual void DragMouse(KestoPlatform::CWnd& window, KestoPlatform::CPoint from, KestoPlatform::CPoint to, unsigned flags = 0) = 0;
+    virtual void DragMouse(KestoPlatform::CWnd& window, KestoPlatform::CPoint from, KestoPlatform::CPoint to,
+                           unsigned flags = 0) = 0;
     // Picks an item of the drop-down list.
     virtual void SelectItem(KestoPlatform::CComboBox& combo, int index) = 0;
     // What the user picks in the colour chooser from now on (nothing cancels); null for no
@@ -68,7 +69,10 @@ inline void PrintTo(UserInput* input, std::ostream* os)
 
 struct UserInputName {
     template <class Info>
-    std::string operator()(const Info& info) const { return info.param->Name(); }
+    std::string operator()(const Info& info) const
+    {
+        return info.param->Name();
+    }
 };
 
 } // namespace KestoTest

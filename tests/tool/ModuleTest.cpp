@@ -45,7 +45,7 @@ std::string CopyOfModule(const char* name, std::intmax_t size = -1)
 TEST_F(ModuleTest, BuiltInTextsAreExactToTheByte)
 {
     Module& m = Module::Get();
-    EXPECT_FALSE(m.IsLocalised());  // none lies beside the library in the build tree
+    EXPECT_FALSE(m.IsLocalised()); // none lies beside the library in the build tree
     EXPECT_EQ(m.LoadString(117), KestoPlatform::CString(L"original"));
     EXPECT_EQ(m.LoadString(116).Str(), L"Edit the selected object's fill properties.\nFill editor dialog\nEdit Fill");
     EXPECT_EQ(m.LoadString(124).Str(), L"Adjust the transparency/opacity \rof the selected handle.\nHandle Opacity");
@@ -70,7 +70,7 @@ TEST_F(ModuleTest, LocalisedModuleTextsReplaceBuiltInOnes)
     EXPECT_TRUE(m.IsLocalised());
     EXPECT_EQ(m.LoadString(117), KestoPlatform::CString(L"Original"));
     EXPECT_EQ(m.LoadString(123), KestoPlatform::CString(L"F\u00fcllung drehen"));
-    EXPECT_EQ(m.LoadString(131), KestoPlatform::CString(L"Rotate Transparency"));  // not translated
+    EXPECT_EQ(m.LoadString(131), KestoPlatform::CString(L"Rotate Transparency")); // not translated
     m.UseBuiltInResources();
     EXPECT_EQ(m.LoadString(117), KestoPlatform::CString(L"original"));
 }

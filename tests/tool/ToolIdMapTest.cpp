@@ -39,7 +39,7 @@ TEST_F(ToolIdMapTest, AllocationHandsOutConsecutiveRangesUntilTheLimit)
     map.Init(1000, 1100);
     EXPECT_EQ(map.AllocateRange(kKey1, 22), 1000);
     EXPECT_EQ(map.AllocateRange(kKey2, 50), 1022);
-    EXPECT_EQ(map.AllocateRange(kKey3, 29), -1);  // 1072 + 29 > 1100
+    EXPECT_EQ(map.AllocateRange(kKey3, 29), -1); // 1072 + 29 > 1100
     EXPECT_EQ(Lines(), std::vector<int>{43});
     EXPECT_EQ(map.AllocateRange(kKey3, 28), 1072);
     EXPECT_TRUE(map.RangeAllocated(kKey3));
@@ -51,7 +51,7 @@ TEST_F(ToolIdMapTest, RepeatedKeyGetsItsFirstRangeWhateverCountItAsks)
     EXPECT_EQ(map.AllocateRange(kKey1, 22), 1000);
     EXPECT_EQ(map.AllocateRange(kKey1, 5), 1000);
     EXPECT_EQ(map.AllocateRange(kKey1, 500), 1000);
-    EXPECT_EQ(map.AllocateRange(kKey2, 1), 1022);  // next was left alone
+    EXPECT_EQ(map.AllocateRange(kKey2, 1), 1022); // next was left alone
     EXPECT_TRUE(reports.empty());
 }
 
@@ -109,7 +109,7 @@ TEST_F(ToolIdMapTest, UnknownKeysReportTheirDirectionsLines)
     map.Init(1000, 1100);
     EXPECT_EQ(map.MapIDToLibrary(kKey1, 1003), -1);
     EXPECT_EQ(map.MapIDToApp(kKey1, 3), -1);
-    EXPECT_EQ(map.MapIDToApp(kKey1, 0), 0);  // no look-up, no report
+    EXPECT_EQ(map.MapIDToApp(kKey1, 0), 0); // no look-up, no report
     EXPECT_FALSE(map.RangeAllocated(kKey1));
     EXPECT_EQ(Lines(), (std::vector<int>{70, 97}));
 }
@@ -120,7 +120,7 @@ TEST_F(ToolIdMapTest, ReInitKeepsRangesAndCopiesAreIndependent)
     map.AllocateRange(kKey1, 22);
     map.Init(2000, 2100);
     EXPECT_EQ(map.AllocateRange(kKey1, 22), 1000);
-    EXPECT_EQ(map.AllocateRange(kKey2, 10), 2022);  // next survived Init
+    EXPECT_EQ(map.AllocateRange(kKey2, 10), 2022); // next survived Init
 
     ToolIdMap copy = map;
     copy.AllocateRange(kKey3, 1);

@@ -74,11 +74,13 @@ bool CornerColourDlgBase::OnCommand(unsigned param, KestoPlatform::CWnd* control
 {
     const int id = KestoPlatform::CommandId(param);
     const int code = KestoPlatform::CommandCode(param);
-    if (code == KestoPlatform::BN_CLICKED && id >= IDC_CORNER_COLOUR_FIRST && id < IDC_CORNER_COLOUR_FIRST + MaxCorners) {
+    if (code == KestoPlatform::BN_CLICKED && id >= IDC_CORNER_COLOUR_FIRST &&
+        id < IDC_CORNER_COLOUR_FIRST + MaxCorners) {
         OnColour(id - IDC_CORNER_COLOUR_FIRST);
         return true;
     }
-    if (code == KestoPlatform::EN_KILLFOCUS && id >= IDC_CORNER_LEVEL_FIRST && id < IDC_CORNER_LEVEL_FIRST + MaxCorners) {
+    if (code == KestoPlatform::EN_KILLFOCUS && id >= IDC_CORNER_LEVEL_FIRST &&
+        id < IDC_CORNER_LEVEL_FIRST + MaxCorners) {
         OnLevelEntered(id - IDC_CORNER_LEVEL_FIRST);
         return true;
     }
@@ -116,7 +118,8 @@ void CornerColourDlgBase::OnLevelEntered(int corner)
         OnEditedFillChanged();
         return;
     }
-    const int level = CSolidTransparencyDlg::FromPercentage(Kesto2D::RoundHalfAwayFromZero(std::clamp(*percent, 0.0, 100.0)));
+    const int level =
+        CSolidTransparencyDlg::FromPercentage(Kesto2D::RoundHalfAwayFromZero(std::clamp(*percent, 0.0, 100.0)));
     Recolour(corner, KestoGDI::CMonoColour(level));
 }
 

@@ -151,7 +151,8 @@ private:
     }
     void Gradient(const CFillGradient& fill) override
     {
-        result = Run(CGradientTranspDlg(m_args.document, &fill, m_args.objectRect, m_args.parent), m_args.helperSetting);
+        result =
+            Run(CGradientTranspDlg(m_args.document, &fill, m_args.objectRect, m_args.parent), m_args.helperSetting);
     }
     void ThreeOrFourColour(const CFillGradient& fill) override
     {

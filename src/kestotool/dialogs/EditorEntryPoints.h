@@ -6,7 +6,6 @@
 #include "kestotool/tool/KestoToolImports.h"
 #include "kestotool/tool/TypeCombos.h"
 
-
 namespace KestoPlatform {
 class CWnd;
 }
@@ -21,13 +20,14 @@ class IToolHelper;
 // fills go to the host's colour chooser instead. The fill passed in is never changed; the
 // document must not be null.
 KESTO_API RefPtr<KestoGDI::CFill> EditFill(IDocumentEx* document, const KestoGDI::CFill* fill, const CRect& objectRect,
-                                 KestoPlatform::CWnd* parent, const Kesto2D::K2DLtGeneral& objectTransform);
+                                           KestoPlatform::CWnd* parent, const Kesto2D::K2DLtGeneral& objectTransform);
 
 // The same for a transparency; the document may be null. The string is neither read nor
 // written; it stays for callers that pass one.
 KESTO_API RefPtr<KestoGDI::CFill> EditTransparency(IDocumentEx* document, const KestoGDI::CFill* transparency,
-                                         CString& unused, const CRect& objectRect, KestoPlatform::CWnd* parent);
+                                                   CString& unused, const CRect& objectRect,
+                                                   KestoPlatform::CWnd* parent);
 KESTO_API RefPtr<KestoGDI::CFill> EditTransparency(IDocumentEx* document, const KestoGDI::CFill* transparency,
-                                         const CRect& objectRect, KestoPlatform::CWnd* parent);
+                                                   const CRect& objectRect, KestoPlatform::CWnd* parent);
 
 } // namespace KestoTool

@@ -24,7 +24,8 @@ CRect PreviewRect(const CRect& objectRect)
 // The window's keys as the tool's drag flags.
 unsigned DragFlagsOf(unsigned keys)
 {
-    return (keys & KestoPlatform::MK_SHIFT ? DragFlagShift : 0u) | (keys & KestoPlatform::MK_CONTROL ? DragFlagCtrl : 0u);
+    return (keys & KestoPlatform::MK_SHIFT ? DragFlagShift : 0u) |
+           (keys & KestoPlatform::MK_CONTROL ? DragFlagCtrl : 0u);
 }
 
 void ShowImage(KestoPlatform::CButton& button, const wchar_t* name, int toolTipId)
@@ -147,8 +148,9 @@ void ExpandingFillPreviewDlg::OnExpand()
     // and widens back to its template's width.
     m_expanded = !m_expanded;
     const int show = m_expanded ? KestoPlatform::SW_SHOW : KestoPlatform::SW_HIDE;
-    for (KestoPlatform::CWnd* pane : {static_cast<KestoPlatform::CWnd*>(&m_preview), static_cast<KestoPlatform::CWnd*>(&m_zoomIn),
-                                 static_cast<KestoPlatform::CWnd*>(&m_zoomOut), static_cast<KestoPlatform::CWnd*>(&m_zoomCombo)})
+    for (KestoPlatform::CWnd* pane :
+         {static_cast<KestoPlatform::CWnd*>(&m_preview), static_cast<KestoPlatform::CWnd*>(&m_zoomIn),
+          static_cast<KestoPlatform::CWnd*>(&m_zoomOut), static_cast<KestoPlatform::CWnd*>(&m_zoomCombo)})
         pane->ShowWindow(show);
     CRect frame = GetWindowRect();
     frame.right = frame.left + (m_expanded ? m_expandedWidth : m_preview.GetWindowRect().left);

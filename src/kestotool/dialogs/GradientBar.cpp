@@ -66,7 +66,8 @@ void GradientBar::ShowStops()
         bar = KestoKernel::MakeRef<KestoGDI::CTransparencyLinear>();
     else
         bar = KestoKernel::MakeRef<KestoGDI::CFillLinear>();
-    const std::array<Kesto2D::K2DDblPoint, 2> line{Kesto2D::K2DDblPoint(0, Height / 2), Kesto2D::K2DDblPoint(Width, Height / 2)};
+    const std::array<Kesto2D::K2DDblPoint, 2> line{Kesto2D::K2DDblPoint(0, Height / 2),
+                                                   Kesto2D::K2DDblPoint(Width, Height / 2)};
     bar->SetControlPoints(line);
     if (m_stops.GetSize() >= bar->GetMinStops())
         bar->SetColourIntPairs(m_stops);
@@ -117,7 +118,8 @@ void GradientBar::OnControlRelease(KestoUI::FillControl&, CPoint, unsigned)
         onStopsChanged(true);
 }
 
-void GradientBar::DrawOverlay(const KestoUI::FillControl&, KestoGDI::IRenderTarget& target, const Kesto2D::K2DLtGeneral& view) const
+void GradientBar::DrawOverlay(const KestoUI::FillControl&, KestoGDI::IRenderTarget& target,
+                              const Kesto2D::K2DLtGeneral& view) const
 {
     const int radius = static_cast<int>(std::lround(target.ScalePixels(MarkerRadius)));
     for (int i = 0; i < m_stops.GetSize(); ++i) {

@@ -11,15 +11,17 @@ namespace KestoTool {
 
 namespace {
 
-constexpr std::array kGradientKinds{KestoGDI::FillType::Linear, KestoGDI::FillType::Radial, KestoGDI::FillType::Elliptical,
-                                    KestoGDI::FillType::Conical, KestoGDI::FillType::Square};
+constexpr std::array kGradientKinds{KestoGDI::FillType::Linear, KestoGDI::FillType::Radial,
+                                    KestoGDI::FillType::Elliptical, KestoGDI::FillType::Conical,
+                                    KestoGDI::FillType::Square};
 
 } // namespace
 
 const KestoPlatform::AFX_MSGMAP* GradientDlgBase::GetMessageMap() const
 {
     static const KestoPlatform::AFX_MSGMAP_ENTRY entries[] = {
-        KestoPlatform::MessageMap::Control<&GradientDlgBase::OnKindSelected>(IDC_GRADIENT_KIND, KestoPlatform::CBN_SELCHANGE),
+        KestoPlatform::MessageMap::Control<&GradientDlgBase::OnKindSelected>(IDC_GRADIENT_KIND,
+                                                                             KestoPlatform::CBN_SELCHANGE),
     };
     static const KestoPlatform::AFX_MSGMAP map{StopListEditorDlg::GetMessageMap(), entries};
     return &map;

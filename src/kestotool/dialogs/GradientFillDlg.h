@@ -10,7 +10,8 @@ namespace KestoTool {
 // The editor of linear, radial, elliptical, conical and square fills.
 class KESTO_API CGradientFillDlg : public GradientDlgBase {
 public:
-    CGradientFillDlg(IDocumentEx* document, const KestoGDI::CFillGradient* fill, const CRect& objectRect, KestoPlatform::CWnd* parent)
+    CGradientFillDlg(IDocumentEx* document, const KestoGDI::CFillGradient* fill, const CRect& objectRect,
+                     KestoPlatform::CWnd* parent)
         : GradientDlgBase(IDD_GRADIENT_FILL, document, fill, objectRect, parent)
     {
     }

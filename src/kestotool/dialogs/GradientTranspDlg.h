@@ -10,7 +10,8 @@ namespace KestoTool {
 // The editor of gradient transparencies.
 class KESTO_API CGradientTranspDlg : public GradientDlgBase {
 public:
-    CGradientTranspDlg(IDocumentEx* document, const KestoGDI::CFillGradient* fill, const CRect& objectRect, KestoPlatform::CWnd* parent)
+    CGradientTranspDlg(IDocumentEx* document, const KestoGDI::CFillGradient* fill, const CRect& objectRect,
+                       KestoPlatform::CWnd* parent)
         : GradientDlgBase(IDD_GRADIENT_TRANSPARENCY, document, fill, objectRect, parent)
     {
     }

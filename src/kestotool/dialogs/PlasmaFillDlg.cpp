@@ -92,8 +92,8 @@ void CPlasmaFillDlg::OnResolutionEntered()
         OnEditedFillChanged();
         return;
     }
-    const int cells = Kesto2D::RoundHalfAwayFromZero(std::clamp<double>(*resolution, KestoGDI::CFillFractal::MinResolution,
-                                                                         KestoGDI::CFillFractal::MaxResolution));
+    const int cells = Kesto2D::RoundHalfAwayFromZero(
+        std::clamp<double>(*resolution, KestoGDI::CFillFractal::MinResolution, KestoGDI::CFillFractal::MaxResolution));
     Change([cells](KestoGDI::CFillFractal& plasma) { plasma.SetResolution(cells); });
 }
 

@@ -16,7 +16,8 @@ namespace KestoTool {
 // inversion).
 class KESTO_API CPlasmaFillDlg : public StopListEditorDlg {
 public:
-    CPlasmaFillDlg(IDocumentEx* document, const KestoGDI::CFillFractal* fill, const CRect& objectRect, KestoPlatform::CWnd* parent);
+    CPlasmaFillDlg(IDocumentEx* document, const KestoGDI::CFillFractal* fill, const CRect& objectRect,
+                   KestoPlatform::CWnd* parent);
 
     // Where New Seed takes its seeds from (a random device unless set).
     void SetSeedSource(std::function<unsigned()> source) { m_seedSource = std::move(source); }

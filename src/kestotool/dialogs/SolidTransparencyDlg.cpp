@@ -21,7 +21,8 @@ int ValueOf(const KestoGDI::CTransparencyFlat& t)
 
 } // namespace
 
-CSolidTransparencyDlg::CSolidTransparencyDlg(const KestoGDI::CTransparencyFlat* transparency, KestoPlatform::CWnd* parent)
+CSolidTransparencyDlg::CSolidTransparencyDlg(const KestoGDI::CTransparencyFlat* transparency,
+                                             KestoPlatform::CWnd* parent)
     : KCResourceDialog(IDD_SOLID_TRANSPARENCY, parent), m_trans(CopyOf(transparency))
 {
     if (!m_trans) {
@@ -60,7 +61,8 @@ int CSolidTransparencyDlg::FromPercentage(int percent)
 const KestoPlatform::AFX_MSGMAP* CSolidTransparencyDlg::GetMessageMap() const
 {
     static const KestoPlatform::AFX_MSGMAP_ENTRY entries[] = {
-        KestoPlatform::MessageMap::Control<&CSolidTransparencyDlg::OnEditKillFocus>(IDC_SOLID_EDIT, KestoPlatform::EN_KILLFOCUS),
+        KestoPlatform::MessageMap::Control<&CSolidTransparencyDlg::OnEditKillFocus>(IDC_SOLID_EDIT,
+                                                                                    KestoPlatform::EN_KILLFOCUS),
     };
     static const KestoPlatform::AFX_MSGMAP map{KCResourceDialog::GetMessageMap(), entries};
     return &map;

@@ -181,7 +181,8 @@ void StopListEditorDlg::OnLevelEntered()
         ShowSelectedStop();
         return;
     }
-    const int level = CSolidTransparencyDlg::FromPercentage(Kesto2D::RoundHalfAwayFromZero(std::clamp(*percent, 0.0, 100.0)));
+    const int level =
+        CSolidTransparencyDlg::FromPercentage(Kesto2D::RoundHalfAwayFromZero(std::clamp(*percent, 0.0, 100.0)));
     if (IsTransparency()) {
         stop->SetColour(KestoGDI::CMonoColour(level));
     } else {

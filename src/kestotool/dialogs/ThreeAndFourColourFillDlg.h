@@ -10,7 +10,8 @@ namespace KestoTool {
 // The editor of three- and four-colour fills.
 class KESTO_API CThreeAndFourColourFillDlg : public CornerColourDlgBase {
 public:
-    CThreeAndFourColourFillDlg(IDocumentEx* document, const KestoGDI::CFillGradient* fill, const CRect& objectRect, KestoPlatform::CWnd* parent)
+    CThreeAndFourColourFillDlg(IDocumentEx* document, const KestoGDI::CFillGradient* fill, const CRect& objectRect,
+                               KestoPlatform::CWnd* parent)
         : CornerColourDlgBase(IDD_THREE_FOUR_COLOUR_FILL, document, fill, objectRect, parent, CommitRule::ToolOnly)
     {
     }

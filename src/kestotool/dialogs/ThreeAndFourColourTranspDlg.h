@@ -10,8 +10,10 @@ namespace KestoTool {
 // The editor of three- and four-point transparencies.
 class KESTO_API CThreeAndFourColourTranspDlg : public CornerColourDlgBase {
 public:
-    CThreeAndFourColourTranspDlg(IDocumentEx* document, const KestoGDI::CFillGradient* fill, const CRect& objectRect, KestoPlatform::CWnd* parent)
-        : CornerColourDlgBase(IDD_THREE_FOUR_COLOUR_TRANSPARENCY, document, fill, objectRect, parent, CommitRule::ToolOnly)
+    CThreeAndFourColourTranspDlg(IDocumentEx* document, const KestoGDI::CFillGradient* fill, const CRect& objectRect,
+                                 KestoPlatform::CWnd* parent)
+        : CornerColourDlgBase(IDD_THREE_FOUR_COLOUR_TRANSPARENCY, document, fill, objectRect, parent,
+                              CommitRule::ToolOnly)
     {
     }
 };

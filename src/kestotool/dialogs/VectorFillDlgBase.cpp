@@ -13,8 +13,9 @@ constexpr int IDS_SPACING_MODE = 25496;
 
 } // namespace
 
-CVectorFillDlgBase::CVectorFillDlgBase(IDocumentEx* document, const KestoGDI::CFillVector* fill, const CRect& objectRect,
-                                       KestoPlatform::CWnd* parent, int templateId, const Kesto2D::K2DLtGeneral& objectTransform)
+CVectorFillDlgBase::CVectorFillDlgBase(IDocumentEx* document, const KestoGDI::CFillVector* fill,
+                                       const CRect& objectRect, KestoPlatform::CWnd* parent, int templateId,
+                                       const Kesto2D::K2DLtGeneral& objectTransform)
     : ExpandingFillPreviewDlg(templateId, document, fill, objectRect, parent, CommitRule::ToolOnly),
       m_objectTransform(objectTransform)
 {
@@ -62,8 +63,8 @@ void CVectorFillDlgBase::OnEditedFillChanged()
     const FillToolVector* tool = VectorTool();
     if (!tool || !IsWindow())
         return;
-    m_mode.SetWindowText(Module::Get().LoadString(tool->GetControlBoxMode() == FillToolVector::ScalingMode ? IDS_SCALING_MODE
-                                                                                                      : IDS_SPACING_MODE));
+    m_mode.SetWindowText(Module::Get().LoadString(
+        tool->GetControlBoxMode() == FillToolVector::ScalingMode ? IDS_SCALING_MODE : IDS_SPACING_MODE));
     const auto* fill = dynamic_cast<const KestoGDI::CFillVector*>(GetCurrentFill());
     m_transform.SetCheck(fill && !fill->ScaleRotateIndependentOfObject());
 }

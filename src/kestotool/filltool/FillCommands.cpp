@@ -14,6 +14,7 @@ using S = KestoPlatform::XTPButtonStyle;
 // maximum-fit image. The edit buttons show icon and caption; the opacity labels are popups that
 // hold their boxes, the boxes unit edits; fit to shape is a split button whose drop-down offers
 // the other fits.
+// clang-format off
 constexpr FillCommandRow kRows[] = {
     {FillCmdContext, 0, nullptr, C::None, T::None, S::Automatic, {}, nullptr, false},
     {FillCmdEdit, 116, L"Edit Fill.png", C::Button, T::Button, S::IconAndCaption, {}, L"Edit Fill", false},
@@ -40,6 +41,7 @@ constexpr FillCommandRow kRows[] = {
     {FillCmdScaleMode, 25493, L"Scale Mode.png", C::None, T::None, S::Automatic, {}, nullptr, false},
     {FillCmdSpaceMode, 25494, L"Space Mode.png", C::None, T::None, S::Automatic, {}, nullptr, false},
 };
+// clang-format on
 
 constexpr bool InNumberOrder()
 {

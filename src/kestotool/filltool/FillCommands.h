@@ -13,10 +13,10 @@ namespace KestoTool {
 enum FillCommand : int {
     FillCmdContext = 0,
     FillCmdEdit = 1,
-    FillCmdEditType = 2,   // the fill-type combo box
-    FillCmdStart = 3,      // colour of the start node
-    FillCmdEnd = 4,        // colour of the end node
-    FillCmdSolid = 5,      // colour of the selected node
+    FillCmdEditType = 2, // the fill-type combo box
+    FillCmdStart = 3,    // colour of the start node
+    FillCmdEnd = 4,      // colour of the end node
+    FillCmdSolid = 5,    // colour of the selected node
     FillCmdRotateLeft = 6,
     FillCmdRotateRight = 7,
     FillCmdTransEdit = 8,

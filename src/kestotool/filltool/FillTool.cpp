@@ -115,7 +115,10 @@ bool FillTool::IsBitmapFill(const CFill* fill)
 }
 
 // Base behaviour of the virtual operations: a tool without handles that changes nothing.
-int FillTool::IndexFromPoint(const CPoint&) const { return -1; }
+int FillTool::IndexFromPoint(const CPoint&) const
+{
+    return -1;
+}
 void FillTool::OnDragStart(CPoint& point, unsigned int)
 {
     m_ptDragStart = point;
@@ -145,34 +148,106 @@ void FillTool::ReportWrongKind() const
     if (!std::exchange(m_bWrongKindReported, true))
         Report(kLineWrongKind, "the tool was given a fill of another kind: make tools with FillToolFactory");
 }
-bool FillTool::OnFillCellDrop(CPoint&, const CColour*) { return false; }
-bool FillTool::OnFillCellChanged(const CColour*) { return false; }
-bool FillTool::OnAlphaCellChanged(unsigned char) { return false; }
-bool FillTool::OnTintChanged(int) { return false; }
-void FillTool::Draw(IRenderTarget*, bool, const K2DLtGeneral& view) const { m_viewTransform = view; }
+bool FillTool::OnFillCellDrop(CPoint&, const CColour*)
+{
+    return false;
+}
+bool FillTool::OnFillCellChanged(const CColour*)
+{
+    return false;
+}
+bool FillTool::OnAlphaCellChanged(unsigned char)
+{
+    return false;
+}
+bool FillTool::OnTintChanged(int)
+{
+    return false;
+}
+void FillTool::Draw(IRenderTarget*, bool, const K2DLtGeneral& view) const
+{
+    m_viewTransform = view;
+}
 void FillTool::Draw(CRenderContext*) const {}
 void FillTool::OnKeyDown(unsigned int, unsigned int, unsigned int) {}
-CRect FillTool::GetToolRect(const CFill*) { return {}; }
-CRect FillTool::GetFillRect(const CFill*) { return {}; }
-const CColour* FillTool::ColourFromNode() const { return nullptr; }
-int FillTool::GetCurrentNode() const { return m_nCurrentNode; }
-void FillTool::SetCurrentNode(int node) { m_nCurrentNode = node; }
-int FillTool::GetHintLine(CString*) const { return 0; }
-bool FillTool::CanCreateNewNode() const { return false; }
-bool FillTool::CanDeleteNode() const { return CanCreateNewNode(); }
-bool FillTool::CreateNewNode(const CPoint&) { return false; }
-void FillTool::GetHandles(K2DArrayPoint* handles) const { BaseGetHandles(handles); }
+CRect FillTool::GetToolRect(const CFill*)
+{
+    return {};
+}
+CRect FillTool::GetFillRect(const CFill*)
+{
+    return {};
+}
+const CColour* FillTool::ColourFromNode() const
+{
+    return nullptr;
+}
+int FillTool::GetCurrentNode() const
+{
+    return m_nCurrentNode;
+}
+void FillTool::SetCurrentNode(int node)
+{
+    m_nCurrentNode = node;
+}
+int FillTool::GetHintLine(CString*) const
+{
+    return 0;
+}
+bool FillTool::CanCreateNewNode() const
+{
+    return false;
+}
+bool FillTool::CanDeleteNode() const
+{
+    return CanCreateNewNode();
+}
+bool FillTool::CreateNewNode(const CPoint&)
+{
+    return false;
+}
+void FillTool::GetHandles(K2DArrayPoint* handles) const
+{
+    BaseGetHandles(handles);
+}
 void FillTool::BaseGetHandles(K2DArrayPoint*) const {}
-const CColour* FillTool::GetCurrentColour() const { return nullptr; }
-void FillTool::SetGhostNode(CPoint&, const CColour*) { m_bGhostNode = true; }
-K2DLtGeneral FillTool::GetAppObjectToSpreadTransform() const { return m_pSite->GetAppObjectToSpreadTransform(); }
-void FillTool::ConstrainAnglePolar(CPoint origin, CPoint& point) { m_pSite->ConstrainAnglePolar(origin, point); }
-int FillTool::GradientIndex(int handle) const { return handle; }
-bool FillTool::IsPointOnLine(const CPoint&, int) const { return false; }
-int FillTool::GetPercentageFromPoint(CPoint) const { return 0; }
-CPoint FillTool::GetPointFromPercentage(int) { return {}; }
+const CColour* FillTool::GetCurrentColour() const
+{
+    return nullptr;
+}
+void FillTool::SetGhostNode(CPoint&, const CColour*)
+{
+    m_bGhostNode = true;
+}
+K2DLtGeneral FillTool::GetAppObjectToSpreadTransform() const
+{
+    return m_pSite->GetAppObjectToSpreadTransform();
+}
+void FillTool::ConstrainAnglePolar(CPoint origin, CPoint& point)
+{
+    m_pSite->ConstrainAnglePolar(origin, point);
+}
+int FillTool::GradientIndex(int handle) const
+{
+    return handle;
+}
+bool FillTool::IsPointOnLine(const CPoint&, int) const
+{
+    return false;
+}
+int FillTool::GetPercentageFromPoint(CPoint) const
+{
+    return 0;
+}
+CPoint FillTool::GetPointFromPercentage(int)
+{
+    return {};
+}
 void FillTool::DeleteGradientNode(int) {}
-bool FillTool::CheckSize() const { return true; }
+bool FillTool::CheckSize() const
+{
+    return true;
+}
 
 bool FillTool::ClearGhostNode()
 {
@@ -336,7 +411,7 @@ int FillTool::StopIndexOfNode(unsigned int node, int n) const
     case FillCmdStart: return 0;
     case FillCmdEnd: return n - 1;
     case FillCmdSolid: return GradientIndex(GetCurrentNode());
-    default: return 0;  // callers pass only the three colour nodes
+    default: return 0; // callers pass only the three colour nodes
     }
 }
 

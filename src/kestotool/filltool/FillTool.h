@@ -59,8 +59,8 @@ struct KESTO_API HintIds {
 class KESTO_API FillTool : public KestoPlatform::CCmdTarget {
     KESTO_DECLARE_DYNAMIC(FillTool)
 public:
-    static const int s_nHandleSize = 8;  // screen pixels: handle side and hit box
-    static const int s_nMinSize = 50;    // paper units: a shorter fill gets no handles
+    static const int s_nHandleSize = 8; // screen pixels: handle side and hit box
+    static const int s_nMinSize = 50;   // paper units: a shorter fill gets no handles
 
     // Takes fill as SetFill does; site must outlive the tool. Without a site the tool reports
     // and does nothing.
@@ -166,7 +166,10 @@ public:
     bool IsInDrag() const { return m_pSite->IsInDrag(); }
     void ConstrainAngle(CPoint origin, CPoint& point, bool flag) { m_pSite->ConstrainAngle(origin, point, flag); }
     void Snap(const CPoint& in, CPoint& out) { m_pSite->Snap(in, out); }
-    void ConstrainAngleNoTransform(CPoint origin, CPoint& point, bool flag) { m_pSite->ConstrainAngleNoTransform(origin, point, flag); }
+    void ConstrainAngleNoTransform(CPoint origin, CPoint& point, bool flag)
+    {
+        m_pSite->ConstrainAngleNoTransform(origin, point, flag);
+    }
     void SnapNoTransform(const CPoint& in, CPoint& out) { m_pSite->SnapNoTransform(in, out); }
     // Rounds in to an integer point for the site and writes the snapped point back as doubles.
     void SnapNoTransform(const K2DDblPoint& in, K2DDblPoint& out);
@@ -174,7 +177,10 @@ public:
     IDocumentEx* GetDocument() const { return m_pSite->GetDocument(); }
     IToolHelper* GetToolHelper() const;
     void UpdateFill(const CFill* fill, const wchar_t* undoName) { m_pSite->UpdateFill(fill, undoName); }
-    void UpdateTransparency(const CFill* fill, const wchar_t* undoName, bool flag) { m_pSite->UpdateTransparency(fill, undoName, flag); }
+    void UpdateTransparency(const CFill* fill, const wchar_t* undoName, bool flag)
+    {
+        m_pSite->UpdateTransparency(fill, undoName, flag);
+    }
     void SetFillType(const CRuntimeClass* c) { m_pSite->SetFillType(c); }
     void SetTransparencyType(const CRuntimeClass* c) { m_pSite->SetTransparencyType(c); }
     CPoint GetCreateCentre(const CPoint& point) const { return m_pSite->GetCreateCentre(point); }
@@ -223,10 +229,13 @@ protected:
     bool ComposeHintLine(CString* out, int fillStringId, int transparencyStringId) const;
 
     // Handle and control-line drawing, in document units mapped through the view transform.
-    void DrawBoxControl(IRenderTarget* target, bool outlineOnly, const CPoint& point, unsigned long colour, int index) const;
-    void DrawBoxControl(IRenderTarget* target, bool outlineOnly, const CPoint& point, const CColour* colour, int index) const;
+    void DrawBoxControl(IRenderTarget* target, bool outlineOnly, const CPoint& point, unsigned long colour,
+                        int index) const;
+    void DrawBoxControl(IRenderTarget* target, bool outlineOnly, const CPoint& point, const CColour* colour,
+                        int index) const;
     void DrawBoxControl(CRenderContext* context, const CPoint& point, unsigned long colour, int index) const;
-    void DrawControlLine(IRenderTarget* target, bool outlineOnly, const CPoint& a, const CPoint& b, bool highlight) const;
+    void DrawControlLine(IRenderTarget* target, bool outlineOnly, const CPoint& a, const CPoint& b,
+                         bool highlight) const;
     void DrawControlLine(IRenderTarget* target, bool outlineOnly, K2DCurve&& curve, bool highlight) const;
     void DrawControlLine(IRenderTarget* target, bool outlineOnly, const K2DArrayPoint& points, bool highlight) const;
     void DrawControlLine(CRenderContext* context, const CPoint& a, const CPoint& b, bool highlight) const;

@@ -208,12 +208,30 @@ void FillTool::OnUpdateFillEdit(KestoPlatform::CCmdUI*) {}
 void FillTool::OnFillEditType() {}
 void FillTool::OnUpdateFillEditType(KestoPlatform::CCmdUI*) {}
 
-void FillTool::OnFillStart() { AdjustNodeColour(FillCmdStart); }
-void FillTool::OnFillEnd() { AdjustNodeColour(FillCmdEnd); }
-void FillTool::OnFillSolid() { AdjustNodeColour(FillCmdSolid); }
-void FillTool::OnUpdateFillStart(KestoPlatform::CCmdUI* ui) { UpdateColourCommand(ui, FillCmdStart); }
-void FillTool::OnUpdateFillEnd(KestoPlatform::CCmdUI* ui) { UpdateColourCommand(ui, FillCmdEnd); }
-void FillTool::OnUpdateFillSolid(KestoPlatform::CCmdUI* ui) { UpdateColourCommand(ui, FillCmdSolid); }
+void FillTool::OnFillStart()
+{
+    AdjustNodeColour(FillCmdStart);
+}
+void FillTool::OnFillEnd()
+{
+    AdjustNodeColour(FillCmdEnd);
+}
+void FillTool::OnFillSolid()
+{
+    AdjustNodeColour(FillCmdSolid);
+}
+void FillTool::OnUpdateFillStart(KestoPlatform::CCmdUI* ui)
+{
+    UpdateColourCommand(ui, FillCmdStart);
+}
+void FillTool::OnUpdateFillEnd(KestoPlatform::CCmdUI* ui)
+{
+    UpdateColourCommand(ui, FillCmdEnd);
+}
+void FillTool::OnUpdateFillSolid(KestoPlatform::CCmdUI* ui)
+{
+    UpdateColourCommand(ui, FillCmdSolid);
+}
 
 void FillTool::UpdateColourCommand(KestoPlatform::CCmdUI* ui, unsigned int node)
 {

@@ -88,12 +88,14 @@ void FillToolConical::Draw(IRenderTarget* target, bool outlineOnly, const K2DLtG
         return;
     DrawControlLine(target, outlineOnly, c, r, true);
     const KCAngle start = KCAngle::DirectionOf(static_cast<double>(r.x) - c.x, static_cast<double>(r.y) - c.y);
-    DrawControlLine(target, outlineOnly,
-                    K2DCurve::Arc(K2DDblPoint(c), Kesto2D::K2DGeometry::CalcDist(c, r), start, KCAngle(KCAngle::HalfCircle)),
-                    false);
+    DrawControlLine(
+        target, outlineOnly,
+        K2DCurve::Arc(K2DDblPoint(c), Kesto2D::K2DGeometry::CalcDist(c, r), start, KCAngle(KCAngle::HalfCircle)),
+        false);
     const KestoGDI::ColourIntPairs& stops = GetGradientNodes();
     for (int i = 0; i < stops.GetSize(); ++i)
-        DrawBoxControl(target, outlineOnly, StopPoint(c, r, stops.GetAt(i)->GetValue()), &stops.GetAt(i)->GetColour(), i);
+        DrawBoxControl(target, outlineOnly, StopPoint(c, r, stops.GetAt(i)->GetValue()), &stops.GetAt(i)->GetColour(),
+                       i);
 }
 
 void FillToolConical::Draw(CRenderContext* context) const
@@ -103,9 +105,10 @@ void FillToolConical::Draw(CRenderContext* context) const
         return;
     DrawControlLine(context, c, r, false);
     const KCAngle start = KCAngle::DirectionOf(static_cast<double>(r.x) - c.x, static_cast<double>(r.y) - c.y);
-    DrawControlLine(context,
-                    K2DCurve::Arc(K2DDblPoint(c), Kesto2D::K2DGeometry::CalcDist(c, r), start, KCAngle(KCAngle::HalfCircle)),
-                    false);
+    DrawControlLine(
+        context,
+        K2DCurve::Arc(K2DDblPoint(c), Kesto2D::K2DGeometry::CalcDist(c, r), start, KCAngle(KCAngle::HalfCircle)),
+        false);
     const KestoGDI::ColourIntPairs& stops = GetGradientNodes();
     for (int i = 0; i < stops.GetSize(); ++i)
         DrawBoxControl(context, StopPoint(c, r, stops.GetAt(i)->GetValue()), stops.GetAt(i)->GetColour().GetRGB(), i);
@@ -170,7 +173,7 @@ int FillToolConical::GetHintLine(CString* out) const
     else if (IsFirstNode())
         ids = dragging ? HintIds{IDS_HINT_CONICAL_FIRST_DRAGGING_FILL, IDS_HINT_CONICAL_FIRST_DRAGGING_TRANSPARENCY}
                        : HintIds{IDS_HINT_CONICAL_FIRST_OVER_FILL, IDS_HINT_CONICAL_FIRST_OVER_TRANSPARENCY};
-    else  // the last stop too: it turns the sweep, but its hint speaks of a step
+    else // the last stop too: it turns the sweep, but its hint speaks of a step
         ids = dragging ? HintIds{IDS_HINT_CONICAL_STEP_DRAGGING_FILL, IDS_HINT_CONICAL_STEP_DRAGGING_TRANSPARENCY}
                        : HintIds{IDS_HINT_CONICAL_STEP_OVER_FILL, IDS_HINT_CONICAL_STEP_OVER_TRANSPARENCY};
     ComposeHintLine(out, ids.fill, ids.transparency);
@@ -200,7 +203,8 @@ bool FillToolConical::IsPointOnLine(const CPoint& point, int tolerance) const
     using Kesto2D::K2DGeometry::CalcDist;
     const long long radius = static_cast<long long>(CalcDist(r, c));
     const long long distance = static_cast<long long>(CalcDist(point, c));
-    return Kesto2D::K2DGeometry::CalcAngle(point, c, r).Value() >= KCAngle::HalfCircle && std::llabs(radius - distance) < tolerance;
+    return Kesto2D::K2DGeometry::CalcAngle(point, c, r).Value() >= KCAngle::HalfCircle &&
+           std::llabs(radius - distance) < tolerance;
 }
 
 int FillToolConical::GetPercentageFromPoint(CPoint point) const

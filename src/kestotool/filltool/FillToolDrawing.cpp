@@ -53,7 +53,8 @@ std::vector<RenderPen> LinePasses(bool outlineOnly, bool wideHalo, COLORREF tool
 // A transparency's grey levels show as their complement.
 COLORREF Inverted(COLORREF c)
 {
-    return KestoPlatform::RGB(255 - KestoPlatform::GetRValue(c), 255 - KestoPlatform::GetGValue(c), 255 - KestoPlatform::GetBValue(c));
+    return KestoPlatform::RGB(255 - KestoPlatform::GetRValue(c), 255 - KestoPlatform::GetGValue(c),
+                              255 - KestoPlatform::GetBValue(c));
 }
 
 int Radius(double r)

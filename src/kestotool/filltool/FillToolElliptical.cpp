@@ -36,9 +36,9 @@ void FillToolElliptical::SetAxes(const Axes& axes)
 K2DLtGeneral FillToolElliptical::CircleToEllipse(const Axes& a)
 {
     const double s = 1.0 / kUnitRadius;
-    const K2DLtGeneral axes((static_cast<double>(a.end.x) - a.centre.x) * s, (static_cast<double>(a.end.y) - a.centre.y) * s,
-                            (static_cast<double>(a.shape.x) - a.centre.x) * s,
-                            (static_cast<double>(a.shape.y) - a.centre.y) * s, 0, 0);
+    const K2DLtGeneral axes(
+        (static_cast<double>(a.end.x) - a.centre.x) * s, (static_cast<double>(a.end.y) - a.centre.y) * s,
+        (static_cast<double>(a.shape.x) - a.centre.x) * s, (static_cast<double>(a.shape.y) - a.centre.y) * s, 0, 0);
     return K2DLtGeneral::About(K2DDblPoint(a.centre), axes);
 }
 
@@ -111,8 +111,8 @@ void FillToolElliptical::Draw(IRenderTarget* target, bool outlineOnly, const K2D
         return;
     DrawControlLine(target, outlineOnly, a.centre, a.end, true);
     DrawControlLine(target, outlineOnly, a.centre, a.shape, true);
-    DrawControlLine(target, outlineOnly, K2DCurve::Circle(K2DDblPoint(a.centre), kUnitRadius).Transformed(CircleToEllipse(a)),
-                    false);
+    DrawControlLine(target, outlineOnly,
+                    K2DCurve::Circle(K2DDblPoint(a.centre), kUnitRadius).Transformed(CircleToEllipse(a)), false);
     DrawControlBoxes(target, outlineOnly);
 }
 
@@ -123,7 +123,8 @@ void FillToolElliptical::Draw(CRenderContext* context) const
         return;
     DrawControlLine(context, a.centre, a.end, false);
     DrawControlLine(context, a.centre, a.shape, false);
-    DrawControlLine(context, K2DCurve::Circle(K2DDblPoint(a.centre), kUnitRadius).Transformed(CircleToEllipse(a)), false);
+    DrawControlLine(context, K2DCurve::Circle(K2DDblPoint(a.centre), kUnitRadius).Transformed(CircleToEllipse(a)),
+                    false);
     DrawControlBoxes(context);
 }
 

@@ -95,7 +95,7 @@ void FillToolFourColour::OnDragChange(CPoint& point, unsigned int flags)
     Kesto2D::K2DVector d = Between(anchor, point);
     const Kesto2D::K2DVector e = Between(anchor, perpendicular);
     if (creating) {
-        const CPoint fourth = Moved(point, e);  // taken before anything snaps
+        const CPoint fourth = Moved(point, e); // taken before anything snaps
         Snap(anchor, anchor);
         if (!shift)
             Snap(point, point);
@@ -112,7 +112,8 @@ void FillToolFourColour::OnDragChange(CPoint& point, unsigned int flags)
         // P1 (node 1) or P2 (node 3) follows the pointer; the other neighbour turns with it, or
         // with Ctrl moves by the perpendicular offset.
         const bool p1 = node == 1;
-        const Arms arms = DragArmEnd(s.p0, p1 ? s.p1 : s.p2, p1 ? s.p2 : s.p1, anchor, point, perpendicular, shift, ctrl);
+        const Arms arms =
+            DragArmEnd(s.p0, p1 ? s.p1 : s.p2, p1 ? s.p2 : s.p1, anchor, point, perpendicular, shift, ctrl);
         (p1 ? moved.p1 : moved.p2) = arms.dragged;
         (p1 ? moved.p2 : moved.p1) = arms.other;
         moved.p3 = ctrl ? Moved(s.p3, d + e) : Moved(moved.p1, Between(moved.p0, moved.p2));

@@ -67,7 +67,7 @@ int FillToolGradient::EmptyHint(CString* out)
 }
 
 FillToolGradient::Arms FillToolGradient::DragArmEnd(CPoint corner, CPoint draggedStart, CPoint otherStart, CPoint press,
-                                                     CPoint point, CPoint perpendicular, bool shift, bool ctrl)
+                                                    CPoint point, CPoint perpendicular, bool shift, bool ctrl)
 {
     Arms arms{Kesto2D::OffsetPoint(draggedStart, press, point), otherStart};
     if (!shift)
@@ -387,9 +387,18 @@ void FillToolGradient::TakeLevelFromBox(KestoPlatform::NMXTPCONTROL* notify, int
     SetLevel(level, index, notify->hdr.code == KestoPlatform::XTP_NOTIFY_COMMIT);
 }
 
-void FillToolGradient::OnTransStart(KestoPlatform::NMXTPCONTROL* notify, long*) { TakeLevelFromBox(notify, 0); }
-void FillToolGradient::OnTransEnd(KestoPlatform::NMXTPCONTROL* notify, long*) { TakeLevelFromBox(notify, GetNodeCount() - 1); }
-void FillToolGradient::OnTransSolid(KestoPlatform::NMXTPCONTROL* notify, long*) { TakeLevelFromBox(notify, -1); }
+void FillToolGradient::OnTransStart(KestoPlatform::NMXTPCONTROL* notify, long*)
+{
+    TakeLevelFromBox(notify, 0);
+}
+void FillToolGradient::OnTransEnd(KestoPlatform::NMXTPCONTROL* notify, long*)
+{
+    TakeLevelFromBox(notify, GetNodeCount() - 1);
+}
+void FillToolGradient::OnTransSolid(KestoPlatform::NMXTPCONTROL* notify, long*)
+{
+    TakeLevelFromBox(notify, -1);
+}
 
 void FillToolGradient::ShowLevelInBox(KestoPlatform::CCmdUI* ui, int handle)
 {
@@ -399,9 +408,18 @@ void FillToolGradient::ShowLevelInBox(KestoPlatform::CCmdUI* ui, int handle)
         box->SetValue(RoundHalfUp(GetLevel(handle) * 100.0 / 255.0));
 }
 
-void FillToolGradient::OnUpdateTransStart(KestoPlatform::CCmdUI* ui) { ShowLevelInBox(ui, 0); }
-void FillToolGradient::OnUpdateTransEnd(KestoPlatform::CCmdUI* ui) { ShowLevelInBox(ui, GetNodeCount() - 1); }
-void FillToolGradient::OnUpdateTransSolid(KestoPlatform::CCmdUI* ui) { ShowLevelInBox(ui, GetCurrentNode()); }
+void FillToolGradient::OnUpdateTransStart(KestoPlatform::CCmdUI* ui)
+{
+    ShowLevelInBox(ui, 0);
+}
+void FillToolGradient::OnUpdateTransEnd(KestoPlatform::CCmdUI* ui)
+{
+    ShowLevelInBox(ui, GetNodeCount() - 1);
+}
+void FillToolGradient::OnUpdateTransSolid(KestoPlatform::CCmdUI* ui)
+{
+    ShowLevelInBox(ui, GetCurrentNode());
+}
 
 void FillToolGradient::OnUpdateFillAspect(KestoPlatform::CCmdUI* ui)
 {
@@ -432,7 +450,8 @@ void FillToolGradient::RotateFill(int angle)
         clone->Transform(K2DLtGeneral::About(centre, Kesto2D::K2DLtScale(f, f)));
     }
     clone->Transform(K2DLtGeneral::About(centre, Kesto2D::K2DLtRotate(angle)));
-    const CString undo = Module::Get().LoadString(clone->IsTransparency() ? IDS_UNDO_ROTATE_TRANSPARENCY : IDS_UNDO_ROTATE_FILL);
+    const CString undo =
+        Module::Get().LoadString(clone->IsTransparency() ? IDS_UNDO_ROTATE_TRANSPARENCY : IDS_UNDO_ROTATE_FILL);
     Commit(clone.get(), undo.GetString());
 }
 

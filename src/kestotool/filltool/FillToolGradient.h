@@ -109,7 +109,10 @@ public:
     Arms DragArmEnd(CPoint corner, CPoint draggedStart, CPoint otherStart, CPoint press, CPoint point,
                     CPoint perpendicular, bool shift, bool ctrl);
     // The stop of handle h for the tools whose extra handles show and edit the last stop.
-    int LastStopForExtendedNode(int handle) const { return IsExtendedNode(handle) ? GetNumGradientNodes() - 1 : handle; }
+    int LastStopForExtendedNode(int handle) const
+    {
+        return IsExtendedNode(handle) ? GetNumGradientNodes() - 1 : handle;
+    }
     // The square whose centre line runs from start to end, as a closed outline of four corners.
     static K2DArrayPoint SquareOnLine(CPoint start, CPoint end);
     // The parallelogram centre +- (end - centre) +- (shape - centre), closed: the outline of a

@@ -47,7 +47,8 @@ void FillToolPlasma::OnDragChange(CPoint& point, unsigned int flags)
             anchor = s.p2;
         ConstrainAngle(anchor, point, false);
     }
-    const CPoint perpendicular = CalculatePerpendicular(s.p0, s.p1, s.p2, anchor, point, node == count - 1, node == count);
+    const CPoint perpendicular =
+        CalculatePerpendicular(s.p0, s.p1, s.p2, anchor, point, node == count - 1, node == count);
     if (creating) {
         Snap(anchor, anchor);
         if (!shift)

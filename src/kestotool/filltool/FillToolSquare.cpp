@@ -69,7 +69,8 @@ void FillToolSquare::OnDragChange(CPoint& point, unsigned int flags)
             press = start.shape;
         SnapAnglePoint(press, point, false);
     }
-    const CPoint perpendicular = CalculatePerpendicular(start.centre, start.end, start.shape, press, point, c == n, c == n - 1);
+    const CPoint perpendicular =
+        CalculatePerpendicular(start.centre, start.end, start.shape, press, point, c == n, c == n - 1);
     if (creating) {
         Snap(press, press);
         if (!shift)

@@ -13,7 +13,8 @@ bool FillToolStopLineArm<Fill>::GetPoints(const CFill* fill, Points& points) con
     const Fill* placed = FillOfKind<Fill>(fill);
     if (!placed)
         return false;
-    points = {placed->GetControlPoint(0).Round(), placed->GetControlPoint(1).Round(), placed->GetControlPoint(2).Round()};
+    points = {placed->GetControlPoint(0).Round(), placed->GetControlPoint(1).Round(),
+              placed->GetControlPoint(2).Round()};
     return true;
 }
 

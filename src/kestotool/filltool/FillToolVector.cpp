@@ -50,7 +50,7 @@ void FillToolVector::GetCurrentControls(const CFillVector* fill, ControlInstance
 }
 
 K2DDblPoint FillToolVector::GetTransformedPointFromFill(const CFillVector* fill, const K2DDblPoint& p,
-                                                       const K2DDblPoint& offset) const
+                                                        const K2DDblPoint& offset) const
 {
     const K2DDblPoint moved(p.x + offset.x, p.y + offset.y);
     return fill ? fill->ToSpread(moved) : moved;
@@ -227,7 +227,8 @@ void FillToolVector::OnDragChangeSpaceAdjust(CPoint& point, unsigned int flags)
             fill->SetAdditionalOffsetsX1Y2(spacing);
         } else {
             const CPoint spacing = Kesto2D::OffsetPoint(m_spacingVector1, step.x, step.y);
-            CPoint negated = Kesto2D::SaturatePoint(-static_cast<long long>(spacing.x), -static_cast<long long>(spacing.y));
+            CPoint negated =
+                Kesto2D::SaturatePoint(-static_cast<long long>(spacing.x), -static_cast<long long>(spacing.y));
             if (!shift)
                 GetSnappedOffset(negated);
             fill->SetAdditionalOffsetsX2Y1(negated);
@@ -241,7 +242,8 @@ void FillToolVector::OnDragChangeSpaceAdjust(CPoint& point, unsigned int flags)
         const double angle = std::atan2(dy, dx) - GetZeroDegrees(fill) - m_tileRotation;
         int hundredths = Kesto2D::KCAngle::FromScreenRadians(angle).Value();
         if (flags & DragFlagCtrl)
-            hundredths = Kesto2D::RoundHalfAwayFromZero(static_cast<double>(hundredths) / kRotationStep) * kRotationStep;
+            hundredths =
+                Kesto2D::RoundHalfAwayFromZero(static_cast<double>(hundredths) / kRotationStep) * kRotationStep;
         const double degrees = hundredths / 100;
         if (node == 2)
             fill->SetAdditionalRotation(degrees);
@@ -289,8 +291,9 @@ void FillToolVector::OnDragChangeScaleAndRotate(CPoint& point, unsigned int flag
         CPoint moved = Kesto2D::OffsetPoint(o, anchor, point);
         if (!shift)
             SnapNoTransform(moved, moved);
-        CommitBox({ToDouble(moved), ToDouble(Kesto2D::OffsetPoint(x, o, moved)), ToDouble(Kesto2D::OffsetPoint(y, o, moved))},
-                  false);
+        CommitBox(
+            {ToDouble(moved), ToDouble(Kesto2D::OffsetPoint(x, o, moved)), ToDouble(Kesto2D::OffsetPoint(y, o, moved))},
+            false);
     } else if (node == n - 1 || node == n) {
         const bool yEnd = node == n;
         const CPoint perpendicular = CalculatePerpendicular(o, x, y, anchor, point, yEnd, !yEnd);
@@ -323,7 +326,8 @@ void FillToolVector::CommitBox(ControlInstance box, bool yLeads)
     const CPoint spacing2 = spacingAfter(start.yEnd, box.yEnd, m_spacingVector2);
     fill->SetRawBox({fill->FromSpread(box.origin), fill->FromSpread(box.xEnd), fill->FromSpread(box.yEnd)}, true);
     fill->SetAdditionalOffsetsX1Y2(spacing2);
-    fill->SetAdditionalOffsetsX2Y1(Kesto2D::SaturatePoint(-static_cast<long long>(spacing1.x), -static_cast<long long>(spacing1.y)));
+    fill->SetAdditionalOffsetsX2Y1(
+        Kesto2D::SaturatePoint(-static_cast<long long>(spacing1.x), -static_cast<long long>(spacing1.y)));
 }
 
 void FillToolVector::OnDragEnd(CPoint& point, unsigned int flags)

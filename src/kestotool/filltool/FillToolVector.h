@@ -49,7 +49,7 @@ public:
     void SetCurrentControls(CFillVector*, const ControlInstance&, bool) {}
     // A point of the fill's space (moved by offset first) on the page.
     K2DDblPoint GetTransformedPointFromFill(const CFillVector* fill, const K2DDblPoint& p,
-                                           const K2DDblPoint& offset = {}) const;
+                                            const K2DDblPoint& offset = {}) const;
     // The angle (clockwise radians) that counts as zero for the rotation handles.
     double GetZeroDegrees(const CFillVector* fill) const;
     // The box of the neighbour reached along now.axis, its spacing scaled as that axis's length

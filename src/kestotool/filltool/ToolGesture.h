@@ -20,9 +20,9 @@ namespace KestoTool {
 class KESTO_API ToolGesture {
 public:
     struct Step {
-        RefPtr<const CFill> before;  // the fill at the press; null when there was none
-        RefPtr<const CFill> after;   // a copy of the fill the tool holds at the end
-        std::wstring undoName;       // the last name the tool committed with; empty: the host names it
+        RefPtr<const CFill> before; // the fill at the press; null when there was none
+        RefPtr<const CFill> after;  // a copy of the fill the tool holds at the end
+        std::wstring undoName;      // the last name the tool committed with; empty: the host names it
     };
 
     // Starts a gesture at a document point; create tells the tool the drag draws a new fill.

@@ -45,14 +45,16 @@ COLORREF CColour::GetRGB() const
 {
     const COLORREF base = GetBaseRGB();
     return KestoPlatform::RGB(TintChannel(KestoPlatform::GetRValue(base), m_tint),
-                         TintChannel(KestoPlatform::GetGValue(base), m_tint),
-                         TintChannel(KestoPlatform::GetBValue(base), m_tint));
+                              TintChannel(KestoPlatform::GetGValue(base), m_tint),
+                              TintChannel(KestoPlatform::GetBValue(base), m_tint));
 }
 
 int CColour::GetIntensity() const
 {
     const COLORREF c = GetRGB();
-    return (299 * KestoPlatform::GetRValue(c) + 587 * KestoPlatform::GetGValue(c) + 114 * KestoPlatform::GetBValue(c) + 500) / 1000;
+    return (299 * KestoPlatform::GetRValue(c) + 587 * KestoPlatform::GetGValue(c) + 114 * KestoPlatform::GetBValue(c) +
+            500) /
+           1000;
 }
 
 bool CColour::EqualColour(const CColour* a, const CColour* b)
@@ -75,8 +77,8 @@ std::unique_ptr<CColour> CColour::Interpolate(const CColour& a, const CColour& b
         const COLORREF ca = a.GetRGB();
         const COLORREF cb = b.GetRGB();
         const COLORREF rgb = KestoPlatform::RGB(Lerp(KestoPlatform::GetRValue(ca), KestoPlatform::GetRValue(cb), t),
-                                           Lerp(KestoPlatform::GetGValue(ca), KestoPlatform::GetGValue(cb), t),
-                                           Lerp(KestoPlatform::GetBValue(ca), KestoPlatform::GetBValue(cb), t));
+                                                Lerp(KestoPlatform::GetGValue(ca), KestoPlatform::GetGValue(cb), t),
+                                                Lerp(KestoPlatform::GetBValue(ca), KestoPlatform::GetBValue(cb), t));
         result = std::make_unique<CRGBColour>(rgb);
     }
     result->SetAlpha(alpha);

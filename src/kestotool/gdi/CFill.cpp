@@ -54,7 +54,8 @@ K2DDblPoint CFill::GetControlPoint(int index) const
 {
     const auto points = ControlPoints();
     if (index < 0 || index >= static_cast<int>(points.size())) {
-        KestoKernel::VerifyFailed("KestoGDI", "CFill", __LINE__, "control point index out of range: see GetControlCount");
+        KestoKernel::VerifyFailed("KestoGDI", "CFill", __LINE__,
+                                  "control point index out of range: see GetControlCount");
         return {};
     }
     return points[static_cast<std::size_t>(index)];

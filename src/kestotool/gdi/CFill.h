@@ -101,17 +101,23 @@ private:
 
 // Declares and implements what every creatable fill class has: its run-time class, Clone and
 // the visitor's dispatch (a transparency class reaches the Visit of the fill kind it derives from).
-#define KESTO_DECLARE_FILL(Class)                                  \
-    KESTO_DECLARE_DYNCREATE(Class)                                 \
-    ::KestoKernel::RefPtr<::KestoGDI::CFill> Clone() const override;    \
-    void Accept(::KestoGDI::FillVisitor& visitor) override;        \
+#define KESTO_DECLARE_FILL(Class)                                                                                      \
+    KESTO_DECLARE_DYNCREATE(Class)                                                                                     \
+    ::KestoKernel::RefPtr<::KestoGDI::CFill> Clone() const override;                                                   \
+    void Accept(::KestoGDI::FillVisitor& visitor) override;                                                            \
     void Accept(::KestoGDI::ConstFillVisitor& visitor) const override;
 
-#define KESTO_IMPLEMENT_FILL(Class, Base)                                                        \
-    KESTO_IMPLEMENT_DYNCREATE(Class, Base)                                                       \
-    ::KestoKernel::RefPtr<::KestoGDI::CFill> Class::Clone() const                                     \
-    {                                                                                            \
-        return ::KestoKernel::RefPtr<::KestoGDI::CFill>(new Class(*this));                            \
-    }                                                                                            \
-    void Class::Accept(::KestoGDI::FillVisitor& visitor) { visitor.Visit(*this); }               \
-    void Class::Accept(::KestoGDI::ConstFillVisitor& visitor) const { visitor.Visit(*this); }
+#define KESTO_IMPLEMENT_FILL(Class, Base)                                                                              \
+    KESTO_IMPLEMENT_DYNCREATE(Class, Base)                                                                             \
+    ::KestoKernel::RefPtr<::KestoGDI::CFill> Class::Clone() const                                                      \
+    {                                                                                                                  \
+        return ::KestoKernel::RefPtr<::KestoGDI::CFill>(new Class(*this));                                             \
+    }                                                                                                                  \
+    void Class::Accept(::KestoGDI::FillVisitor& visitor)                                                               \
+    {                                                                                                                  \
+        visitor.Visit(*this);                                                                                          \
+    }                                                                                                                  \
+    void Class::Accept(::KestoGDI::ConstFillVisitor& visitor) const                                                    \
+    {                                                                                                                  \
+        visitor.Visit(*this);                                                                                          \
+    }

@@ -6,9 +6,7 @@ namespace KestoGDI {
 
 KESTO_IMPLEMENT_FILL(CFillBitmap, CFillWithStops)
 
-CFillBitmap::CFillBitmap() : FillWithControls(ColourIntPairs(), 0, -1)
-{
-}
+CFillBitmap::CFillBitmap() : FillWithControls(ColourIntPairs(), 0, -1) {}
 
 CFillBitmap::CFillBitmap(RefPtr<const CLtBitmap> bitmap) : CFillBitmap()
 {

@@ -6,9 +6,7 @@ namespace KestoGDI {
 
 KESTO_IMPLEMENT_DYNAMIC(CFillCentreAxes, CFillGradient)
 
-CFillCentreAxes::CFillCentreAxes() : FillWithControls(DefaultStops(2, false), 2, -1)
-{
-}
+CFillCentreAxes::CFillCentreAxes() : FillWithControls(DefaultStops(2, false), 2, -1) {}
 
 void CFillCentreAxes::SetDefaultControls(const CRect& rect)
 {

@@ -6,9 +6,7 @@ namespace KestoGDI {
 
 KESTO_IMPLEMENT_FILL(CFillConical, CFillGradient)
 
-CFillConical::CFillConical() : FillWithControls(DefaultStops(2, false), 2, -1)
-{
-}
+CFillConical::CFillConical() : FillWithControls(DefaultStops(2, false), 2, -1) {}
 
 void CFillConical::SetDefaultControls(const CRect& rect)
 {

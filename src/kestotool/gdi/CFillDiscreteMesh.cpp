@@ -31,9 +31,9 @@ void CFillDiscreteMesh::SetDefaultControls(const CRect& rect)
     const CRect r = rect.Normalized();
     for (int row = 0; row < m_rows; ++row) {
         for (int column = 0; column < m_columns; ++column) {
-            m_points[static_cast<std::size_t>(IndexOf(column, row))] = Kesto2D::SaturateToRange(
-                K2DDblPoint(r.left + static_cast<double>(r.Width()) * column / (m_columns - 1),
-                            r.top + static_cast<double>(r.Height()) * row / (m_rows - 1)));
+            m_points[static_cast<std::size_t>(IndexOf(column, row))] =
+                Kesto2D::SaturateToRange(K2DDblPoint(r.left + static_cast<double>(r.Width()) * column / (m_columns - 1),
+                                                     r.top + static_cast<double>(r.Height()) * row / (m_rows - 1)));
         }
     }
 }

@@ -6,9 +6,7 @@ namespace KestoGDI {
 
 KESTO_IMPLEMENT_FILL(CFillFourColour, CFillGradient)
 
-CFillFourColour::CFillFourColour() : FillWithControls(DefaultStops(4, false), 4, 4)
-{
-}
+CFillFourColour::CFillFourColour() : FillWithControls(DefaultStops(4, false), 4, 4) {}
 
 void CFillFourColour::SetDefaultControls(const CRect& rect)
 {

@@ -8,9 +8,7 @@ namespace KestoGDI {
 
 KESTO_IMPLEMENT_FILL(CFillFractal, CFillGradient)
 
-CFillFractal::CFillFractal() : FillWithControls(DefaultStops(2, false), 2, -1)
-{
-}
+CFillFractal::CFillFractal() : FillWithControls(DefaultStops(2, false), 2, -1) {}
 
 void CFillFractal::SetDefaultControls(const CRect& rect)
 {

@@ -6,9 +6,7 @@ namespace KestoGDI {
 
 KESTO_IMPLEMENT_FILL(CFillLinear, CFillGradient)
 
-CFillLinear::CFillLinear() : FillWithControls(DefaultStops(2, false), 2, -1)
-{
-}
+CFillLinear::CFillLinear() : FillWithControls(DefaultStops(2, false), 2, -1) {}
 
 void CFillLinear::SetDefaultControls(const CRect& rect)
 {

@@ -8,9 +8,7 @@ namespace KestoGDI {
 
 KESTO_IMPLEMENT_FILL(CFillRadial, CFillGradient)
 
-CFillRadial::CFillRadial() : FillWithControls(DefaultStops(2, false), 2, -1)
-{
-}
+CFillRadial::CFillRadial() : FillWithControls(DefaultStops(2, false), 2, -1) {}
 
 void CFillRadial::SetDefaultControls(const CRect& rect)
 {

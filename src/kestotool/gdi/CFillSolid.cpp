@@ -6,9 +6,7 @@ namespace KestoGDI {
 
 KESTO_IMPLEMENT_FILL(CFillSolid, CFill)
 
-CFillSolid::CFillSolid() : m_colour(std::make_unique<CRGBColour>(0))
-{
-}
+CFillSolid::CFillSolid() : m_colour(std::make_unique<CRGBColour>(0)) {}
 
 CFillSolid::CFillSolid(const CColour& colour, bool alphaFromColour) : m_colour(colour.Clone())
 {
@@ -16,9 +14,7 @@ CFillSolid::CFillSolid(const CColour& colour, bool alphaFromColour) : m_colour(c
         SetAlpha(colour.GetAlpha());
 }
 
-CFillSolid::CFillSolid(const CFillSolid& other) : CFill(other), m_colour(other.m_colour->Clone())
-{
-}
+CFillSolid::CFillSolid(const CFillSolid& other) : CFill(other), m_colour(other.m_colour->Clone()) {}
 
 CFillSolid& CFillSolid::operator=(const CFillSolid& other)
 {

@@ -6,9 +6,7 @@ namespace KestoGDI {
 
 KESTO_IMPLEMENT_FILL(CFillThreeColour, CFillGradient)
 
-CFillThreeColour::CFillThreeColour() : FillWithControls(DefaultStops(3, false), 3, 3)
-{
-}
+CFillThreeColour::CFillThreeColour() : FillWithControls(DefaultStops(3, false), 3, 3) {}
 
 void CFillThreeColour::SetDefaultControls(const CRect& rect)
 {

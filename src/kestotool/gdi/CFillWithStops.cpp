@@ -27,8 +27,8 @@ ColourIntPairs CFillWithStops::DefaultStops(int count, bool transparency)
     ColourIntPairs stops;
     if (count <= 0)
         return stops;
-    const COLORREF corners[] = {KestoPlatform::RGB(255, 0, 0), KestoPlatform::RGB(0, 255, 0), KestoPlatform::RGB(0, 0, 255),
-                                KestoPlatform::RGB(255, 255, 0)};
+    const COLORREF corners[] = {KestoPlatform::RGB(255, 0, 0), KestoPlatform::RGB(0, 255, 0),
+                                KestoPlatform::RGB(0, 0, 255), KestoPlatform::RGB(255, 255, 0)};
     for (int i = 0; i < count; ++i) {
         const int value = count == 1 ? 0 : Kesto2D::MulDiv(i, 10000, count - 1);
         const int level = count == 1 ? 0 : Kesto2D::MulDiv(i, 255, count - 1);

@@ -16,7 +16,8 @@ public:
     explicit CRecordingRenderTarget(double pixelScale = 1.0) : m_scale(pixelScale) {}
 
     double ScalePixels(double pixels) const override { return pixels * m_scale; }
-    void DrawDisc(const CPoint& centre, int radius, const RenderBrush& fill, const std::optional<RenderPen>& outline) override;
+    void DrawDisc(const CPoint& centre, int radius, const RenderBrush& fill,
+                  const std::optional<RenderPen>& outline) override;
     void DrawCircle(const CPoint& centre, int radius, const RenderPen& pen) override;
     void DrawLine(const CPoint& a, const CPoint& b, const RenderPen& pen) override;
     void DrawPolyline(const K2DArrayPoint& points, const RenderPen& pen) override;

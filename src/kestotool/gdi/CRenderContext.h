@@ -23,7 +23,10 @@ public:
     const std::optional<RenderBrush>& GetBrush() const { return m_brush; }
     // Select and answer the previous selection.
     std::optional<RenderPen> SelectPen(const std::optional<RenderPen>& pen) { return std::exchange(m_pen, pen); }
-    std::optional<RenderBrush> SelectBrush(const std::optional<RenderBrush>& brush) { return std::exchange(m_brush, brush); }
+    std::optional<RenderBrush> SelectBrush(const std::optional<RenderBrush>& brush)
+    {
+        return std::exchange(m_brush, brush);
+    }
 
     virtual void Rectangle(const CRect& r) = 0;
     virtual void Line(const CPoint& a, const CPoint& b) = 0;
@@ -52,7 +55,9 @@ private:
 class KESTO_API CBrushSession {
 public:
     CBrushSession(CRenderContext& rc, const std::optional<RenderBrush>& brush)
-        : m_rc(rc), m_previous(rc.SelectBrush(brush)) {}
+        : m_rc(rc), m_previous(rc.SelectBrush(brush))
+    {
+    }
     ~CBrushSession() { m_rc.SelectBrush(m_previous); }
     CBrushSession(const CBrushSession&) = delete;
     CBrushSession& operator=(const CBrushSession&) = delete;

@@ -17,7 +17,8 @@ public:
     constexpr bool IsStraight() const { return m_c1 == 1.0 / 3 && m_c2 == 2.0 / 3; }
 
     // The blend fraction at t (0..1 along the way between the two stops).
-    constexpr double Apply(double t) const {
+    constexpr double Apply(double t) const
+    {
         if (IsStraight())
             return t;
         const double s = 1 - t;

@@ -6,8 +6,6 @@ namespace KestoGDI {
 
 KESTO_IMPLEMENT_FILL(CTransparencyFlat, CFillSolid)
 
-CTransparencyFlat::CTransparencyFlat() : CFillSolid(CMonoColour(128), false)
-{
-}
+CTransparencyFlat::CTransparencyFlat() : CFillSolid(CMonoColour(128), false) {}
 
 } // namespace KestoGDI

@@ -58,7 +58,7 @@ private:
     // The stops, made this list's own first when another list shares them.
     Stops& Write();
 
-    std::shared_ptr<Stops> m_pairs;  // null while empty
+    std::shared_ptr<Stops> m_pairs; // null while empty
 };
 
 } // namespace KestoGDI

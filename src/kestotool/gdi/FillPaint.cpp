@@ -35,7 +35,8 @@ constexpr int kMaxTileSide = 2048;
 KestoRaster::Rgba ToRgba(const CColour& colour)
 {
     const COLORREF rgb = colour.GetRGB();
-    return {static_cast<std::uint8_t>(KestoPlatform::GetRValue(rgb)), static_cast<std::uint8_t>(KestoPlatform::GetGValue(rgb)),
+    return {static_cast<std::uint8_t>(KestoPlatform::GetRValue(rgb)),
+            static_cast<std::uint8_t>(KestoPlatform::GetGValue(rgb)),
             static_cast<std::uint8_t>(KestoPlatform::GetBValue(rgb)), static_cast<std::uint8_t>(colour.GetAlpha())};
 }
 
@@ -70,7 +71,8 @@ public:
             auto image = std::make_shared<Paint::Image>();
             image->width = bitmap->GetWidth();
             image->height = bitmap->GetHeight();
-            image->argb.assign(bitmap->GetBits(), bitmap->GetBits() + static_cast<std::size_t>(image->width) * image->height);
+            image->argb.assign(bitmap->GetBits(),
+                               bitmap->GetBits() + static_cast<std::size_t>(image->width) * image->height);
             p.image = std::move(image);
         }
     }
@@ -150,13 +152,15 @@ void PaintOfKind::Visit(const CFillVector& fill)
     for (int j = 0; j < period; ++j) {
         for (int i = 0; i < period; ++i) {
             const double degrees = (i ? fill.GetAdditionalRotation2() : 0) + (j ? fill.GetAdditionalRotation() : 0);
-            const K2DLtGeneral turn =
-                K2DLtGeneral::About(centre, Kesto2D::K2DLtRotate(Kesto2D::KCAngle(static_cast<int>(std::lround(degrees * 100)))));
-            const K2DLtGeneral m = place.Then(turn)
-                                       .Then(Kesto2D::K2DLtTranslate((next.a - box.origin).dx * i + (next.b - box.origin).dx * j,
-                                                                     (next.a - box.origin).dy * i + (next.b - box.origin).dy * j))
-                                       .Then(toTile);
-            instances.push_back({m.GetM11(), m.GetM12(), m.GetM21(), m.GetM22(), m.GetTranslation().dx, m.GetTranslation().dy});
+            const K2DLtGeneral turn = K2DLtGeneral::About(
+                centre, Kesto2D::K2DLtRotate(Kesto2D::KCAngle(static_cast<int>(std::lround(degrees * 100)))));
+            const K2DLtGeneral m =
+                place.Then(turn)
+                    .Then(Kesto2D::K2DLtTranslate((next.a - box.origin).dx * i + (next.b - box.origin).dx * j,
+                                                  (next.a - box.origin).dy * i + (next.b - box.origin).dy * j))
+                    .Then(toTile);
+            instances.push_back(
+                {m.GetM11(), m.GetM12(), m.GetM21(), m.GetM22(), m.GetTranslation().dx, m.GetTranslation().dy});
         }
     }
     const RefPtr<const CLtBitmap> tile = drawing->Tile(width, height, instances);

@@ -22,7 +22,8 @@ bool PngFile::WritePremultiplied(const std::string& path, const std::uint32_t* p
     // Straight alpha, as PNG stores it: 0xAARRGGBB in little-endian memory is B, G, R, A.
     std::vector<std::uint32_t> straight(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
     for (int y = 0; y < height; ++y) {
-        const auto* row = reinterpret_cast<const std::uint32_t*>(reinterpret_cast<const unsigned char*>(pixels) + y * strideBytes);
+        const auto* row =
+            reinterpret_cast<const std::uint32_t*>(reinterpret_cast<const unsigned char*>(pixels) + y * strideBytes);
         for (int x = 0; x < width; ++x)
             straight[static_cast<std::size_t>(y) * width + x] = KestoRaster::Straight(row[x]);
     }

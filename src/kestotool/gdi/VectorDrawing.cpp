@@ -18,9 +18,7 @@ constexpr int kMaxCopies = 4;
 
 } // namespace
 
-VectorDrawing::VectorDrawing(int width, int height) : m_width(std::max(width, 1)), m_height(std::max(height, 1))
-{
-}
+VectorDrawing::VectorDrawing(int width, int height) : m_width(std::max(width, 1)), m_height(std::max(height, 1)) {}
 
 void VectorDrawing::AddShape(KestoRaster::Path outline, RefPtr<const CFill> fill)
 {
@@ -31,10 +29,13 @@ RefPtr<const CLtBitmap> VectorDrawing::Tile(double scaleX, double scaleY) const
 {
     if (!(std::isfinite(scaleX) && std::isfinite(scaleY) && scaleX > 0 && scaleY > 0))
         return {};
-    const auto side = [](double v) { return static_cast<int>(std::clamp(std::round(v), 1.0, double(CLtBitmap::MaxSide))); };
+    const auto side = [](double v) {
+        return static_cast<int>(std::clamp(std::round(v), 1.0, double(CLtBitmap::MaxSide)));
+    };
     const int width = side(m_width * scaleX);
     const int height = side(m_height * scaleY);
-    const KestoRaster::Affine place{static_cast<double>(width) / m_width, 0, 0, static_cast<double>(height) / m_height, 0, 0};
+    const KestoRaster::Affine place{static_cast<double>(width) / m_width,   0, 0,
+                                    static_cast<double>(height) / m_height, 0, 0};
     return Tile(width, height, std::span(&place, 1));
 }
 
@@ -59,7 +60,8 @@ RefPtr<const CLtBitmap> VectorDrawing::Tile(int width, int height, std::span<con
     return m_tiles.emplace(std::move(key), tile).first->second;
 }
 
-RefPtr<const CLtBitmap> VectorDrawing::Paint(int width, int height, std::span<const KestoRaster::Affine> instances) const
+RefPtr<const CLtBitmap> VectorDrawing::Paint(int width, int height,
+                                             std::span<const KestoRaster::Affine> instances) const
 {
     using namespace KestoRaster;
     const std::size_t count = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);

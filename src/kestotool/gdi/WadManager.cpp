@@ -23,7 +23,8 @@ bool ChunksFit(const unsigned char* data, std::size_t size)
     // A chunk is its length and type (the header the decoder reads first), the data, a CRC.
     constexpr std::size_t signature = 8, header = 8, crc = 4;
     for (std::size_t at = signature; at + header <= size;) {
-        const std::uint32_t length = static_cast<std::uint32_t>(data[at]) << 24 | static_cast<std::uint32_t>(data[at + 1]) << 16 |
+        const std::uint32_t length = static_cast<std::uint32_t>(data[at]) << 24 |
+                                     static_cast<std::uint32_t>(data[at + 1]) << 16 |
                                      static_cast<std::uint32_t>(data[at + 2]) << 8 | data[at + 3];
         if (length > size - at - header)
             return false;

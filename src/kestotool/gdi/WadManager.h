@@ -25,7 +25,8 @@ public:
 
     KestoKernel::RefPtr<CLtBitmap> LoadBitmapW(const wchar_t* archivePath, const wchar_t* entryName) const;
     // The same from an archive held in memory.
-    static KestoKernel::RefPtr<CLtBitmap> LoadFromMemory(const void* archive, std::size_t size, const wchar_t* entryName);
+    static KestoKernel::RefPtr<CLtBitmap> LoadFromMemory(const void* archive, std::size_t size,
+                                                         const wchar_t* entryName);
     // Decodes PNG bytes into a straight-alpha ARGB bitmap.
     static KestoKernel::RefPtr<CLtBitmap> DecodePng(const void* data, std::size_t size);
 

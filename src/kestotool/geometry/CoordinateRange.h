@@ -28,7 +28,8 @@ constexpr KestoPlatform::CPoint OffsetPoint(const KestoPlatform::CPoint& p, long
     return SaturatePoint(p.x + dx, p.y + dy);
 }
 // p moved as far as from moves to reach to, saturated.
-constexpr KestoPlatform::CPoint OffsetPoint(const KestoPlatform::CPoint& p, const KestoPlatform::CPoint& from, const KestoPlatform::CPoint& to)
+constexpr KestoPlatform::CPoint OffsetPoint(const KestoPlatform::CPoint& p, const KestoPlatform::CPoint& from,
+                                            const KestoPlatform::CPoint& to)
 {
     return OffsetPoint(p, static_cast<long long>(to.x) - from.x, static_cast<long long>(to.y) - from.y);
 }

@@ -9,9 +9,7 @@
 
 namespace Kesto2D {
 
-K2DArrayPoint::K2DArrayPoint(int initialSize) : m_points(static_cast<std::size_t>(std::max(initialSize, 0)))
-{
-}
+K2DArrayPoint::K2DArrayPoint(int initialSize) : m_points(static_cast<std::size_t>(std::max(initialSize, 0))) {}
 
 CPoint K2DArrayPoint::GetAt(int index) const
 {

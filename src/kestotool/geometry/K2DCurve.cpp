@@ -107,8 +107,8 @@ CRect K2DCurve::GetBBox() const
             }
         }
     }
-    return {RoundHalfAwayFromZero(b.minX), RoundHalfAwayFromZero(b.minY),
-            RoundHalfAwayFromZero(b.maxX), RoundHalfAwayFromZero(b.maxY)};
+    return {RoundHalfAwayFromZero(b.minX), RoundHalfAwayFromZero(b.minY), RoundHalfAwayFromZero(b.maxX),
+            RoundHalfAwayFromZero(b.maxY)};
 }
 
 std::vector<std::vector<K2DDblPoint>> K2DCurve::Flatten(double tolerance) const

@@ -33,7 +33,12 @@ public:
 
     bool IsEmpty() const { return m_pieces.empty(); }
     void Transform(const K2DLtGeneral& t);
-    [[nodiscard]] K2DCurve Transformed(const K2DLtGeneral& t) const { K2DCurve c = *this; c.Transform(t); return c; }
+    [[nodiscard]] K2DCurve Transformed(const K2DLtGeneral& t) const
+    {
+        K2DCurve c = *this;
+        c.Transform(t);
+        return c;
+    }
 
     // The exact bounding box of the outline, each edge rounded half away from zero (right and
     // bottom are the largest coordinates themselves); all zero for an empty outline.
@@ -46,11 +51,11 @@ public:
 private:
     struct Piece {
         enum class Kind { Move, Line, Arc } kind;
-        K2DDblPoint point;  // Move and Line: the target; Arc: the centre
+        K2DDblPoint point; // Move and Line: the target; Arc: the centre
         K2DVector u;
         K2DVector w;
-        double start = 0;   // radians
-        double sweep = 0;   // radians
+        double start = 0; // radians
+        double sweep = 0; // radians
         K2DDblPoint ArcPoint(double t) const;
     };
 

@@ -24,8 +24,18 @@ public:
     // answers the length it had. The origin stays where it is and answers 0.
     double NormaliseFast();
 
-    constexpr K2DDblPoint& operator+=(const K2DVector& v) { x += v.dx; y += v.dy; return *this; }
-    constexpr K2DDblPoint& operator-=(const K2DVector& v) { x -= v.dx; y -= v.dy; return *this; }
+    constexpr K2DDblPoint& operator+=(const K2DVector& v)
+    {
+        x += v.dx;
+        y += v.dy;
+        return *this;
+    }
+    constexpr K2DDblPoint& operator-=(const K2DVector& v)
+    {
+        x -= v.dx;
+        y -= v.dy;
+        return *this;
+    }
     friend constexpr K2DDblPoint operator+(K2DDblPoint p, const K2DVector& v) { return p += v; }
     friend constexpr K2DDblPoint operator-(K2DDblPoint p, const K2DVector& v) { return p -= v; }
     friend constexpr K2DVector operator-(const K2DDblPoint& a, const K2DDblPoint& b) { return {a.x - b.x, a.y - b.y}; }

@@ -62,7 +62,8 @@ bool K2DLtGeneral::HasInverse() const
 K2DLtGeneral K2DLtGeneral::GetInverse() const
 {
     if (!HasInverse()) {
-        KestoKernel::VerifyFailed("Kesto2D", "K2DLtGeneral", __LINE__, "the transform is singular: test HasInverse first");
+        KestoKernel::VerifyFailed("Kesto2D", "K2DLtGeneral", __LINE__,
+                                  "the transform is singular: test HasInverse first");
         return {};
     }
     const double det = Determinant();

@@ -21,7 +21,9 @@ class KESTO_API K2DLtGeneral {
 public:
     K2DLtGeneral() = default;
     K2DLtGeneral(double m11, double m12, double m21, double m22, double dx, double dy)
-        : m_m11(m11), m_m12(m12), m_m21(m21), m_m22(m22), m_dx(dx), m_dy(dy) {}
+        : m_m11(m11), m_m12(m12), m_m21(m21), m_m22(m22), m_dx(dx), m_dy(dy)
+    {
+    }
     K2DLtGeneral(const K2DLtTranslate& t) : m_dx(t.dx), m_dy(t.dy) {}
     K2DLtGeneral(const K2DLtScale& s) : m_m11(s.sx), m_m22(s.sy) {}
     K2DLtGeneral(const K2DLtRotate& r);
@@ -31,7 +33,11 @@ public:
 
     // Appends next: the result applies this first, then next.
     K2DLtGeneral& operator+=(const K2DLtGeneral& next);
-    [[nodiscard]] K2DLtGeneral Then(const K2DLtGeneral& next) const { K2DLtGeneral t = *this; return t += next; }
+    [[nodiscard]] K2DLtGeneral Then(const K2DLtGeneral& next) const
+    {
+        K2DLtGeneral t = *this;
+        return t += next;
+    }
 
     // Integer points come back rounded half away from zero, saturated to the coordinate range.
     CPoint ApplyTo(const CPoint& p) const;

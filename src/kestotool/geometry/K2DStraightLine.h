@@ -15,7 +15,10 @@ public:
     K2DStraightLine() = default;
 
     bool SetFinite(const K2DDblPoint& start, const K2DDblPoint& end) { return Set(start, end, true); }
-    bool SetInfinite(const K2DDblPoint& through1, const K2DDblPoint& through2) { return Set(through1, through2, false); }
+    bool SetInfinite(const K2DDblPoint& through1, const K2DDblPoint& through2)
+    {
+        return Set(through1, through2, false);
+    }
 
     bool IsValid() const { return m_valid; }
     bool IsFinite() const { return m_finite; }

@@ -21,14 +21,30 @@ public:
     // This turned a right angle anticlockwise on screen.
     constexpr K2DVector Perpendicular() const { return {dy, -dx}; }
     // Unit length in the same direction; the zero vector stays zero.
-    [[nodiscard]] K2DVector Normalized() const {
+    [[nodiscard]] K2DVector Normalized() const
+    {
         const double len = Length();
         return len > 0 ? K2DVector{dx / len, dy / len} : K2DVector{};
     }
 
-    constexpr K2DVector& operator+=(const K2DVector& v) { dx += v.dx; dy += v.dy; return *this; }
-    constexpr K2DVector& operator-=(const K2DVector& v) { dx -= v.dx; dy -= v.dy; return *this; }
-    constexpr K2DVector& operator*=(double s) { dx *= s; dy *= s; return *this; }
+    constexpr K2DVector& operator+=(const K2DVector& v)
+    {
+        dx += v.dx;
+        dy += v.dy;
+        return *this;
+    }
+    constexpr K2DVector& operator-=(const K2DVector& v)
+    {
+        dx -= v.dx;
+        dy -= v.dy;
+        return *this;
+    }
+    constexpr K2DVector& operator*=(double s)
+    {
+        dx *= s;
+        dy *= s;
+        return *this;
+    }
     constexpr K2DVector operator-() const { return {-dx, -dy}; }
     friend constexpr K2DVector operator+(K2DVector a, const K2DVector& b) { return a += b; }
     friend constexpr K2DVector operator-(K2DVector a, const K2DVector& b) { return a -= b; }

@@ -21,11 +21,26 @@ void KCAngle::SinCos(double& sine, double& cosine) const
 {
     const int a = Normalized();
     switch (a) {
-    case 0: sine = 0; cosine = 1; return;
-    case RightAngle: sine = 1; cosine = 0; return;
-    case HalfCircle: sine = 0; cosine = -1; return;
-    case HalfCircle + RightAngle: sine = -1; cosine = 0; return;
-    default: sine = std::sin(ToRadians()); cosine = std::cos(ToRadians()); return;
+    case 0:
+        sine = 0;
+        cosine = 1;
+        return;
+    case RightAngle:
+        sine = 1;
+        cosine = 0;
+        return;
+    case HalfCircle:
+        sine = 0;
+        cosine = -1;
+        return;
+    case HalfCircle + RightAngle:
+        sine = -1;
+        cosine = 0;
+        return;
+    default:
+        sine = std::sin(ToRadians());
+        cosine = std::cos(ToRadians());
+        return;
     }
 }
 

@@ -36,7 +36,8 @@ public:
     double ToScreenRadians() const { return -ToRadians(); }
 
     // The same angle in [0, 36000).
-    [[nodiscard]] constexpr KCAngle Normalized() const {
+    [[nodiscard]] constexpr KCAngle Normalized() const
+    {
         const int r = m_value % FullCircle;
         return r < 0 ? r + FullCircle : r;
     }

@@ -13,16 +13,32 @@ class RefPtr {
 public:
     RefPtr() = default;
     RefPtr(std::nullptr_t) {}
-    explicit RefPtr(T* p) : m_p(p) { if (m_p) m_p->AddRef(); }
+    explicit RefPtr(T* p) : m_p(p)
+    {
+        if (m_p)
+            m_p->AddRef();
+    }
     RefPtr(const RefPtr& other) : RefPtr(other.m_p) {}
     RefPtr(RefPtr&& other) noexcept : m_p(std::exchange(other.m_p, nullptr)) {}
     template <class U>
-    RefPtr(const RefPtr<U>& other) : RefPtr(other.get()) {}
+    RefPtr(const RefPtr<U>& other) : RefPtr(other.get())
+    {
+    }
     template <class U>
-    RefPtr(RefPtr<U>&& other) noexcept : m_p(other.Detach()) {}
-    ~RefPtr() { if (m_p) m_p->Release(); }
+    RefPtr(RefPtr<U>&& other) noexcept : m_p(other.Detach())
+    {
+    }
+    ~RefPtr()
+    {
+        if (m_p)
+            m_p->Release();
+    }
 
-    RefPtr& operator=(RefPtr other) noexcept { std::swap(m_p, other.m_p); return *this; }
+    RefPtr& operator=(RefPtr other) noexcept
+    {
+        std::swap(m_p, other.m_p);
+        return *this;
+    }
 
     void reset(T* p = nullptr) { *this = RefPtr(p); }
     // Gives up the reference without releasing it; the caller now holds it.

@@ -9,11 +9,11 @@ namespace KestoKernel {
 
 // A broken precondition: the operation reports it here and returns its empty result.
 struct VerifyReport {
-    std::string message;  // always "Verify failed"
-    std::string module;   // the module label, e.g. "KestoTool"
-    std::string file;     // the source file name as the behaviour names it
+    std::string message; // always "Verify failed"
+    std::string module;  // the module label, e.g. "KestoTool"
+    std::string file;    // the source file name as the behaviour names it
     int line = 0;
-    std::string hint;     // what to fix, in plain words; empty where the report speaks for itself
+    std::string hint; // what to fix, in plain words; empty where the report speaks for itself
 };
 
 using VerifyHandler = std::function<void(const VerifyReport&)>;

@@ -17,7 +17,10 @@ class CCmdUI;
 constexpr int CN_COMMAND = 0;
 constexpr int CN_UPDATE_COMMAND_UI = -1;
 // A notification's routing code carries its notification code in the low 16 bits.
-constexpr int CN_NOTIFY(int notifyCode) { return (0x4E << 16) | (notifyCode & 0xFFFF); }
+constexpr int CN_NOTIFY(int notifyCode)
+{
+    return (0x4E << 16) | (notifyCode & 0xFFFF);
+}
 
 // What accompanies a notification: the control's record and where the handler puts its result.
 struct AFX_NOTIFY {
@@ -81,17 +84,15 @@ using Class = typename MemberOf<decltype(Handler)>::type;
 template <auto Handler>
 constexpr AFX_MSGMAP_ENTRY Command(int id)
 {
-    return {MsgKind::Command, id, id, 0, [](CCmdTarget* t, int, void*) {
-                (static_cast<Detail::Class<Handler>*>(t)->*Handler)();
-            }};
+    return {MsgKind::Command, id, id, 0,
+            [](CCmdTarget* t, int, void*) { (static_cast<Detail::Class<Handler>*>(t)->*Handler)(); }};
 }
 
 template <auto Handler>
 constexpr AFX_MSGMAP_ENTRY CommandRange(int first, int last)
 {
-    return {MsgKind::Command, first, last, 0, [](CCmdTarget* t, int id, void*) {
-                (static_cast<Detail::Class<Handler>*>(t)->*Handler)(id);
-            }};
+    return {MsgKind::Command, first, last, 0,
+            [](CCmdTarget* t, int id, void*) { (static_cast<Detail::Class<Handler>*>(t)->*Handler)(id); }};
 }
 
 template <auto Handler>
@@ -106,9 +107,8 @@ constexpr AFX_MSGMAP_ENTRY Update(int id)
 template <auto Handler>
 constexpr AFX_MSGMAP_ENTRY Control(int id, int notifyCode)
 {
-    return {MsgKind::Control, id, id, notifyCode, [](CCmdTarget* t, int, void*) {
-                (static_cast<Detail::Class<Handler>*>(t)->*Handler)();
-            }};
+    return {MsgKind::Control, id, id, notifyCode,
+            [](CCmdTarget* t, int, void*) { (static_cast<Detail::Class<Handler>*>(t)->*Handler)(); }};
 }
 
 template <auto Handler>

@@ -14,11 +14,35 @@ public:
     constexpr CPoint() = default;
     constexpr CPoint(int px, int py) : x(px), y(py) {}
 
-    constexpr void Offset(int dx, int dy) { x += dx; y += dy; }
-    constexpr CPoint& operator+=(const CSize& s) { x += s.cx; y += s.cy; return *this; }
-    constexpr CPoint& operator-=(const CSize& s) { x -= s.cx; y -= s.cy; return *this; }
-    constexpr CPoint& operator+=(const CPoint& p) { x += p.x; y += p.y; return *this; }
-    constexpr CPoint& operator-=(const CPoint& p) { x -= p.x; y -= p.y; return *this; }
+    constexpr void Offset(int dx, int dy)
+    {
+        x += dx;
+        y += dy;
+    }
+    constexpr CPoint& operator+=(const CSize& s)
+    {
+        x += s.cx;
+        y += s.cy;
+        return *this;
+    }
+    constexpr CPoint& operator-=(const CSize& s)
+    {
+        x -= s.cx;
+        y -= s.cy;
+        return *this;
+    }
+    constexpr CPoint& operator+=(const CPoint& p)
+    {
+        x += p.x;
+        y += p.y;
+        return *this;
+    }
+    constexpr CPoint& operator-=(const CPoint& p)
+    {
+        x -= p.x;
+        y -= p.y;
+        return *this;
+    }
     constexpr CPoint operator-() const { return {-x, -y}; }
 
     friend constexpr bool operator==(const CPoint& a, const CPoint& b) { return a.x == b.x && a.y == b.y; }

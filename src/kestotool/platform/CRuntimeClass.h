@@ -23,26 +23,31 @@ struct CRuntimeClass {
 } // namespace KestoPlatform
 
 // Declares the run-time record of a class; the _DYNCREATE form also makes it creatable.
-#define KESTO_DECLARE_DYNAMIC(Class)                                                    \
-public:                                                                                 \
-    static const ::KestoPlatform::CRuntimeClass* GetThisClass();                             \
+#define KESTO_DECLARE_DYNAMIC(Class)                                                                                   \
+public:                                                                                                                \
+    static const ::KestoPlatform::CRuntimeClass* GetThisClass();                                                       \
     const ::KestoPlatform::CRuntimeClass* GetRuntimeClass() const override;
 
-#define KESTO_DECLARE_DYNCREATE(Class)                                                  \
-    KESTO_DECLARE_DYNAMIC(Class)                                                        \
+#define KESTO_DECLARE_DYNCREATE(Class)                                                                                 \
+    KESTO_DECLARE_DYNAMIC(Class)                                                                                       \
     static ::KestoPlatform::CObject* CreateObject();
 
-#define KESTO_IMPLEMENT_RUNTIMECLASS_(Class, Base, factory)                             \
-    const ::KestoPlatform::CRuntimeClass* Class::GetThisClass()                              \
-    {                                                                                   \
-        static const ::KestoPlatform::CRuntimeClass record{#Class, sizeof(Class),            \
-                                                      Base::GetThisClass(), factory};   \
-        return &record;                                                                 \
-    }                                                                                   \
-    const ::KestoPlatform::CRuntimeClass* Class::GetRuntimeClass() const { return GetThisClass(); }
+#define KESTO_IMPLEMENT_RUNTIMECLASS_(Class, Base, factory)                                                            \
+    const ::KestoPlatform::CRuntimeClass* Class::GetThisClass()                                                        \
+    {                                                                                                                  \
+        static const ::KestoPlatform::CRuntimeClass record{#Class, sizeof(Class), Base::GetThisClass(), factory};      \
+        return &record;                                                                                                \
+    }                                                                                                                  \
+    const ::KestoPlatform::CRuntimeClass* Class::GetRuntimeClass() const                                               \
+    {                                                                                                                  \
+        return GetThisClass();                                                                                         \
+    }
 
 #define KESTO_IMPLEMENT_DYNAMIC(Class, Base) KESTO_IMPLEMENT_RUNTIMECLASS_(Class, Base, nullptr)
 
-#define KESTO_IMPLEMENT_DYNCREATE(Class, Base)                                          \
-    ::KestoPlatform::CObject* Class::CreateObject() { return new Class; }                    \
+#define KESTO_IMPLEMENT_DYNCREATE(Class, Base)                                                                         \
+    ::KestoPlatform::CObject* Class::CreateObject()                                                                    \
+    {                                                                                                                  \
+        return new Class;                                                                                              \
+    }                                                                                                                  \
     KESTO_IMPLEMENT_RUNTIMECLASS_(Class, Base, &Class::CreateObject)

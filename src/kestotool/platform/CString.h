@@ -34,7 +34,11 @@ public:
     // The text as UTF-8, for file names and narrow interfaces.
     std::string ToUtf8() const;
 
-    CString& operator+=(const CString& s) { m_text += s.m_text; return *this; }
+    CString& operator+=(const CString& s)
+    {
+        m_text += s.m_text;
+        return *this;
+    }
     friend CString operator+(CString a, const CString& b) { return a += b; }
     friend bool operator==(const CString& a, const CString& b) { return a.m_text == b.m_text; }
 

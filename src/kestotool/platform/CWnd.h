@@ -109,7 +109,7 @@ private:
     int m_id = 0;
     CWnd* m_parent = nullptr;
     std::vector<CWnd*> m_children;
-    std::vector<std::unique_ptr<CWnd>> m_owned;  // children made for a dialog template's items
+    std::vector<std::unique_ptr<CWnd>> m_owned; // children made for a dialog template's items
     CString m_text;
     CString m_toolTip;
     bool m_enabled = true;

@@ -40,8 +40,8 @@ CXTPControl* CXTPCommandBars::CreateControl(int id, bool toolBar, const CreateHo
     cc.bToolBar = toolBar;
     const bool handled = create && create(&cc) != 0;
     if (!cc.pControl) {
-        const XTPControlType type = handled && cc.controlType != XTPControlType::None ? cc.controlType
-                                                                                      : XTPControlType::Button;
+        const XTPControlType type =
+            handled && cc.controlType != XTPControlType::None ? cc.controlType : XTPControlType::Button;
         cc.pControl = MakeControl(type, id);
         cc.pControl->SetStyle(cc.buttonStyle);
     }

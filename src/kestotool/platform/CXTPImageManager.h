@@ -5,8 +5,8 @@
 
 #include <cstdint>
 #include <map>
-#include <tuple>
 #include <memory>
+#include <tuple>
 #include <vector>
 
 namespace KestoPlatform {

@@ -7,7 +7,19 @@ namespace KestoPlatform {
 class CWnd;
 
 // What kind of window a peer shows, so that a back end can pick the widget for it.
-enum class WindowKind { Window, Dialog, Edit, Slider, Spin, ComboBox, Button, CheckBox, Static, FillPreview, FillControl };
+enum class WindowKind {
+    Window,
+    Dialog,
+    Edit,
+    Slider,
+    Spin,
+    ComboBox,
+    Button,
+    CheckBox,
+    Static,
+    FillPreview,
+    FillControl
+};
 
 // A back end's half of one window: it shows the window's state (the window tree keeps it) and
 // feeds the user's input back to the window through its handlers and its edit path

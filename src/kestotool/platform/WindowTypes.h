@@ -41,8 +41,14 @@ constexpr unsigned MakeCommandParam(int id, int code)
 {
     return (static_cast<unsigned>(code & 0xFFFF) << 16) | static_cast<unsigned>(id & 0xFFFF);
 }
-constexpr int CommandId(unsigned param) { return static_cast<int>(param & 0xFFFF); }
-constexpr int CommandCode(unsigned param) { return static_cast<int>(param >> 16); }
+constexpr int CommandId(unsigned param)
+{
+    return static_cast<int>(param & 0xFFFF);
+}
+constexpr int CommandCode(unsigned param)
+{
+    return static_cast<int>(param >> 16);
+}
 
 // A position change on its way, which the window may inspect before it happens.
 struct WINDOWPOS {

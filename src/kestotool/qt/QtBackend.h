@@ -7,8 +7,8 @@
 
 #include <functional>
 #include <map>
-#include <optional>
 #include <memory>
+#include <optional>
 #include <utility>
 
 class QTimer;
@@ -33,7 +33,8 @@ public:
     QtBackend();
     ~QtBackend() override;
 
-    std::unique_ptr<KestoPlatform::WindowPeer> CreatePeer(KestoPlatform::CWnd& window, KestoPlatform::WindowKind kind) override;
+    std::unique_ptr<KestoPlatform::WindowPeer> CreatePeer(KestoPlatform::CWnd& window,
+                                                          KestoPlatform::WindowKind kind) override;
     void SetTimer(KestoPlatform::CWnd* window, int id, int milliseconds) override;
     void KillTimer(KestoPlatform::CWnd* window, int id) override;
     KestoPlatform::CWnd* GetFocus() const override { return m_focus; }
@@ -42,7 +43,8 @@ public:
     void EndModal(KestoPlatform::CDialog& dialog, int result) override;
     void WindowDestroyed(KestoPlatform::CWnd* window) override;
     // QColorDialog over the owner's widget, or the colour script's answer when there is one.
-    bool ChooseColour(KestoPlatform::CWnd* owner, KestoPlatform::COLORREF initial, KestoPlatform::COLORREF* chosen) override;
+    bool ChooseColour(KestoPlatform::CWnd* owner, KestoPlatform::COLORREF initial,
+                      KestoPlatform::COLORREF* chosen) override;
 
     // A script that each modal run plays once its dialog is showing, from the dialog's event
     // loop; a dialog the script leaves open is cancelled. Null runs the dialog for the user.
@@ -70,7 +72,7 @@ private:
     void Unregister(const QWidget* widget) { m_peers.erase(widget); }
     void FocusChangedByUser(QWidget* now);
 
-    QObject m_context;  // owns the connections to the application
+    QObject m_context; // owns the connections to the application
     std::map<const QWidget*, QtWindowPeer*> m_peers;
     std::map<std::pair<KestoPlatform::CWnd*, int>, std::unique_ptr<QTimer>> m_timers;
     KestoPlatform::ManualClock m_clock;

@@ -49,11 +49,11 @@ private:
     void Notify(KestoPlatform::CXTPControl& control, int code);
 
     QToolBar& m_toolbar;
-    QObject m_context;  // owns the idle connection
+    QObject m_context; // owns the idle connection
     KestoPlatform::CXTPCommandBars* m_bars = nullptr;
     KestoPlatform::CCmdTarget* m_target = nullptr;
     std::vector<Shown> m_shown;
-    bool m_showing = false;  // widgets being set from the model: their signals are not the user's
+    bool m_showing = false; // widgets being set from the model: their signals are not the user's
 };
 
 } // namespace KestoToolQt

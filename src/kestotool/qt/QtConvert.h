@@ -1,21 +1,21 @@
 #pragma once
 
-#include "kestotool/platform/CListItems.h"
-#include "kestotool/platform/CString.h"
-#include "kestotool/platform/CXTPImageManager.h"
-#include "kestotool/platform/ColourRef.h"
 #include "kestotool/gdi/RenderBrush.h"
 #include "kestotool/gdi/RenderPen.h"
 #include "kestotool/geometry/K2DArrayPoint.h"
 #include "kestotool/geometry/K2DCurve.h"
+#include "kestotool/platform/CListItems.h"
+#include "kestotool/platform/CString.h"
+#include "kestotool/platform/CXTPImageManager.h"
+#include "kestotool/platform/ColourRef.h"
 #include "kestotool/platform/WindowTypes.h"
 
 #include <QColor>
 #include <QComboBox>
 #include <QIcon>
 #include <QImage>
-#include <QPixmap>
 #include <QPen>
+#include <QPixmap>
 #include <QPolygonF>
 #include <QString>
 
@@ -50,7 +50,8 @@ inline KestoPlatform::CString ToCString(const QString& text)
 
 inline QColor ToQColor(KestoPlatform::COLORREF colour, int alpha = 255)
 {
-    return QColor(KestoPlatform::GetRValue(colour), KestoPlatform::GetGValue(colour), KestoPlatform::GetBValue(colour), alpha);
+    return QColor(KestoPlatform::GetRValue(colour), KestoPlatform::GetGValue(colour), KestoPlatform::GetBValue(colour),
+                  alpha);
 }
 
 // A pen as the tools mean it: round ends and joins, so that a handle's outline and a control

@@ -82,8 +82,9 @@ QImage QtFillPreview::Picture() const
     const double k = Scale();
     const Kesto2D::K2DLtGeneral view = control->GetViewTransform().Then(Kesto2D::K2DLtGeneral(k, 0, 0, k, 0, 0));
     if (control->GetFill())
-        KestoGDI::FillPaint::PaintOver(*control->GetFill(), ToAffine(view), std::min(std::abs(view.GetM11()), std::abs(view.GetM22())),
-                                       canvas, {0, 0, image.width(), image.height()});
+        KestoGDI::FillPaint::PaintOver(*control->GetFill(), ToAffine(view),
+                                       std::min(std::abs(view.GetM11()), std::abs(view.GetM22())), canvas,
+                                       {0, 0, image.width(), image.height()});
     QPainter painter(&image);
     QtRenderTarget target(painter);
     control->DrawOverlay(target, view);

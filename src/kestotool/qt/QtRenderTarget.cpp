@@ -36,7 +36,8 @@ void QtRenderTarget::DrawCircle(const KestoPlatform::CPoint& centre, int radius,
     m_painter.drawEllipse(ToQPointF(centre), radius, radius);
 }
 
-void QtRenderTarget::DrawLine(const KestoPlatform::CPoint& a, const KestoPlatform::CPoint& b, const KestoGDI::RenderPen& pen)
+void QtRenderTarget::DrawLine(const KestoPlatform::CPoint& a, const KestoPlatform::CPoint& b,
+                              const KestoGDI::RenderPen& pen)
 {
     m_painter.setPen(ToQPen(pen));
     m_painter.drawLine(ToQPointF(a), ToQPointF(b));

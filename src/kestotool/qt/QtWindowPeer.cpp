@@ -1,8 +1,8 @@
 #include "kestotool/qt/QtWindowPeer.h"
 
 #include "kestotool/qt/QtBackend.h"
-#include "kestotool/qt/QtFillPreview.h"
 #include "kestotool/qt/QtConvert.h"
+#include "kestotool/qt/QtFillPreview.h"
 
 #include "kestotool/platform/CButton.h"
 #include "kestotool/platform/CComboBox.h"
@@ -52,8 +52,10 @@ class DialogPeer final : public QtWindowPeer {
 public:
     DialogPeer(CWnd& window, QtBackend& backend, QWidget* parent)
         : QtWindowPeer(window, backend, new PeerDialog(parent, [this] {
-              GetWindow().OnCommand(KestoPlatform::MakeCommandParam(KestoPlatform::IDCANCEL, KestoPlatform::BN_CLICKED), nullptr);
-          }))
+                           GetWindow().OnCommand(
+                               KestoPlatform::MakeCommandParam(KestoPlatform::IDCANCEL, KestoPlatform::BN_CLICKED),
+                               nullptr);
+                       }))
     {
     }
 
@@ -290,27 +292,17 @@ public:
 std::unique_ptr<QtWindowPeer> QtWindowPeer::Make(CWnd& window, WindowKind kind, QtBackend& backend, QWidget* parent)
 {
     switch (kind) {
-    case WindowKind::Dialog:
-        return std::make_unique<DialogPeer>(window, backend, parent);
-    case WindowKind::Edit:
-        return std::make_unique<EditPeer>(window, backend, parent);
-    case WindowKind::Slider:
-        return std::make_unique<SliderPeer>(window, backend, parent);
-    case WindowKind::Spin:
-        return std::make_unique<SpinPeer>(window, backend, parent);
-    case WindowKind::ComboBox:
-        return std::make_unique<ComboPeer>(window, backend, parent);
-    case WindowKind::Button:
-        return std::unique_ptr<QtWindowPeer>(ButtonPeer::Push(window, backend, parent));
-    case WindowKind::CheckBox:
-        return std::make_unique<ButtonPeer>(window, backend, new QCheckBox(parent));
-    case WindowKind::Static:
-        return std::make_unique<StaticPeer>(window, backend, parent);
+    case WindowKind::Dialog: return std::make_unique<DialogPeer>(window, backend, parent);
+    case WindowKind::Edit: return std::make_unique<EditPeer>(window, backend, parent);
+    case WindowKind::Slider: return std::make_unique<SliderPeer>(window, backend, parent);
+    case WindowKind::Spin: return std::make_unique<SpinPeer>(window, backend, parent);
+    case WindowKind::ComboBox: return std::make_unique<ComboPeer>(window, backend, parent);
+    case WindowKind::Button: return std::unique_ptr<QtWindowPeer>(ButtonPeer::Push(window, backend, parent));
+    case WindowKind::CheckBox: return std::make_unique<ButtonPeer>(window, backend, new QCheckBox(parent));
+    case WindowKind::Static: return std::make_unique<StaticPeer>(window, backend, parent);
     case WindowKind::FillPreview:
-    case WindowKind::FillControl:
-        return std::make_unique<PreviewPeer>(window, backend, parent);
-    case WindowKind::Window:
-        break;
+    case WindowKind::FillControl: return std::make_unique<PreviewPeer>(window, backend, parent);
+    case WindowKind::Window: break;
     }
     return std::make_unique<PlainPeer>(window, backend, parent);
 }

@@ -19,8 +19,8 @@ class QtWindowPeer : public KestoPlatform::WindowPeer {
 public:
     // The peer of a window of that kind, its widget a child of parent (a top-level dialog
     // without one).
-    static std::unique_ptr<QtWindowPeer> Make(KestoPlatform::CWnd& window, KestoPlatform::WindowKind kind, QtBackend& backend,
-                                              QWidget* parent);
+    static std::unique_ptr<QtWindowPeer> Make(KestoPlatform::CWnd& window, KestoPlatform::WindowKind kind,
+                                              QtBackend& backend, QWidget* parent);
 
     QtWindowPeer(KestoPlatform::CWnd& window, QtBackend& backend, QWidget* widget);
     ~QtWindowPeer() override;
@@ -36,7 +36,7 @@ protected:
 
 private:
     QtBackend& m_backend;
-    const QWidget* m_registered;  // the key the back end knows this peer by
+    const QWidget* m_registered; // the key the back end knows this peer by
     QPointer<QWidget> m_widget;
     bool m_updating = false;
 };

@@ -34,7 +34,8 @@ void CompositeOver(const Target& destination, const Target& fill, const Target* 
     const int x1 = std::min({clip.x1, destination.width, fill.width, mask ? mask->width : fill.width});
     const int y1 = std::min({clip.y1, destination.height, fill.height, mask ? mask->height : fill.height});
     for (int y = std::max(clip.y0, 0); y < y1; ++y) {
-        auto* dst = reinterpret_cast<std::uint32_t*>(static_cast<unsigned char*>(destination.pixels) + y * destination.stride);
+        auto* dst =
+            reinterpret_cast<std::uint32_t*>(static_cast<unsigned char*>(destination.pixels) + y * destination.stride);
         const auto* src = reinterpret_cast<const std::uint32_t*>(Row(fill, y));
         const unsigned char* cover = mask ? Row(*mask, y) : nullptr;
         for (int x = std::max(clip.x0, 0); x < x1; ++x) {
@@ -47,7 +48,9 @@ void CompositeOver(const Target& destination, const Target& fill, const Target* 
 std::uint32_t Straight(std::uint32_t p)
 {
     const std::uint32_t a = p >> 24;
-    const auto channel = [a](std::uint32_t c) { return a == 0 ? 0u : std::min<std::uint32_t>(255, (c * 255 + a / 2) / a); };
+    const auto channel = [a](std::uint32_t c) {
+        return a == 0 ? 0u : std::min<std::uint32_t>(255, (c * 255 + a / 2) / a);
+    };
     return a << 24 | channel(p >> 16 & 0xFF) << 16 | channel(p >> 8 & 0xFF) << 8 | channel(p & 0xFF);
 }
 

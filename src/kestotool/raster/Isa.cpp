@@ -12,9 +12,8 @@ namespace {
 
 Isa Best()
 {
-    if (__builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512bw") &&
-        __builtin_cpu_supports("avx512vl") && __builtin_cpu_supports("avx512dq") &&
-        __builtin_cpu_supports("avx512vbmi"))
+    if (__builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512bw") && __builtin_cpu_supports("avx512vl") &&
+        __builtin_cpu_supports("avx512dq") && __builtin_cpu_supports("avx512vbmi"))
         return Isa::Avx512;
     if (__builtin_cpu_supports("avx2") && __builtin_cpu_supports("fma"))
         return Isa::Avx2;

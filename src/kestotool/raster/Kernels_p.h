@@ -20,7 +20,7 @@ struct RampRow {
     double u0, v0, du, dv;
     int x0;
     int count;
-    const std::uint32_t* table;  // 256 entries: words, or mask values
+    const std::uint32_t* table; // 256 entries: words, or mask values
     bool mask;
     void* out;
 };
@@ -34,7 +34,7 @@ struct CornerRow {
     double u0, v0, du, dv;
     int x0;
     int count;
-    float c0[4], d1[4], d2[4];  // r, g, b, a
+    float c0[4], d1[4], d2[4]; // r, g, b, a
     bool mask;
     bool transparency;
     void* out;
@@ -49,10 +49,10 @@ struct PlasmaRow {
     double u0, v0, du, dv;
     int x0;
     int count;
-    const std::uint64_t* cells;  // (n + 1) x (n + 1), see PreparedPaint::PlasmaCells
+    const std::uint64_t* cells; // (n + 1) x (n + 1), see PreparedPaint::PlasmaCells
     int n;
     bool mirrored;
-    const std::uint32_t* table;  // 256 entries
+    const std::uint32_t* table; // 256 entries
     bool mask;
     void* out;
 };
@@ -84,7 +84,7 @@ struct BitmapRow {
     int x0;
     int count;
     const std::uint32_t* texels;
-    const std::uint32_t* maskCells;  // for a mask's bilinear samples, see PreparedPaint::MaskCells
+    const std::uint32_t* maskCells; // for a mask's bilinear samples, see PreparedPaint::MaskCells
     int w, h;
     int stride;
     bool mirrored;

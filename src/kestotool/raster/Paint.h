@@ -60,8 +60,8 @@ struct Paint {
     // The plasma's pattern: the same values always give the same tile.
     struct Plasma {
         std::uint32_t seed = 1;
-        int grain = 50;        // 0 smooth .. 100 grainy
-        int resolution = 256;  // samples along each side of the tile
+        int grain = 50;       // 0 smooth .. 100 grainy
+        int resolution = 256; // samples along each side of the tile
         friend bool operator==(const Plasma&, const Plasma&) = default;
     };
     // A bitmap's pixels: 0xAARRGGBB words with straight alpha, rows top to bottom.
@@ -73,13 +73,13 @@ struct Paint {
 
     Kind kind = Kind::Solid;
     std::vector<Point> points;
-    std::vector<RampStop> stops;   // ramp kinds; sorted by position
-    std::vector<Rgba> colours;     // solid and corner kinds
+    std::vector<RampStop> stops; // ramp kinds; sorted by position
+    std::vector<Rgba> colours;   // solid and corner kinds
     Plasma plasma;
     std::shared_ptr<const Image> image;
-    bool mirroredTiles = false;  // plasma, bitmap
-    bool nearest = false;        // bitmap
-    bool recolour = false;       // bitmap
+    bool mirroredTiles = false; // plasma, bitmap
+    bool nearest = false;       // bitmap
+    bool recolour = false;      // bitmap
     // A transparency paints levels: its colours' red channel is the level 0 (opaque) .. 255
     // (clear), and as a mask it paints 255 - level.
     bool transparency = false;

@@ -47,8 +47,8 @@ std::vector<std::vector<Point>> Path::Flatten(const Affine& toDevice, double tol
     std::vector<std::vector<Point>> pieces;
     std::vector<Point> piece;
     const auto finish = [&] {
-        const bool finite = std::all_of(piece.begin(), piece.end(),
-                                        [](Point p) { return std::isfinite(p.x) && std::isfinite(p.y); });
+        const bool finite =
+            std::all_of(piece.begin(), piece.end(), [](Point p) { return std::isfinite(p.x) && std::isfinite(p.y); });
         if (piece.size() >= 3 && finite)
             pieces.push_back(std::move(piece));
         piece.clear();
@@ -60,9 +60,7 @@ std::vector<std::vector<Point>> Path::Flatten(const Affine& toDevice, double tol
             finish();
             piece.push_back(toDevice.Apply(m_points[at++]));
             break;
-        case Verb::Line:
-            piece.push_back(toDevice.Apply(m_points[at++]));
-            break;
+        case Verb::Line: piece.push_back(toDevice.Apply(m_points[at++])); break;
         case Verb::Cubic: {
             const Point p0 = piece.back();
             const Point p1 = toDevice.Apply(m_points[at]);
@@ -81,9 +79,7 @@ std::vector<std::vector<Point>> Path::Flatten(const Affine& toDevice, double tol
             }
             break;
         }
-        case Verb::Close:
-            finish();
-            break;
+        case Verb::Close: finish(); break;
         }
     }
     finish();
@@ -192,7 +188,8 @@ private:
 
 void RenderCoverage(const Path& path, const Affine& toDevice, const Target& mask, const Clip& clip)
 {
-    const Clip c{std::max(clip.x0, 0), std::max(clip.y0, 0), std::min(clip.x1, mask.width), std::min(clip.y1, mask.height)};
+    const Clip c{std::max(clip.x0, 0), std::max(clip.y0, 0), std::min(clip.x1, mask.width),
+                 std::min(clip.y1, mask.height)};
     if (!mask.pixels || mask.format != Output::Mask8 || c.x1 <= c.x0 || c.y1 <= c.y0)
         return;
     Accumulator cells(c.x1 - c.x0, c.y1 - c.y0);

@@ -169,7 +169,8 @@ std::vector<std::uint32_t> MaskCellsOf(const std::vector<std::uint32_t>& padded,
         for (std::size_t x = 0; x + 1 < stride; ++x) {
             const std::uint32_t* top = &padded[y * stride + x];
             const std::uint32_t* bottom = top + stride;
-            cells.push_back((top[0] & 0xFF) | (top[1] & 0xFF) << 8 | (bottom[0] & 0xFF) << 16 | (bottom[1] & 0xFF) << 24);
+            cells.push_back((top[0] & 0xFF) | (top[1] & 0xFF) << 8 | (bottom[0] & 0xFF) << 16 |
+                            (bottom[1] & 0xFF) << 24);
         }
     }
     return cells;
@@ -259,7 +260,9 @@ void RenderThreeColourRows(const PreparedPaint& prepared, const Target& target, 
     Kernels::CornerRow row{};
     row.mask = target.format == Output::Mask8;
     row.transparency = paint.transparency;
-    const auto channels = [](const Rgba& x) { return std::array<float, 4>{float(x.r), float(x.g), float(x.b), float(x.a)}; };
+    const auto channels = [](const Rgba& x) {
+        return std::array<float, 4>{float(x.r), float(x.g), float(x.b), float(x.a)};
+    };
     const auto c0 = channels(paint.colours[0]), c1 = channels(paint.colours[1]), c2 = channels(paint.colours[2]);
     for (int k = 0; k < 4; ++k) {
         row.c0[k] = c0[k];
@@ -280,14 +283,15 @@ PreparedPaint::PreparedPaint(const Paint& paint, const Affine& paintToDevice, Ou
     // Colours that a drag does not change are shared with the previous preparation: the table,
     // the plasma tile and the bitmap's texels are built only when the colours change. Images are
     // compared by content, as a host translating its fill anew each time makes a new one.
-    const auto sameImage = [](const std::shared_ptr<const Paint::Image>& a, const std::shared_ptr<const Paint::Image>& b) {
+    const auto sameImage = [](const std::shared_ptr<const Paint::Image>& a,
+                              const std::shared_ptr<const Paint::Image>& b) {
         return a == b || (a && b && a->width == b->width && a->height == b->height && a->argb == b->argb);
     };
-    const bool sameColours = previous && previous->m_output == output && previous->m_paint->stops == paint.stops &&
-                             previous->m_paint->transparency == paint.transparency &&
-                             previous->m_paint->kind == paint.kind && previous->m_paint->plasma == paint.plasma &&
-                             sameImage(previous->m_paint->image, paint.image) && previous->m_paint->recolour == paint.recolour &&
-                             previous->m_paint->mirroredTiles == paint.mirroredTiles;
+    const bool sameColours =
+        previous && previous->m_output == output && previous->m_paint->stops == paint.stops &&
+        previous->m_paint->transparency == paint.transparency && previous->m_paint->kind == paint.kind &&
+        previous->m_paint->plasma == paint.plasma && sameImage(previous->m_paint->image, paint.image) &&
+        previous->m_paint->recolour == paint.recolour && previous->m_paint->mirroredTiles == paint.mirroredTiles;
     if (sameColours) {
         m_table = previous->m_table;
         m_plasmaTile = previous->m_plasmaTile;
@@ -302,8 +306,8 @@ PreparedPaint::PreparedPaint(const Paint& paint, const Affine& paintToDevice, Ou
         output == Output::Mask8 && !m_texels->empty() ? MaskCellsOf(*m_texels, paint.image->width, paint.image->height)
                                                       : std::vector<std::uint32_t>());
     if (paint.kind == Paint::Kind::Plasma) {
-        const bool same = previous && previous->m_paint->kind == Paint::Kind::Plasma &&
-                          previous->m_paint->plasma == paint.plasma;
+        const bool same =
+            previous && previous->m_paint->kind == Paint::Kind::Plasma && previous->m_paint->plasma == paint.plasma;
         m_plasmaTile = same ? previous->m_plasmaTile
                             : std::make_shared<const std::vector<float>>(Shading::PlasmaTile(paint.plasma));
         const int n = Shading::PlasmaResolution(paint.plasma);
@@ -372,7 +376,8 @@ void Render(const PreparedPaint& prepared, const Target& target, const Clip& cli
 void RenderReference(const Paint& paint, const Affine& paintToDevice, const Target& target, const Clip& clip)
 {
     const Geometry g = Solve(paint);
-    const std::vector<float> tile = paint.kind == Paint::Kind::Plasma ? Shading::PlasmaTile(paint.plasma) : std::vector<float>();
+    const std::vector<float> tile =
+        paint.kind == Paint::Kind::Plasma ? Shading::PlasmaTile(paint.plasma) : std::vector<float>();
     ForEachPixel(target, clip, paintToDevice.Inverse(),
                  [&](Point p) { return Direct(paint, g, tile, target.format, p); });
 }

@@ -237,7 +237,8 @@ double PlasmaValue(const std::vector<float>& tile, int resolution, Point uv, boo
     const int n = std::clamp(resolution, 2, 1024);
     const auto [x0, y0, sx, sy] = CellAt(uv.x * n - 0.5, uv.y * n - 0.5);
     const auto at = [&](long long x, long long y) {
-        return static_cast<double>(tile[static_cast<std::size_t>(TileIndex(y, n, mirrored)) * n + TileIndex(x, n, mirrored)]);
+        return static_cast<double>(
+            tile[static_cast<std::size_t>(TileIndex(y, n, mirrored)) * n + TileIndex(x, n, mirrored)]);
     };
     const double top = at(x0, y0) + (at(x0 + 1, y0) - at(x0, y0)) * sx;
     const double bottom = at(x0, y0 + 1) + (at(x0 + 1, y0 + 1) - at(x0, y0 + 1)) * sx;

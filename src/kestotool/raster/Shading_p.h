@@ -13,7 +13,7 @@ namespace KestoRaster::Shading {
 struct Geometry {
     Paint::Kind kind = Paint::Kind::Solid;
     bool degenerate = false;
-    Point origin;                  // S, C or P0
+    Point origin; // S, C or P0
     // The inverse of the basis (first axis, second axis) that the kind measures in; for the
     // linear kind the axis divided by its squared length.
     double iux = 0, iuy = 0, ivx = 0, ivy = 0;

@@ -12,6 +12,8 @@ struct Entry {
 };
 
 // The built-in texts, sorted by id. Misspellings and doubled spaces are part of the texts.
+// One text a line, as the texts are searched for.
+// clang-format off
 constexpr Entry kStrings[] = {
     {100, L"Hold |Ctrl| to centre fill."},
     {101, L"|Drag| to set new a conical fill. |Click| to change selection. Drag colours onto fill radius to add handles."},
@@ -93,6 +95,7 @@ constexpr Entry kStrings[] = {
     {25495, L"Scaling Mode"},
     {25496, L"Spacing Mode"},
 };
+// clang-format on
 
 } // namespace
 

@@ -16,8 +16,8 @@ class IDocumentEx;
 // command opens them through this table. The dialogs fill it in when the library loads; an empty
 // entry opens nothing.
 struct FillEditors {
-    using EditFill = RefPtr<KestoGDI::CFill> (*)(IDocumentEx*, const KestoGDI::CFill*, const CRect&, KestoPlatform::CWnd*,
-                                                 const Kesto2D::K2DLtGeneral&);
+    using EditFill = RefPtr<KestoGDI::CFill> (*)(IDocumentEx*, const KestoGDI::CFill*, const CRect&,
+                                                 KestoPlatform::CWnd*, const Kesto2D::K2DLtGeneral&);
     using EditTransparency = RefPtr<KestoGDI::CFill> (*)(IDocumentEx*, const KestoGDI::CFill*, const CRect&,
                                                          KestoPlatform::CWnd*);
 

@@ -2,7 +2,6 @@
 
 #include "kestotool/platform/Export.h"
 
-
 namespace KestoTool {
 
 class IToolHelper;

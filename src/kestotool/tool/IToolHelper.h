@@ -21,7 +21,8 @@ public:
     // Creates the toolbar control of a node-colour command; non-zero when it did.
     virtual int CreateColourControl(KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc) = 0;
     // Modal colour choice: true, with a new colour in result, when the user confirmed.
-    virtual bool ColourPicker(const KestoGDI::CColour* current, KestoGDI::CColour*& result, KestoPlatform::CWnd* owner) = 0;
+    virtual bool ColourPicker(const KestoGDI::CColour* current, KestoGDI::CColour*& result,
+                              KestoPlatform::CWnd* owner) = 0;
     // Modal colour choice: a new colour, or null when cancelled.
     virtual KestoGDI::CColour* ColourPicker(const KestoGDI::CColour* current, KestoPlatform::CWnd* owner) = 0;
     // The same, opened at a screen point.

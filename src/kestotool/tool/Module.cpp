@@ -51,7 +51,8 @@ bool Module::UseLocalisedModule(const std::string& path)
         return false;
     if (const std::string problem = ModuleFileCheck::Problem(path); !problem.empty()) {
         KestoKernel::VerifyFailed("KestoTool", "Module", 1,
-                             "the localised module " + path + " is not loaded, " + problem + "; built-in texts are used");
+                                  "the localised module " + path + " is not loaded, " + problem +
+                                      "; built-in texts are used");
         return false;
     }
     void* handle = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);

@@ -42,11 +42,11 @@ std::string ModuleFileCheck::Problem(const std::string& path)
 
     std::vector<Phdr> segments(header.e_phnum);
     file.seekg(static_cast<std::streamoff>(header.e_phoff));
-    if (!file.read(reinterpret_cast<char*>(segments.data()), static_cast<std::streamsize>(segments.size() * sizeof(Phdr))))
+    if (!file.read(reinterpret_cast<char*>(segments.data()),
+                   static_cast<std::streamsize>(segments.size() * sizeof(Phdr))))
         return "its program headers cannot be read";
     for (const Phdr& segment : segments) {
-        if (segment.p_type == PT_LOAD &&
-            (segment.p_offset > size || segment.p_filesz > size - segment.p_offset))
+        if (segment.p_type == PT_LOAD && (segment.p_offset > size || segment.p_filesz > size - segment.p_offset))
             return "a loadable segment lies outside the file: it is truncated";
     }
     return {};

@@ -12,7 +12,9 @@ CPoint SiteGeometry::SnapToGrid(const CPoint& point, int grid)
 {
     if (grid <= 0)
         return point;
-    const auto toGrid = [grid](int v) { return static_cast<long long>(Kesto2D::RoundHalfAwayFromZero(static_cast<double>(v) / grid)) * grid; };
+    const auto toGrid = [grid](int v) {
+        return static_cast<long long>(Kesto2D::RoundHalfAwayFromZero(static_cast<double>(v) / grid)) * grid;
+    };
     return Kesto2D::SaturatePoint(toGrid(point.x), toGrid(point.y));
 }
 

@@ -16,9 +16,10 @@ constexpr int kLineUnknownKeyToApp = 97;
 
 void Report(int line)
 {
-    const char* hint = line == kLineNotInitialised ? "call KestoTool::Init with the command IDs granted to the library first"
-                       : line == kLineRangeFull    ? "the count is negative or no longer fits: grant KestoTool::Init a larger band"
-                                                   : "map IDs only under a key that has allocated its range";
+    const char* hint =
+        line == kLineNotInitialised ? "call KestoTool::Init with the command IDs granted to the library first"
+        : line == kLineRangeFull    ? "the count is negative or no longer fits: grant KestoTool::Init a larger band"
+                                    : "map IDs only under a key that has allocated its range";
     KestoKernel::VerifyFailed("KestoUiGdi", "ToolIdMap.cpp", line, hint);
 }
 

@@ -46,7 +46,7 @@ private:
     const Range* Find(const wchar_t* key) const;
 
     std::map<const wchar_t*, Range, std::less<>> m_ranges;
-    std::int64_t m_next = 0;  // wide: ranges may fill a grant as large as the int range
+    std::int64_t m_next = 0; // wide: ranges may fill a grant as large as the int range
     int m_base = -1;
     int m_limit = -1;
 };

@@ -13,8 +13,8 @@ namespace {
 using Available = bool (IToolHelper::*)(CFill*);
 using KindClass = const KestoPlatform::CRuntimeClass* FillKind::*;
 
-void PopulateTypeCombo(IToolHelper* helper, KestoPlatform::CXTPControl* control, KindClass kindClass, Available available,
-                       bool setDropDownCount)
+void PopulateTypeCombo(IToolHelper* helper, KestoPlatform::CXTPControl* control, KindClass kindClass,
+                       Available available, bool setDropDownCount)
 {
     auto* combo = dynamic_cast<KestoPlatform::CXTPControlComboBox*>(control);
     if (!combo)

@@ -46,9 +46,10 @@ KestoGDI::WadArchive WadManager::OpenArchiveAt(const std::wstring& path) const
 {
     KestoGDI::WadArchive archive = KestoGDI::WadArchive::Open(path.c_str());
     if (!archive.IsOpen() && !std::exchange(m_missingReported, true)) {
-        KestoKernel::VerifyFailed("KestoTool", "WadManager", 1,
-                             "the image archive " + CString(path).ToUtf8() +
-                                 " is missing or unreadable: install it beside the library; toolbar icons stay empty");
+        KestoKernel::VerifyFailed(
+            "KestoTool", "WadManager", 1,
+            "the image archive " + CString(path).ToUtf8() +
+                " is missing or unreadable: install it beside the library; toolbar icons stay empty");
     }
     return archive;
 }

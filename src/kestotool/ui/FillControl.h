@@ -1,7 +1,7 @@
 #pragma once
 
-#include "kestotool/geometry/K2DLtGeneral.h"
 #include "kestotool/gdi/IRenderTarget.h"
+#include "kestotool/geometry/K2DLtGeneral.h"
 #include "kestotool/platform/Export.h"
 #include "kestotool/ui/FillPreview.h"
 

@@ -12,9 +12,9 @@
 #include "kestotool/gdi/CFillLinear.h"
 #include "kestotool/gdi/CFillRadial.h"
 #include "kestotool/gdi/CFillWithStops.h"
+#include "kestotool/tool/ToolIdMap.h"
 #include "support/ReferenceImage.h"
 #include "support/UserInput.h"
-#include "kestotool/tool/ToolIdMap.h"
 
 #include <QApplication>
 #include <QFile>
@@ -163,7 +163,7 @@ TEST_F(KestoDrawWindow, ShapesAreDrawnAndAShapeWithoutAToolGetsALinearFillFromAD
     Step("drag 3000 2950 3600 2600");
     ASSERT_EQ(window->GetDocument().shapes.size(), 13u);
     EXPECT_EQ(window->GetDocument().shapes.back().box, KestoPlatform::CRect(3000, 2600, 3600, 2950));
-    EXPECT_EQ(window->GetCanvas().Tool(), nullptr);  // a plain colour has no tool
+    EXPECT_EQ(window->GetCanvas().Tool(), nullptr); // a plain colour has no tool
     Step("mode select");
     Step("drag 3050 2700 3550 2700");
     EXPECT_NE(dynamic_cast<const KestoGDI::CFillLinear*>(window->GetDocument().shapes.back().fill.get()), nullptr);
