@@ -387,6 +387,17 @@ TEST(Render, APaintPreparedAgainWithTheSameColoursSharesItsTable)
     recoloured.stops[1].colour.r = 7;
     EXPECT_FALSE(PreparedPaint(recoloured, {}, Output::Argb32, &first).SharesTableWith(first));
 
+    // A ramp without stops shows its colours: a new colour is a new table, and new pixels.
+    Paint stopless = linear;
+    stopless.stops.clear();
+    stopless.colours = {C(200, 10, 10)};
+    const PreparedPaint red(stopless, {}, Output::Argb32);
+    stopless.colours = {C(10, 10, 200)};
+    const PreparedPaint blue(stopless, {}, Output::Argb32, &red);
+    std::uint32_t pixel = 0;
+    Render(blue, {&pixel, 1, 1, 4, Output::Argb32}, {0, 0, 1, 1});
+    EXPECT_EQ(pixel, 0xFF0A0AC8u);
+
     // A bitmap's texels likewise, until its image or its recolouring changes.
     const Paint bitmap = PaintNamed("bitmap");
     const PreparedPaint placed(bitmap, {}, Output::Argb32);

@@ -69,6 +69,7 @@ struct Paint {
         int width = 0;
         int height = 0;
         std::vector<std::uint32_t> argb;
+        friend bool operator==(const Image&, const Image&) = default;
     };
 
     Kind kind = Kind::Solid;

@@ -33,41 +33,6 @@ std::uint32_t Shade(const Paint& paint, Output output, Rgba c)
     return output == Output::Argb32 ? ToArgb(paint, c) : ToMask(paint, c);
 }
 
-// The kinds whose colour is the ramp at a parameter: they render through the table.
-bool IsRampKind(Paint::Kind kind)
-{
-    switch (kind) {
-    case Paint::Kind::Linear:
-    case Paint::Kind::Radial:
-    case Paint::Kind::Elliptical:
-    case Paint::Kind::Conical:
-    case Paint::Kind::Square:
-    case Paint::Kind::Plasma: return true;
-    default: return false;
-    }
-}
-
-// The ramp parameter of a paint-space point for a ramp kind.
-double Parameter(const Paint& paint, const Geometry& g, const std::vector<float>& plasmaTile, Point p)
-{
-    if (paint.kind == Paint::Kind::Plasma)
-        return PlasmaValue(plasmaTile, paint.plasma.resolution, TileCoordinates(g, p, paint.mirroredTiles),
-                           paint.mirroredTiles);
-    return RampParameter(g, p);
-}
-
-// Any kind's output at a paint-space point, by the definition.
-std::uint32_t Direct(const Paint& paint, const Geometry& g, const std::vector<float>& plasmaTile, Output out, Point p)
-{
-    switch (paint.kind) {
-    case Paint::Kind::Solid: return Shade(paint, out, paint.colours.empty() ? Rgba{} : paint.colours.front());
-    case Paint::Kind::ThreeColour:
-    case Paint::Kind::FourColour: return Shade(paint, out, CornerColour(paint, CornerCoordinates(g, p)));
-    case Paint::Kind::Bitmap: return BitmapSample(paint, TileCoordinates(g, p, paint.mirroredTiles), out);
-    default: return Shade(paint, out, RampColour(paint, Parameter(paint, g, plasmaTile, p) * 10000));
-    }
-}
-
 // The clip cut to the target.
 Clip Within(const Target& target, const Clip& clip)
 {
@@ -132,31 +97,32 @@ void RunAlongAxes(const PreparedPaint& prepared, const Target& target, const Cli
     });
 }
 
-// The ramp kinds' rows through the active instruction set's kernel.
-void RenderRampRows(const PreparedPaint& prepared, const Target& target, const Clip& clip)
+// The ramp kinds' rows through the active instruction set's kernel, measured as shape does.
+bool RenderRampRows(const PreparedPaint& prepared, Kernels::RampShape shape, const Target& target, const Clip& clip)
 {
     const Geometry& g = prepared.GetGeometry();
     Kernels::RampRow row{};
+    row.shape = shape;
     row.table = prepared.Table().data();
     row.mask = target.format == Output::Mask8;
     // Measured in the kind's own axes: u along the first, v along the second.
     double ux = g.iux, uy = g.iuy, vx = g.ivx, vy = g.ivy;
-    switch (g.kind) {
-    case Paint::Kind::Linear: row.shape = Kernels::RampShape::Linear; break;
-    case Paint::Kind::Square: row.shape = Kernels::RampShape::Square; break;
-    case Paint::Kind::Conical: {
+    if (shape == Kernels::RampShape::Conical) {
         // The point turned so that C->R lies along +u, v measured anticlockwise on screen.
-        row.shape = Kernels::RampShape::Conical;
         const double cz = std::cos(g.zeroAngle), sz = std::sin(g.zeroAngle);
         ux = cz, uy = -sz, vx = -sz, vy = -cz;
-        break;
-    }
-    default: row.shape = Kernels::RampShape::Round; break;
     }
     // A degenerate ramp shows its end everywhere: linear at t = 1.
     if (g.degenerate)
         row.shape = Kernels::RampShape::Linear;
     RunAlongAxes(prepared, target, clip, row, Kernels::Active().ramp, ux, uy, vx, vy, 1.0);
+    return true;
+}
+
+template <Kernels::RampShape Shape>
+bool RenderShapedRows(const PreparedPaint& prepared, const Target& target, const Clip& clip)
+{
+    return RenderRampRows(prepared, Shape, target, clip);
 }
 
 // The mask cells (see PreparedPaint::MaskCells) of padded (w + 2) x (h + 2) mask texels.
@@ -196,7 +162,7 @@ std::vector<std::uint64_t> PlasmaCellsOf(const std::vector<float>& padded, int n
 }
 
 // The plasma kind's rows through the active instruction set's kernel.
-void RenderPlasmaRows(const PreparedPaint& prepared, const Target& target, const Clip& clip)
+bool RenderPlasmaRows(const PreparedPaint& prepared, const Target& target, const Clip& clip)
 {
     const Paint& paint = prepared.GetPaint();
     const Geometry& g = prepared.GetGeometry();
@@ -208,13 +174,16 @@ void RenderPlasmaRows(const PreparedPaint& prepared, const Target& target, const
     row.mask = target.format == Output::Mask8;
     // A degenerate tile shows its first sample everywhere, as the reference does.
     RunAlongAxes(prepared, target, clip, row, Kernels::Active().plasma, g.iux, g.iuy, g.ivx, g.ivy, 0.0);
+    return true;
 }
 
 // The four-colour kind's rows through the active instruction set's kernel.
-void RenderFourColourRows(const PreparedPaint& prepared, const Target& target, const Clip& clip)
+bool RenderFourColourRows(const PreparedPaint& prepared, const Target& target, const Clip& clip)
 {
     const Paint& paint = prepared.GetPaint();
     const Geometry& g = prepared.GetGeometry();
+    if (paint.colours.size() < 4 || g.degenerate)
+        return false;
     Kernels::QuadRow row{};
     row.mask = target.format == Output::Mask8;
     row.transparency = paint.transparency;
@@ -233,13 +202,16 @@ void RenderFourColourRows(const PreparedPaint& prepared, const Target& target, c
         row.out = out;
         Kernels::Active().fourColour(row);
     });
+    return true;
 }
 
 // The bitmap kind's rows through the active instruction set's kernel.
-void RenderBitmapRows(const PreparedPaint& prepared, const Target& target, const Clip& clip)
+bool RenderBitmapRows(const PreparedPaint& prepared, const Target& target, const Clip& clip)
 {
     const Paint& paint = prepared.GetPaint();
     const Geometry& g = prepared.GetGeometry();
+    if (prepared.Texels().empty())
+        return false;
     Kernels::BitmapRow row{};
     row.texels = prepared.Texels().data();
     row.maskCells = prepared.MaskCells().data();
@@ -250,13 +222,16 @@ void RenderBitmapRows(const PreparedPaint& prepared, const Target& target, const
     row.nearest = paint.nearest;
     row.mask = target.format == Output::Mask8;
     RunAlongAxes(prepared, target, clip, row, Kernels::Active().bitmap, g.iux, g.iuy, g.ivx, g.ivy, 0.0);
+    return true;
 }
 
 // The three-colour kind's rows through the active instruction set's kernel.
-void RenderThreeColourRows(const PreparedPaint& prepared, const Target& target, const Clip& clip)
+bool RenderThreeColourRows(const PreparedPaint& prepared, const Target& target, const Clip& clip)
 {
     const Paint& paint = prepared.GetPaint();
     const Geometry& g = prepared.GetGeometry();
+    if (paint.colours.size() < 3)
+        return false;
     Kernels::CornerRow row{};
     row.mask = target.format == Output::Mask8;
     row.transparency = paint.transparency;
@@ -271,6 +246,120 @@ void RenderThreeColourRows(const PreparedPaint& prepared, const Target& target, 
     }
     // A degenerate parallelogram shows its far corner (u = v = 1), as the reference does.
     RunAlongAxes(prepared, target, clip, row, Kernels::Active().threeColour, g.iux, g.iuy, g.ivx, g.ivy, 1.0);
+    return true;
+}
+
+// One pixel by the definition, for each family of kinds.
+using PlasmaTileRef = const std::vector<float>&;
+
+std::uint32_t DirectSolid(const Paint& paint, const Geometry&, PlasmaTileRef, Output out, Point)
+{
+    return Shade(paint, out, paint.colours.empty() ? Rgba{} : paint.colours.front());
+}
+
+std::uint32_t DirectRamp(const Paint& paint, const Geometry& g, PlasmaTileRef, Output out, Point p)
+{
+    return Shade(paint, out, RampColour(paint, RampParameter(g, p) * 10000));
+}
+
+std::uint32_t DirectPlasma(const Paint& paint, const Geometry& g, PlasmaTileRef tile, Output out, Point p)
+{
+    const double t =
+        PlasmaValue(tile, paint.plasma.resolution, TileCoordinates(g, p, paint.mirroredTiles), paint.mirroredTiles);
+    return Shade(paint, out, RampColour(paint, t * 10000));
+}
+
+std::uint32_t DirectCorners(const Paint& paint, const Geometry& g, PlasmaTileRef, Output out, Point p)
+{
+    return Shade(paint, out, CornerColour(paint, CornerCoordinates(g, p)));
+}
+
+std::uint32_t DirectBitmap(const Paint& paint, const Geometry& g, PlasmaTileRef, Output out, Point p)
+{
+    return BitmapSample(paint, TileCoordinates(g, p, paint.mirroredTiles), out);
+}
+
+// How the renderer treats a paint kind. This is the one place that decides by kind, and its
+// switch has no default: a new kind does not compile until it has a row here.
+struct KindRow {
+    // What the preparation builds: the ramp's table, the plasma's tile, the bitmap's texels.
+    bool table = false;
+    bool plasmaTile = false;
+    bool texels = false;
+    // Paints the clip's rows through the active kernels; false, or no function at all, sends
+    // the paint pixel by pixel through direct. Rows that read the table or the texels need the
+    // output they were prepared for.
+    bool (*rows)(const PreparedPaint&, const Target&, const Clip&) = nullptr;
+    bool rowsNeedPreparedOutput = false;
+    std::uint32_t (*direct)(const Paint&, const Geometry&, PlasmaTileRef, Output, Point) = nullptr;
+};
+
+constexpr KindRow RowOf(Paint::Kind kind)
+{
+    using K = Paint::Kind;
+    using S = Kernels::RampShape;
+    switch (kind) {
+    case K::Solid: return {.direct = DirectSolid};
+    case K::Linear:
+        return {
+            .table = true, .rows = RenderShapedRows<S::Linear>, .rowsNeedPreparedOutput = true, .direct = DirectRamp};
+    case K::Radial:
+    case K::Elliptical:
+        return {
+            .table = true, .rows = RenderShapedRows<S::Round>, .rowsNeedPreparedOutput = true, .direct = DirectRamp};
+    case K::Conical:
+        return {
+            .table = true, .rows = RenderShapedRows<S::Conical>, .rowsNeedPreparedOutput = true, .direct = DirectRamp};
+    case K::Square:
+        return {
+            .table = true, .rows = RenderShapedRows<S::Square>, .rowsNeedPreparedOutput = true, .direct = DirectRamp};
+    case K::ThreeColour: return {.rows = RenderThreeColourRows, .direct = DirectCorners};
+    case K::FourColour: return {.rows = RenderFourColourRows, .direct = DirectCorners};
+    case K::Plasma:
+        return {.table = true,
+                .plasmaTile = true,
+                .rows = RenderPlasmaRows,
+                .rowsNeedPreparedOutput = true,
+                .direct = DirectPlasma};
+    case K::Bitmap:
+        return {.texels = true, .rows = RenderBitmapRows, .rowsNeedPreparedOutput = true, .direct = DirectBitmap};
+    }
+    return {.direct = DirectSolid}; // a value outside the enumeration
+}
+
+// Everything the colour preparation reads of a paint, compared by content without copies: two
+// preparations with equal keys share their table, tile and texels.
+template <class T>
+struct Contents {
+    const T* value;
+    friend bool operator==(const Contents& a, const Contents& b) { return *a.value == *b.value; }
+};
+
+struct ImageContents {
+    const Paint::Image* image;
+    friend bool operator==(const ImageContents& a, const ImageContents& b)
+    {
+        return a.image == b.image || (a.image && b.image && *a.image == *b.image);
+    }
+};
+
+struct ColourKey {
+    Output output;
+    Paint::Kind kind;
+    Contents<std::vector<RampStop>> stops;
+    Contents<std::vector<Rgba>> colours;
+    bool transparency;
+    Paint::Plasma plasma;
+    ImageContents image;
+    bool recolour;
+    bool mirroredTiles;
+    friend bool operator==(const ColourKey&, const ColourKey&) = default;
+};
+
+ColourKey KeyOf(const Paint& paint, Output output)
+{
+    return {output,       paint.kind,          {&paint.stops}, {&paint.colours},   paint.transparency,
+            paint.plasma, {paint.image.get()}, paint.recolour, paint.mirroredTiles};
 }
 
 } // namespace
@@ -283,16 +372,7 @@ PreparedPaint::PreparedPaint(const Paint& paint, const Affine& paintToDevice, Ou
     // Colours that a drag does not change are shared with the previous preparation: the table,
     // the plasma tile and the bitmap's texels are built only when the colours change. Images are
     // compared by content, as a host translating its fill anew each time makes a new one.
-    const auto sameImage = [](const std::shared_ptr<const Paint::Image>& a,
-                              const std::shared_ptr<const Paint::Image>& b) {
-        return a == b || (a && b && a->width == b->width && a->height == b->height && a->argb == b->argb);
-    };
-    const bool sameColours =
-        previous && previous->m_output == output && previous->m_paint->stops == paint.stops &&
-        previous->m_paint->transparency == paint.transparency && previous->m_paint->kind == paint.kind &&
-        previous->m_paint->plasma == paint.plasma && sameImage(previous->m_paint->image, paint.image) &&
-        previous->m_paint->recolour == paint.recolour && previous->m_paint->mirroredTiles == paint.mirroredTiles;
-    if (sameColours) {
+    if (previous && KeyOf(*previous->m_paint, previous->m_output) == KeyOf(paint, output)) {
         m_table = previous->m_table;
         m_plasmaTile = previous->m_plasmaTile;
         m_plasmaCells = previous->m_plasmaCells;
@@ -300,14 +380,14 @@ PreparedPaint::PreparedPaint(const Paint& paint, const Affine& paintToDevice, Ou
         m_maskCells = previous->m_maskCells;
         return;
     }
-    m_texels = std::make_shared<const std::vector<std::uint32_t>>(
-        paint.kind == Paint::Kind::Bitmap ? PaddedTexels(paint, output) : std::vector<std::uint32_t>());
+    const KindRow kind = RowOf(paint.kind);
+    m_texels = std::make_shared<const std::vector<std::uint32_t>>(kind.texels ? PaddedTexels(paint, output)
+                                                                              : std::vector<std::uint32_t>());
     m_maskCells = std::make_shared<const std::vector<std::uint32_t>>(
         output == Output::Mask8 && !m_texels->empty() ? MaskCellsOf(*m_texels, paint.image->width, paint.image->height)
                                                       : std::vector<std::uint32_t>());
-    if (paint.kind == Paint::Kind::Plasma) {
-        const bool same =
-            previous && previous->m_paint->kind == Paint::Kind::Plasma && previous->m_paint->plasma == paint.plasma;
+    if (kind.plasmaTile) {
+        const bool same = previous && previous->m_plasmaTile && previous->m_paint->plasma == paint.plasma;
         m_plasmaTile = same ? previous->m_plasmaTile
                             : std::make_shared<const std::vector<float>>(Shading::PlasmaTile(paint.plasma));
         const int n = Shading::PlasmaResolution(paint.plasma);
@@ -315,7 +395,7 @@ PreparedPaint::PreparedPaint(const Paint& paint, const Affine& paintToDevice, Ou
             PlasmaCellsOf(Shading::PadTile(*m_plasmaTile, n, n, paint.mirroredTiles), n));
     }
     auto table = std::make_shared<std::vector<std::uint32_t>>();
-    if (IsRamp()) {
+    if (kind.table) {
         table->resize(TableSize);
         for (int i = 0; i < TableSize; ++i)
             (*table)[i] = Shade(paint, output, RampColour(paint, i * 10000.0 / (TableSize - 1)));
@@ -342,44 +422,30 @@ const Geometry& PreparedPaint::GetGeometry() const
 
 bool PreparedPaint::IsRamp() const
 {
-    return IsRampKind(m_paint->kind);
+    return RowOf(m_paint->kind).table;
 }
 
 void Render(const PreparedPaint& prepared, const Target& target, const Clip& clip)
 {
     const Paint& paint = prepared.GetPaint();
+    const KindRow kind = RowOf(paint.kind);
+    const bool rowsApply = kind.rows && (!kind.rowsNeedPreparedOutput || target.format == prepared.GetOutput());
+    if (rowsApply && kind.rows(prepared, target, clip))
+        return;
     const Geometry& g = prepared.GetGeometry();
-    const Output out = target.format;
     const std::vector<float>& tile = prepared.PlasmaTile();
-    if (prepared.IsRamp() && out == prepared.GetOutput()) {
-        if (paint.kind == Paint::Kind::Plasma)
-            RenderPlasmaRows(prepared, target, clip);
-        else
-            RenderRampRows(prepared, target, clip);
-        return;
-    }
-    if (paint.kind == Paint::Kind::ThreeColour && paint.colours.size() >= 3) {
-        RenderThreeColourRows(prepared, target, clip);
-        return;
-    }
-    if (paint.kind == Paint::Kind::Bitmap && !prepared.Texels().empty() && out == prepared.GetOutput()) {
-        RenderBitmapRows(prepared, target, clip);
-        return;
-    }
-    if (paint.kind == Paint::Kind::FourColour && paint.colours.size() >= 4 && !g.degenerate) {
-        RenderFourColourRows(prepared, target, clip);
-        return;
-    }
-    ForEachPixel(target, clip, prepared.DeviceToPaint(), [&](Point p) { return Direct(paint, g, tile, out, p); });
+    ForEachPixel(target, clip, prepared.DeviceToPaint(),
+                 [&](Point p) { return kind.direct(paint, g, tile, target.format, p); });
 }
 
 void RenderReference(const Paint& paint, const Affine& paintToDevice, const Target& target, const Clip& clip)
 {
     const Geometry g = Solve(paint);
     const std::vector<float> tile =
-        paint.kind == Paint::Kind::Plasma ? Shading::PlasmaTile(paint.plasma) : std::vector<float>();
+        RowOf(paint.kind).plasmaTile ? Shading::PlasmaTile(paint.plasma) : std::vector<float>();
+    const KindRow kind = RowOf(paint.kind);
     ForEachPixel(target, clip, paintToDevice.Inverse(),
-                 [&](Point p) { return Direct(paint, g, tile, target.format, p); });
+                 [&](Point p) { return kind.direct(paint, g, tile, target.format, p); });
 }
 
 } // namespace KestoRaster

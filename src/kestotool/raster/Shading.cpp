@@ -131,7 +131,12 @@ double RampParameter(const Geometry& g, Point p)
         t = std::abs(a) / std::numbers::pi;
         break;
     }
-    default: break;
+    // Not measured along a ramp.
+    case Paint::Kind::Solid:
+    case Paint::Kind::ThreeColour:
+    case Paint::Kind::FourColour:
+    case Paint::Kind::Plasma:
+    case Paint::Kind::Bitmap: break;
     }
     return std::isfinite(t) ? std::clamp(t, 0.0, 1.0) : 1.0;
 }
