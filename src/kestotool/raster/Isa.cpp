@@ -10,19 +10,9 @@ namespace KestoRaster {
 
 namespace {
 
-Isa Best()
-{
-    if (__builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512bw") && __builtin_cpu_supports("avx512vl") &&
-        __builtin_cpu_supports("avx512dq") && __builtin_cpu_supports("avx512vbmi"))
-        return Isa::Avx512;
-    if (__builtin_cpu_supports("avx2") && __builtin_cpu_supports("fma"))
-        return Isa::Avx2;
-    return Isa::Scalar;
-}
-
 Isa Chosen()
 {
-    const Isa best = Best();
+    const Isa best = Kernels::BestIsa();
     const char* asked = std::getenv("KESTO_RASTER_ISA");
     if (!asked)
         return best;
@@ -43,7 +33,7 @@ Isa& Active()
 
 bool IsaAvailable(Isa isa)
 {
-    return static_cast<int>(isa) <= static_cast<int>(Best());
+    return static_cast<int>(isa) <= static_cast<int>(Kernels::BestIsa());
 }
 
 Isa ActiveIsa()
@@ -72,12 +62,7 @@ namespace Kernels {
 
 const KernelSet& Active()
 {
-    switch (ActiveIsa()) {
-    case Isa::Avx512: return Avx512();
-    case Isa::Avx2: return Avx2();
-    case Isa::Scalar: break;
-    }
-    return Scalar();
+    return ForIsa(ActiveIsa());
 }
 
 } // namespace Kernels

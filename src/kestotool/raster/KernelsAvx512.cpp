@@ -1,13 +1,17 @@
 // The row kernels built for this translation unit's instruction set (see Kernels_p.h).
 #include "kestotool/raster/Kernels_p.h"
 
-#include "kestotool/raster/KernelsImpl.inc"
+#include "kestotool/raster/KernelsSimd_p.h"
+
+#include "kestotool/raster/KernelsRows.inc"
+
+#include "kestotool/raster/KernelsAvx512Paths.inc"
 
 namespace KestoRaster::Kernels {
 
 const KernelSet& Avx512()
 {
-    return kSet;
+    return KernelSetWith<Avx512Paths>;
 }
 
 } // namespace KestoRaster::Kernels

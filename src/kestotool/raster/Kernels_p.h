@@ -1,8 +1,10 @@
 #pragma once
 
-// The per-ISA row kernels. Each kernel translation unit compiles KernelsImpl.inc with its own
-// instruction-set flags inside a namespace of its own; nothing else is shared with it, so no
-// inline function compiled for a wider instruction set can stand in for another unit's copy.
+// The per-ISA row kernels. Each kernel translation unit (KernelsScalar.cpp, KernelsAvx2.cpp,
+// KernelsAvx512.cpp) compiles the primitives (KernelsSimd_p.h) and the rows (KernelsRows.inc)
+// with its own instruction-set flags inside an unnamed namespace; nothing else is shared with
+// it, so no inline function compiled for a wider instruction set can stand in for another
+// unit's copy. Only x86 builds have the AVX units.
 #include "kestotool/raster/Isa.h"
 
 #include <cstdint>
@@ -104,8 +106,13 @@ struct KernelSet {
 };
 
 const KernelSet& Scalar();
-const KernelSet& Avx2();
-const KernelSet& Avx512();
+const KernelSet& Avx2();   // x86 builds only
+const KernelSet& Avx512(); // x86 builds only
 const KernelSet& Active();
+
+// What the build's architecture offers (IsaX86.cpp, or IsaPortable.cpp elsewhere): the widest
+// instruction set this processor runs, and the kernels of an available one.
+Isa BestIsa();
+const KernelSet& ForIsa(Isa isa);
 
 } // namespace KestoRaster::Kernels
