@@ -4,6 +4,7 @@
 #include "kestotool/gdi/CRecordingRenderContext.h"
 #include "kestotool/gdi/CRecordingRenderTarget.h"
 #include "kestotool/gdi/CTransparencyLinear.h"
+#include "kestotool/kernel/VerifyReporter.h"
 #include "support/TestToolSite.h"
 
 #include <gtest/gtest.h>
@@ -13,12 +14,19 @@ using Lines = std::vector<std::string>;
 
 namespace {
 
-// Opens the drawing helpers to the tests.
+// Opens the drawing helpers to the tests; its scene is a highlighted line and a handle.
 class DrawingTool : public FillTool {
 public:
     using FillTool::DrawBoxControl;
     using FillTool::DrawControlLine;
     using FillTool::FillTool;
+
+protected:
+    void BuildHandleScene(HandleScene& scene) const override
+    {
+        scene.AddLine(CPoint(0, 0), CPoint(10, 0), true);
+        scene.AddHandle(CPoint(10, 0), 0x00FF00ul, -1);
+    }
 };
 
 class DrawingTest : public testing::Test {
@@ -94,6 +102,7 @@ TEST_F(DrawingTest, PointsGoThroughTheViewTransformOfTheLastDraw)
     view += Kesto2D::K2DLtScale(2, 2);
     view += Kesto2D::K2DLtTranslate(100, 0);
     tool.Draw(&target, false, view);
+    target.Clear();
     tool.DrawControlLine(&target, false, CPoint(0, 0), CPoint(10, 5), false);
     EXPECT_EQ(target.Log(), (Lines{
                                 "line (100,0)(120,10) pen=FFFFFF/192/3",
@@ -116,6 +125,26 @@ TEST_F(DrawingTest, ControlLineHaloWidensOnlyForAHighlightedLineWithAGhostNode)
                                 "line (0,0)(10,0) pen=FFFFFF/192/3",
                                 "line (0,0)(10,0) pen=FF0000/255/1",
                             }));
+}
+
+TEST_F(DrawingTest, TheSceneShowsItsHighlightOnTheTargetAloneAndANullTargetIsReported)
+{
+    CPoint where;
+    tool.SetGhostNode(where, nullptr);
+    tool.Draw(&target, false, K2DLtGeneral());
+    KestoGDI::CRecordingRenderContext context(1.0);
+    tool.Draw(&context);
+    ASSERT_EQ(target.Log().size(), 4u);
+    EXPECT_EQ(target.Log()[0], "line (0,0)(10,0) pen=FFFFFF/192/6");
+    EXPECT_EQ(target.Log()[3], "disc (10,0) r=4 fill=00FF00/255 pen=FF0000/255/1");
+    ASSERT_EQ(context.Log().size(), 4u);
+    EXPECT_EQ(context.Log()[0], "line (0,0)(10,0) pen=FFFFFF/192/3");
+
+    std::vector<int> reports;
+    KestoKernel::ScopedVerifyHandler handler{[&](const KestoKernel::VerifyReport& r) { reports.push_back(r.line); }};
+    tool.Draw(static_cast<KestoGDI::IRenderTarget*>(nullptr), false, K2DLtGeneral());
+    tool.Draw(static_cast<KestoGDI::CRenderContext*>(nullptr));
+    EXPECT_EQ(reports.size(), 2u);
 }
 
 TEST_F(DrawingTest, OutlineOnlyLinesDrawTheHaloAlone)

@@ -164,11 +164,6 @@ bool FillTool::OnTintChanged(int)
 {
     return false;
 }
-void FillTool::Draw(IRenderTarget*, bool, const K2DLtGeneral& view) const
-{
-    m_viewTransform = view;
-}
-void FillTool::Draw(CRenderContext*) const {}
 void FillTool::OnKeyDown(unsigned int, unsigned int, unsigned int) {}
 CRect FillTool::GetToolRect(const CFill*)
 {

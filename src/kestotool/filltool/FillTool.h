@@ -1,5 +1,6 @@
 #pragma once
 
+#include "kestotool/filltool/HandleScene.h"
 #include "kestotool/gdi/CColour.h"
 #include "kestotool/gdi/CFill.h"
 #include "kestotool/gdi/CRenderContext.h"
@@ -81,7 +82,9 @@ public:
     virtual bool OnFillCellChanged(const CColour* colour);
     virtual bool OnAlphaCellChanged(unsigned char alpha);
     virtual bool OnTintChanged(int tint);
-    // The base remembers the view transform for the drawing helpers.
+    // Draws the tool's handle scene (BuildHandleScene): on the render target after remembering
+    // the view transform for the drawing helpers, or on the render context, which shows no
+    // highlight and never outline-only. A null target or context is reported.
     virtual void Draw(IRenderTarget* target, bool outlineOnly, const K2DLtGeneral& view) const;
     virtual void Draw(CRenderContext* context) const;
     virtual void OnKeyDown(unsigned int key, unsigned int repeat, unsigned int flags);
@@ -227,6 +230,9 @@ protected:
     // The hint line for the case at hand: the selection's description followed by the text of
     // fillStringId or transparencyStringId (-1 for no hint). False, out untouched, without one.
     bool ComposeHintLine(CString* out, int fillStringId, int transparencyStringId) const;
+
+    // The control lines and handles the tool shows, in drawing order; the base shows nothing.
+    virtual void BuildHandleScene(HandleScene& scene) const;
 
     // Handle and control-line drawing, in document units mapped through the view transform.
     void DrawBoxControl(IRenderTarget* target, bool outlineOnly, const CPoint& point, unsigned long colour,

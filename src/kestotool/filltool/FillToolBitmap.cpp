@@ -9,6 +9,10 @@ KESTO_IMPLEMENT_DYNAMIC(FillToolBitmap, FillToolGradient)
 
 namespace {
 
+// The numbers this file reports its broken preconditions with.
+constexpr int kReportDragStartWithoutFill = 25;
+constexpr int kReportDrawWithoutFill = 99;
+
 // The tile's handles place it; they show no colour of their own.
 constexpr unsigned long kHandleColour = 0xFFFFFF;
 
@@ -22,7 +26,7 @@ int FillToolBitmap::GradientIndex(int handle) const
 void FillToolBitmap::OnDragStart(CPoint& point, unsigned int flags)
 {
     if (!GetFill()) {
-        ReportNoFill(__LINE__);
+        ReportNoFill(kReportDragStartWithoutFill);
         return;
     }
     FillTool::OnDragStart(point, flags);
@@ -92,37 +96,20 @@ void FillToolBitmap::OnDragChange(CPoint& point, unsigned int flags)
     SetPoints(moved);
 }
 
-void FillToolBitmap::Draw(IRenderTarget* target, bool outlineOnly, const K2DLtGeneral& view) const
+void FillToolBitmap::BuildHandleScene(HandleScene& scene) const
 {
     Points p;
-    if (!target || !GetPoints(nullptr, p)) {
-        ReportNoFill(__LINE__);
+    if (!GetPoints(nullptr, p)) {
+        ReportNoFill(kReportDrawWithoutFill);
         return;
     }
-    FillTool::Draw(target, outlineOnly, view);
-    DrawControlLine(target, outlineOnly, CornerParallelogram(p.p0, p.p1, p.p2), false);
-    DrawControlLine(target, outlineOnly, p.p0, p.p1, true);
-    DrawControlLine(target, outlineOnly, p.p0, p.p2, true);
+    scene.AddPolyline(CornerParallelogram(p.p0, p.p1, p.p2), false);
+    scene.AddLine(p.p0, p.p1, true);
+    scene.AddLine(p.p0, p.p2, true);
     K2DArrayPoint handles;
     BaseGetHandles(&handles);
     for (int i = 0; i < handles.GetSize(); ++i)
-        DrawBoxControl(target, outlineOnly, handles.GetAt(i), kHandleColour, i);
-}
-
-void FillToolBitmap::Draw(CRenderContext* context) const
-{
-    Points p;
-    if (!context || !GetPoints(nullptr, p)) {
-        ReportNoFill(__LINE__);
-        return;
-    }
-    DrawControlLine(context, CornerParallelogram(p.p0, p.p1, p.p2), false);
-    DrawControlLine(context, p.p0, p.p1, false);
-    DrawControlLine(context, p.p0, p.p2, false);
-    K2DArrayPoint handles;
-    BaseGetHandles(&handles);
-    for (int i = 0; i < handles.GetSize(); ++i)
-        DrawBoxControl(context, handles.GetAt(i), kHandleColour, i);
+        scene.AddHandle(handles.GetAt(i), kHandleColour, i);
 }
 
 void FillToolBitmap::BaseGetHandles(K2DArrayPoint* handles) const

@@ -18,8 +18,7 @@ public:
 
     void OnDragStart(CPoint& point, unsigned int flags) override;
     void OnDragChange(CPoint& point, unsigned int flags) override;
-    void Draw(IRenderTarget* target, bool outlineOnly, const K2DLtGeneral& view) const override;
-    void Draw(CRenderContext* context) const override;
+    void BuildHandleScene(HandleScene& scene) const override;
     void BaseGetHandles(K2DArrayPoint* handles) const override;
     // While the P2 handle is current, every handle edits the last stop.
     int GradientIndex(int handle) const override;

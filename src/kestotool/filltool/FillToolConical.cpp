@@ -80,38 +80,19 @@ void FillToolConical::OnDragChange(CPoint& point, unsigned int flags)
     }
 }
 
-void FillToolConical::Draw(IRenderTarget* target, bool outlineOnly, const K2DLtGeneral& view) const
-{
-    FillTool::Draw(target, outlineOnly, view);
-    CPoint c, r;
-    if (!GetSweep(nullptr, c, r))
-        return;
-    DrawControlLine(target, outlineOnly, c, r, true);
-    const KCAngle start = KCAngle::DirectionOf(static_cast<double>(r.x) - c.x, static_cast<double>(r.y) - c.y);
-    DrawControlLine(
-        target, outlineOnly,
-        K2DCurve::Arc(K2DDblPoint(c), Kesto2D::K2DGeometry::CalcDist(c, r), start, KCAngle(KCAngle::HalfCircle)),
-        false);
-    const KestoGDI::ColourIntPairs& stops = GetGradientNodes();
-    for (int i = 0; i < stops.GetSize(); ++i)
-        DrawBoxControl(target, outlineOnly, StopPoint(c, r, stops.GetAt(i)->GetValue()), &stops.GetAt(i)->GetColour(),
-                       i);
-}
-
-void FillToolConical::Draw(CRenderContext* context) const
+void FillToolConical::BuildHandleScene(HandleScene& scene) const
 {
     CPoint c, r;
     if (!GetSweep(nullptr, c, r))
         return;
-    DrawControlLine(context, c, r, false);
+    scene.AddLine(c, r, true);
     const KCAngle start = KCAngle::DirectionOf(static_cast<double>(r.x) - c.x, static_cast<double>(r.y) - c.y);
-    DrawControlLine(
-        context,
+    scene.AddCurve(
         K2DCurve::Arc(K2DDblPoint(c), Kesto2D::K2DGeometry::CalcDist(c, r), start, KCAngle(KCAngle::HalfCircle)),
         false);
     const KestoGDI::ColourIntPairs& stops = GetGradientNodes();
     for (int i = 0; i < stops.GetSize(); ++i)
-        DrawBoxControl(context, StopPoint(c, r, stops.GetAt(i)->GetValue()), stops.GetAt(i)->GetColour().GetRGB(), i);
+        scene.AddHandle(StopPoint(c, r, stops.GetAt(i)->GetValue()), &stops.GetAt(i)->GetColour(), i);
 }
 
 CRect FillToolConical::GetFillRect(const CFill* fill)

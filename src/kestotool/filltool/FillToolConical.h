@@ -20,8 +20,7 @@ public:
 
     void OnDragStart(CPoint& point, unsigned int flags) override;
     void OnDragChange(CPoint& point, unsigned int flags) override;
-    void Draw(IRenderTarget* target, bool outlineOnly, const K2DLtGeneral& view) const override;
-    void Draw(CRenderContext* context) const override;
+    void BuildHandleScene(HandleScene& scene) const override;
     // A rectangle of r x r centred on C, r the distance C-R.
     CRect GetFillRect(const CFill* fill) override;
     // The rectangle (C, R), not normalised.

@@ -1,9 +1,12 @@
-// FillTool's handle and control-line drawing on both render paths.
+// FillTool's drawing: a tool's handle scene emitted on either render path, handle by handle and
+// line by line.
 #include "kestotool/filltool/FillTool.h"
 
 #include "kestotool/geometry/Rounding.h"
+#include "kestotool/kernel/VerifyReporter.h"
 
 #include <optional>
+#include <variant>
 #include <vector>
 
 namespace KestoTool {
@@ -11,6 +14,10 @@ namespace {
 
 using KestoGDI::RenderBrush;
 using KestoGDI::RenderPen;
+
+// The numbers this file reports its broken preconditions with.
+constexpr int kReportDrawWithoutTarget = 172;
+constexpr int kReportDrawWithoutContext = 173;
 
 constexpr COLORREF kHaloColour = 0xFFFFFF;
 constexpr int kHaloAlpha = 192;
@@ -87,7 +94,56 @@ K2DArrayPoint Mapped(const K2DArrayPoint& points, const K2DLtGeneral& t)
     return mapped;
 }
 
+template <class... Ts>
+struct Overloaded : Ts... {
+    using Ts::operator()...;
+};
+
 } // namespace
+
+void FillTool::BuildHandleScene(HandleScene&) const {}
+
+void FillTool::Draw(IRenderTarget* target, bool outlineOnly, const K2DLtGeneral& view) const
+{
+    m_viewTransform = view;
+    if (!target) {
+        KestoKernel::VerifyFailed("KestoTool", "FillTool", kReportDrawWithoutTarget, "pass a render target");
+        return;
+    }
+    HandleScene scene;
+    BuildHandleScene(scene);
+    for (const HandleScene::Item& item : scene.Items()) {
+        std::visit(
+            Overloaded{
+                [&](const HandleScene::Line& l) { DrawControlLine(target, outlineOnly, l.a, l.b, l.highlight); },
+                [&](const HandleScene::Curve& c) {
+                    DrawControlLine(target, outlineOnly, K2DCurve(c.curve), c.highlight);
+                },
+                [&](const HandleScene::Polyline& p) { DrawControlLine(target, outlineOnly, p.points, p.highlight); },
+                [&](const HandleScene::Handle& h) { DrawBoxControl(target, outlineOnly, h.at, h.colour, h.index); },
+            },
+            item);
+    }
+}
+
+void FillTool::Draw(CRenderContext* context) const
+{
+    if (!context) {
+        KestoKernel::VerifyFailed("KestoTool", "FillTool", kReportDrawWithoutContext, "pass a render context");
+        return;
+    }
+    HandleScene scene;
+    BuildHandleScene(scene);
+    for (const HandleScene::Item& item : scene.Items()) {
+        std::visit(Overloaded{
+                       [&](const HandleScene::Line& l) { DrawControlLine(context, l.a, l.b, false); },
+                       [&](const HandleScene::Curve& c) { DrawControlLine(context, K2DCurve(c.curve), false); },
+                       [&](const HandleScene::Polyline& p) { DrawControlLine(context, p.points, false); },
+                       [&](const HandleScene::Handle& h) { DrawBoxControl(context, h.at, h.colour, h.index); },
+                   },
+                   item);
+    }
+}
 
 void FillTool::DrawBoxControl(IRenderTarget* target, bool outlineOnly, const CPoint& point, unsigned long colour,
                               int index) const

@@ -103,29 +103,15 @@ void FillToolElliptical::OnDragChange(CPoint& point, unsigned int flags)
     SetAxes(moved);
 }
 
-void FillToolElliptical::Draw(IRenderTarget* target, bool outlineOnly, const K2DLtGeneral& view) const
-{
-    FillTool::Draw(target, outlineOnly, view);
-    Axes a;
-    if (!GetAxes(nullptr, a))
-        return;
-    DrawControlLine(target, outlineOnly, a.centre, a.end, true);
-    DrawControlLine(target, outlineOnly, a.centre, a.shape, true);
-    DrawControlLine(target, outlineOnly,
-                    K2DCurve::Circle(K2DDblPoint(a.centre), kUnitRadius).Transformed(CircleToEllipse(a)), false);
-    DrawControlBoxes(target, outlineOnly);
-}
-
-void FillToolElliptical::Draw(CRenderContext* context) const
+void FillToolElliptical::BuildHandleScene(HandleScene& scene) const
 {
     Axes a;
     if (!GetAxes(nullptr, a))
         return;
-    DrawControlLine(context, a.centre, a.end, false);
-    DrawControlLine(context, a.centre, a.shape, false);
-    DrawControlLine(context, K2DCurve::Circle(K2DDblPoint(a.centre), kUnitRadius).Transformed(CircleToEllipse(a)),
-                    false);
-    DrawControlBoxes(context);
+    scene.AddLine(a.centre, a.end, true);
+    scene.AddLine(a.centre, a.shape, true);
+    scene.AddCurve(K2DCurve::Circle(K2DDblPoint(a.centre), kUnitRadius).Transformed(CircleToEllipse(a)), false);
+    AddControlBoxes(scene);
 }
 
 CRect FillToolElliptical::GetFillRect(const CFill* fill)

@@ -12,6 +12,14 @@ KESTO_IMPLEMENT_DYNAMIC(FillToolFourColour, FillToolGradient)
 
 namespace {
 
+// The numbers this file reports its broken preconditions with.
+constexpr int kReportDragStartWithoutFill = 65;
+constexpr int kReportDragWithoutCorner = 139;
+constexpr int kReportDrawWithoutFill = 147;
+constexpr int kReportFillRectWithoutFill = 167;
+constexpr int kReportSizeWithoutFill = 196;
+constexpr int kReportBBoxWithoutFill = 208;
+
 constexpr const char* kModule = "FillToolFourColour";
 
 void ReportNoFill(int line)
@@ -62,7 +70,7 @@ void FillToolFourColour::SetCorners(const Corners& c)
 void FillToolFourColour::OnDragStart(CPoint& point, unsigned int flags)
 {
     if (!GetFill()) {
-        ReportNoFill(__LINE__);
+        ReportNoFill(kReportDragStartWithoutFill);
         return;
     }
     FillTool::OnDragStart(point, flags);
@@ -136,35 +144,26 @@ void FillToolFourColour::OnDragChange(CPoint& point, unsigned int flags)
         moved.p2 = OnEdge(s.p0, s.p2, corner, K2DDblPoint(s.p2) + d, s.p2);
         moved.p1 = OnEdge(s.p0, s.p1, corner, K2DDblPoint(s.p1) + d, s.p1);
     } else {
-        KestoKernel::VerifyFailed("KestoTool", kModule, __LINE__, "a drag needs a corner handle as the current node");
+        KestoKernel::VerifyFailed("KestoTool", kModule, kReportDragWithoutCorner,
+                                  "a drag needs a corner handle as the current node");
     }
     SetCorners(moved);
 }
 
-void FillToolFourColour::Draw(IRenderTarget* target, bool outlineOnly, const K2DLtGeneral& view) const
+void FillToolFourColour::BuildHandleScene(HandleScene& scene) const
 {
-    if (!target || !GetFill()) {
-        ReportNoFill(__LINE__);
+    if (!GetFill()) {
+        ReportNoFill(kReportDrawWithoutFill);
         return;
     }
-    FillTool::Draw(target, outlineOnly, view);
-    DrawCorners(target, outlineOnly);
-}
-
-void FillToolFourColour::Draw(CRenderContext* context) const
-{
-    if (!context || !GetFill()) {
-        ReportNoFill(__LINE__);
-        return;
-    }
-    DrawCorners(context);
+    AddCorners(scene);
 }
 
 CRect FillToolFourColour::GetFillRect(const CFill* fill)
 {
     Corners c;
     if (!fill && !GetFill()) {
-        ReportNoFill(__LINE__);
+        ReportNoFill(kReportFillRectWithoutFill);
         return {};
     }
     if (!GetCorners(fill, c))
@@ -193,7 +192,7 @@ bool FillToolFourColour::CheckSize() const
 {
     Corners c;
     if (!GetFill()) {
-        ReportNoFill(__LINE__);
+        ReportNoFill(kReportSizeWithoutFill);
         return false;
     }
     using Kesto2D::K2DGeometry::IDist;
@@ -205,7 +204,7 @@ K2DArrayPoint FillToolFourColour::GetEffectiveBBox(const CFill* fill)
     Corners c;
     K2DArrayPoint outline;
     if (!fill && !GetFill()) {
-        ReportNoFill(__LINE__);
+        ReportNoFill(kReportBBoxWithoutFill);
         return outline;
     }
     if (!GetCorners(fill, c))

@@ -508,60 +508,32 @@ const CColour* FillToolGradient::HandleColour(int handle) const
     return entry == 0 ? GetGradientColour(0) : entry == 1 ? GetGradientColour(stops - 1) : nullptr;
 }
 
-void FillToolGradient::DrawControlBoxes(IRenderTarget* target, bool outlineOnly) const
+void FillToolGradient::AddControlBoxes(HandleScene& scene) const
 {
     K2DArrayPoint handles;
     BaseGetHandles(&handles);
     for (int i = 0; i < handles.GetSize(); ++i) {
         if (const CColour* colour = HandleColour(i))
-            DrawBoxControl(target, outlineOnly, handles.GetAt(i), colour, i);
+            scene.AddHandle(handles.GetAt(i), colour, i);
     }
 }
 
-void FillToolGradient::DrawControlBoxes(CRenderContext* context) const
-{
-    K2DArrayPoint handles;
-    BaseGetHandles(&handles);
-    for (int i = 0; i < handles.GetSize(); ++i) {
-        if (const CColour* colour = HandleColour(i))
-            DrawBoxControl(context, handles.GetAt(i), colour->GetRGB(), i);
-    }
-}
-
-void FillToolGradient::DrawHandleOutline(IRenderTarget* target, bool outlineOnly) const
+void FillToolGradient::AddHandleOutline(HandleScene& scene) const
 {
     K2DArrayPoint handles;
     BaseGetHandles(&handles);
     handles.AddClose(0);
-    DrawControlLine(target, outlineOnly, handles, true);
+    scene.AddPolyline(std::move(handles), true);
 }
 
-void FillToolGradient::DrawHandleOutline(CRenderContext* context) const
+void FillToolGradient::AddCorners(HandleScene& scene) const
 {
-    K2DArrayPoint handles;
-    BaseGetHandles(&handles);
-    handles.AddClose(0);
-    DrawControlLine(context, handles, false);
-}
-
-void FillToolGradient::DrawCorners(IRenderTarget* target, bool outlineOnly) const
-{
-    DrawHandleOutline(target, outlineOnly);
+    AddHandleOutline(scene);
     K2DArrayPoint handles;
     BaseGetHandles(&handles);
     const ColourIntPairs& nodes = GetGradientNodes();
     for (int i = 0; i < std::min(handles.GetSize(), nodes.GetSize()); ++i)
-        DrawBoxControl(target, outlineOnly, handles.GetAt(i), &nodes.GetAt(i)->GetColour(), i);
-}
-
-void FillToolGradient::DrawCorners(CRenderContext* context) const
-{
-    DrawHandleOutline(context);
-    K2DArrayPoint handles;
-    BaseGetHandles(&handles);
-    const ColourIntPairs& nodes = GetGradientNodes();
-    for (int i = 0; i < std::min(handles.GetSize(), nodes.GetSize()); ++i)
-        DrawBoxControl(context, handles.GetAt(i), nodes.GetAt(i)->GetColour().GetRGB(), i);
+        scene.AddHandle(handles.GetAt(i), &nodes.GetAt(i)->GetColour(), i);
 }
 
 void FillToolGradient::InitContextButtons(CXTPCommandBars* bars)

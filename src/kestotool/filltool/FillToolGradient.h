@@ -58,15 +58,13 @@ public:
     int AddGradientNode(int position);
     bool CanDeleteCurrentNode() const;
     void DeleteCurrentNode() { DeleteGradientNode(GetCurrentNode()); }
-    void DrawControlBoxes(CRenderContext* context) const;
-    void DrawControlBoxes(IRenderTarget* target, bool outlineOnly) const;
+    // A box per handle that shows a stop, in the stop's colour.
+    void AddControlBoxes(HandleScene& scene) const;
     // A closed control line through the handles in handle order.
-    void DrawHandleOutline(IRenderTarget* target, bool outlineOnly) const;
-    void DrawHandleOutline(CRenderContext* context) const;
+    void AddHandleOutline(HandleScene& scene) const;
     // The corner tools' handles: the closed line through them, then a box per node-list entry i
     // at handle i in entry i's colour (their node list holds one colour per corner).
-    void DrawCorners(IRenderTarget* target, bool outlineOnly) const;
-    void DrawCorners(CRenderContext* context) const;
+    void AddCorners(HandleScene& scene) const;
     // Gives the fill its default placement over the object; with max, a bitmap fill grows the
     // box to the bitmap's proportions so that it still covers the object.
     void FitToShape(bool max);

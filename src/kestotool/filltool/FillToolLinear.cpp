@@ -100,27 +100,15 @@ void FillToolLinear::OnDragChange(CPoint& point, unsigned int flags)
     }
 }
 
-void FillToolLinear::Draw(IRenderTarget* target, bool outlineOnly, const K2DLtGeneral& view) const
-{
-    FillTool::Draw(target, outlineOnly, view);
-    CPoint s, e;
-    if (!GetLine(nullptr, s, e))
-        return;
-    DrawControlLine(target, outlineOnly, s, e, true);
-    const KestoGDI::ColourIntPairs& stops = GetGradientNodes();
-    for (int i = 0; i < stops.GetSize(); ++i)
-        DrawBoxControl(target, outlineOnly, stops.GetAt(i)->GetValue(s, e), &stops.GetAt(i)->GetColour(), i);
-}
-
-void FillToolLinear::Draw(CRenderContext* context) const
+void FillToolLinear::BuildHandleScene(HandleScene& scene) const
 {
     CPoint s, e;
     if (!GetLine(nullptr, s, e))
         return;
-    DrawControlLine(context, s, e, false);
+    scene.AddLine(s, e, true);
     const KestoGDI::ColourIntPairs& stops = GetGradientNodes();
     for (int i = 0; i < stops.GetSize(); ++i)
-        DrawBoxControl(context, stops.GetAt(i)->GetValue(s, e), stops.GetAt(i)->GetColour().GetRGB(), i);
+        scene.AddHandle(stops.GetAt(i)->GetValue(s, e), &stops.GetAt(i)->GetColour(), i);
 }
 
 CRect FillToolLinear::GetFillRect(const CFill* fill)

@@ -9,6 +9,10 @@ KESTO_IMPLEMENT_DYNAMIC(FillToolPlasma, FillToolGradient)
 
 namespace {
 
+// The numbers this file reports its broken preconditions with.
+constexpr int kReportDragStartWithoutFill = 20;
+constexpr int kReportDrawWithoutFill = 94;
+
 // The colour the tile arm's handle is drawn in: it edits no stop.
 constexpr unsigned long kArmHandleColour = 0xFFFFFF;
 
@@ -17,7 +21,7 @@ constexpr unsigned long kArmHandleColour = 0xFFFFFF;
 void FillToolPlasma::OnDragStart(CPoint& point, unsigned int flags)
 {
     if (!GetFill()) {
-        ReportNoFill(__LINE__);
+        ReportNoFill(kReportDragStartWithoutFill);
         return;
     }
     FillTool::OnDragStart(point, flags);
@@ -87,29 +91,16 @@ void FillToolPlasma::OnDragChange(CPoint& point, unsigned int flags)
     SetPoints(moved);
 }
 
-void FillToolPlasma::Draw(IRenderTarget* target, bool outlineOnly, const K2DLtGeneral& view) const
+void FillToolPlasma::BuildHandleScene(HandleScene& scene) const
 {
     Points p;
-    if (!target || !GetPoints(nullptr, p)) {
-        ReportNoFill(__LINE__);
+    if (!GetPoints(nullptr, p)) {
+        ReportNoFill(kReportDrawWithoutFill);
         return;
     }
-    FillTool::Draw(target, outlineOnly, view);
-    DrawHandleOutline(target, outlineOnly);
-    DrawControlBoxes(target, outlineOnly);
-    DrawBoxControl(target, outlineOnly, p.p2, kArmHandleColour, GetNodeCount());
-}
-
-void FillToolPlasma::Draw(CRenderContext* context) const
-{
-    Points p;
-    if (!context || !GetPoints(nullptr, p)) {
-        ReportNoFill(__LINE__);
-        return;
-    }
-    DrawHandleOutline(context);
-    DrawControlBoxes(context);
-    DrawBoxControl(context, p.p2, kArmHandleColour, GetNodeCount());
+    AddHandleOutline(scene);
+    AddControlBoxes(scene);
+    scene.AddHandle(p.p2, kArmHandleColour, GetNodeCount());
 }
 
 void FillToolPlasma::BaseGetHandles(K2DArrayPoint* handles) const

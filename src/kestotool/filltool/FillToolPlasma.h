@@ -17,8 +17,7 @@ public:
 
     void OnDragStart(CPoint& point, unsigned int flags) override;
     void OnDragChange(CPoint& point, unsigned int flags) override;
-    void Draw(IRenderTarget* target, bool outlineOnly, const K2DLtGeneral& view) const override;
-    void Draw(CRenderContext* context) const override;
+    void BuildHandleScene(HandleScene& scene) const override;
     bool CanCreateNewNode() const override { return true; }
     void BaseGetHandles(K2DArrayPoint* handles) const override;
 

@@ -85,25 +85,14 @@ void FillToolRadial::OnDragChange(CPoint& point, unsigned int flags)
     }
 }
 
-void FillToolRadial::Draw(IRenderTarget* target, bool outlineOnly, const K2DLtGeneral& view) const
-{
-    FillTool::Draw(target, outlineOnly, view);
-    CPoint c, e;
-    if (!GetCircle(nullptr, c, e))
-        return;
-    DrawControlLine(target, outlineOnly, c, e, true);
-    DrawControlLine(target, outlineOnly, K2DCurve::Circle(K2DDblPoint(c), Kesto2D::K2DGeometry::CalcDist(c, e)), false);
-    DrawControlBoxes(target, outlineOnly);
-}
-
-void FillToolRadial::Draw(CRenderContext* context) const
+void FillToolRadial::BuildHandleScene(HandleScene& scene) const
 {
     CPoint c, e;
     if (!GetCircle(nullptr, c, e))
         return;
-    DrawControlLine(context, c, e, false);
-    DrawControlLine(context, K2DCurve::Circle(K2DDblPoint(c), Kesto2D::K2DGeometry::CalcDist(c, e)), false);
-    DrawControlBoxes(context);
+    scene.AddLine(c, e, true);
+    scene.AddCurve(K2DCurve::Circle(K2DDblPoint(c), Kesto2D::K2DGeometry::CalcDist(c, e)), false);
+    AddControlBoxes(scene);
 }
 
 CRect FillToolRadial::GetFillRect(const CFill* fill)

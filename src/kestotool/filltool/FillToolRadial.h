@@ -16,8 +16,7 @@ public:
 
     void OnDragStart(CPoint& point, unsigned int flags) override;
     void OnDragChange(CPoint& point, unsigned int flags) override;
-    void Draw(IRenderTarget* target, bool outlineOnly, const K2DLtGeneral& view) const override;
-    void Draw(CRenderContext* context) const override;
+    void BuildHandleScene(HandleScene& scene) const override;
     // The bounding box of the circle (fill, or the tool's own when null).
     CRect GetFillRect(const CFill* fill) override;
     // The rectangle (C, E), not normalised.

@@ -103,27 +103,15 @@ void FillToolSquare::OnDragChange(CPoint& point, unsigned int flags)
     SetAxes(moved);
 }
 
-void FillToolSquare::Draw(IRenderTarget* target, bool outlineOnly, const K2DLtGeneral& view) const
-{
-    FillTool::Draw(target, outlineOnly, view);
-    Axes a;
-    if (!GetAxes(nullptr, a))
-        return;
-    DrawControlLine(target, outlineOnly, a.centre, a.end, true);
-    DrawControlLine(target, outlineOnly, a.centre, a.shape, true);
-    DrawControlLine(target, outlineOnly, AxesParallelogram(a.centre, a.end, a.shape), false);
-    DrawControlBoxes(target, outlineOnly);
-}
-
-void FillToolSquare::Draw(CRenderContext* context) const
+void FillToolSquare::BuildHandleScene(HandleScene& scene) const
 {
     Axes a;
     if (!GetAxes(nullptr, a))
         return;
-    DrawControlLine(context, a.centre, a.end, false);
-    DrawControlLine(context, a.centre, a.shape, false);
-    DrawControlLine(context, AxesParallelogram(a.centre, a.end, a.shape), false);
-    DrawControlBoxes(context);
+    scene.AddLine(a.centre, a.end, true);
+    scene.AddLine(a.centre, a.shape, true);
+    scene.AddPolyline(AxesParallelogram(a.centre, a.end, a.shape), false);
+    AddControlBoxes(scene);
 }
 
 CRect FillToolSquare::GetFillRect(const CFill* fill)

@@ -20,8 +20,7 @@ public:
 
     void OnDragStart(CPoint& point, unsigned int flags) override;
     void OnDragChange(CPoint& point, unsigned int flags) override;
-    void Draw(IRenderTarget* target, bool outlineOnly, const K2DLtGeneral& view) const override;
-    void Draw(CRenderContext* context) const override;
+    void BuildHandleScene(HandleScene& scene) const override;
     // The bounding box of the parallelogram.
     CRect GetFillRect(const CFill* fill) override;
     // The rectangle from C to the farther of E and F, not normalised.

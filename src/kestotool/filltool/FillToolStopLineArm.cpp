@@ -7,6 +7,15 @@
 
 namespace KestoTool {
 
+namespace {
+
+// The numbers this file reports its broken preconditions with.
+constexpr int kReportBBoxWithoutFill = 46;
+constexpr int kReportPercentageWithoutFill = 65;
+constexpr int kReportSizeWithoutFill = 77;
+
+} // namespace
+
 template <class Fill>
 bool FillToolStopLineArm<Fill>::GetPoints(const CFill* fill, Points& points) const
 {
@@ -43,7 +52,7 @@ K2DArrayPoint FillToolStopLineArm<Fill>::GetEffectiveBBox(const CFill* fill)
     Points p;
     if (!GetPoints(fill, p)) {
         if (!fill && !GetFill())
-            ReportNoFill(__LINE__);
+            ReportNoFill(kReportBBoxWithoutFill);
         return {};
     }
     return CornerParallelogram(p.p0, p.p1, p.p2);
@@ -62,7 +71,7 @@ int FillToolStopLineArm<Fill>::GetPercentageFromPoint(CPoint point) const
     Points p;
     if (!GetPoints(nullptr, p)) {
         if (!GetFill())
-            ReportNoFill(__LINE__);
+            ReportNoFill(kReportPercentageWithoutFill);
         return -1;
     }
     return GetNodeValueFromPoints(p.p0, p.p1, point);
@@ -74,7 +83,7 @@ bool FillToolStopLineArm<Fill>::CheckSize() const
     Points p;
     if (!GetPoints(nullptr, p)) {
         if (!GetFill())
-            ReportNoFill(__LINE__);
+            ReportNoFill(kReportSizeWithoutFill);
         return false;
     }
     using Kesto2D::K2DGeometry::IDist;

@@ -11,6 +11,14 @@ KESTO_IMPLEMENT_DYNAMIC(FillToolThreeColour, FillToolGradient)
 
 namespace {
 
+// The numbers this file reports its broken preconditions with.
+constexpr int kReportDragStartWithoutFill = 41;
+constexpr int kReportDragWithoutCorner = 98;
+constexpr int kReportDrawWithoutFill = 106;
+constexpr int kReportFillRectWithoutFill = 126;
+constexpr int kReportSizeWithoutFill = 157;
+constexpr int kReportBBoxWithoutFill = 169;
+
 constexpr const char* kModule = "FillToolThreeColour";
 
 void ReportNoFill(int line)
@@ -38,7 +46,7 @@ void FillToolThreeColour::SetCorners(const Corners& c)
 void FillToolThreeColour::OnDragStart(CPoint& point, unsigned int flags)
 {
     if (!GetFill()) {
-        ReportNoFill(__LINE__);
+        ReportNoFill(kReportDragStartWithoutFill);
         return;
     }
     FillTool::OnDragStart(point, flags);
@@ -95,35 +103,26 @@ void FillToolThreeColour::OnDragChange(CPoint& point, unsigned int flags)
         moved.p2 = arms.dragged;
         moved.p1 = arms.other;
     } else {
-        KestoKernel::VerifyFailed("KestoTool", kModule, __LINE__, "a drag needs a corner handle as the current node");
+        KestoKernel::VerifyFailed("KestoTool", kModule, kReportDragWithoutCorner,
+                                  "a drag needs a corner handle as the current node");
     }
     SetCorners(moved);
 }
 
-void FillToolThreeColour::Draw(IRenderTarget* target, bool outlineOnly, const K2DLtGeneral& view) const
+void FillToolThreeColour::BuildHandleScene(HandleScene& scene) const
 {
-    if (!target || !GetFill()) {
-        ReportNoFill(__LINE__);
+    if (!GetFill()) {
+        ReportNoFill(kReportDrawWithoutFill);
         return;
     }
-    FillTool::Draw(target, outlineOnly, view);
-    DrawCorners(target, outlineOnly);
-}
-
-void FillToolThreeColour::Draw(CRenderContext* context) const
-{
-    if (!context || !GetFill()) {
-        ReportNoFill(__LINE__);
-        return;
-    }
-    DrawCorners(context);
+    AddCorners(scene);
 }
 
 CRect FillToolThreeColour::GetFillRect(const CFill* fill)
 {
     Corners c;
     if (!fill && !GetFill()) {
-        ReportNoFill(__LINE__);
+        ReportNoFill(kReportFillRectWithoutFill);
         return {};
     }
     if (!GetCorners(fill, c))
@@ -154,7 +153,7 @@ bool FillToolThreeColour::CheckSize() const
 {
     Corners c;
     if (!GetFill()) {
-        ReportNoFill(__LINE__);
+        ReportNoFill(kReportSizeWithoutFill);
         return false;
     }
     using Kesto2D::K2DGeometry::IDist;
@@ -166,7 +165,7 @@ K2DArrayPoint FillToolThreeColour::GetEffectiveBBox(const CFill* fill)
     Corners c;
     K2DArrayPoint outline;
     if (!fill && !GetFill()) {
-        ReportNoFill(__LINE__);
+        ReportNoFill(kReportBBoxWithoutFill);
         return outline;
     }
     if (!GetCorners(fill, c))

@@ -16,8 +16,7 @@ public:
 
     void OnDragStart(CPoint& point, unsigned int flags) override;
     void OnDragChange(CPoint& point, unsigned int flags) override;
-    void Draw(IRenderTarget* target, bool outlineOnly, const K2DLtGeneral& view) const override;
-    void Draw(CRenderContext* context) const override;
+    void BuildHandleScene(HandleScene& scene) const override;
     // The bounding box of P0, P1 and P2.
     CRect GetFillRect(const CFill* fill) override;
     // The tool has no hint of its own: the text is made empty.

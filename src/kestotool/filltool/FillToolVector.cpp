@@ -15,6 +15,14 @@ KESTO_IMPLEMENT_DYNAMIC(FillToolVector, FillToolBitmap)
 
 namespace {
 
+// The numbers this file reports its broken preconditions with.
+constexpr int kReportHandlesWithoutFill = 109;
+constexpr int kReportDragStartWithoutFill = 164;
+constexpr int kReportDragEndWithoutFill = 337;
+constexpr int kReportDrawWithoutFill = 357;
+constexpr int kReportResetWithoutFill = 427;
+constexpr int kReportTransformWithoutFill = 444;
+
 // The tile's handles place it; they show no colour of their own.
 constexpr unsigned long kHandleColour = 0xFFFFFF;
 // Ctrl turns a rotation handle in steps of this many hundredths of a degree.
@@ -106,7 +114,7 @@ void FillToolVector::BaseGetHandles(K2DArrayPoint* handles) const
     Points p;
     if (!handles || !fill || !GetPoints(nullptr, p)) {
         if (!GetFill())
-            ReportNoFill(__LINE__);
+            ReportNoFill(kReportHandlesWithoutFill);
         return;
     }
     // The placed box is scaled to the drawing already: its points are the tile's own.
@@ -161,7 +169,7 @@ void FillToolVector::OnDragStart(CPoint& point, unsigned int flags)
 {
     const CFillVector* fill = FillOfKind<CFillVector>(nullptr);
     if (!fill) {
-        ReportNoFill(__LINE__);
+        ReportNoFill(kReportDragStartWithoutFill);
         return;
     }
     FillToolBitmap::OnDragStart(point, flags);
@@ -334,7 +342,7 @@ void FillToolVector::OnDragEnd(CPoint& point, unsigned int flags)
 {
     const CFillVector* fill = FillOfKind<CFillVector>(nullptr);
     if (!fill) {
-        ReportNoFill(__LINE__);
+        ReportNoFill(kReportDragEndWithoutFill);
         return;
     }
     FillTool::OnDragEnd(point, flags);
@@ -346,49 +354,26 @@ void FillToolVector::OnDragEnd(CPoint& point, unsigned int flags)
     TakeStartState(*fill);
 }
 
-void FillToolVector::Draw(IRenderTarget* target, bool outlineOnly, const K2DLtGeneral& view) const
+void FillToolVector::BuildHandleScene(HandleScene& scene) const
 {
     if (GetControlBoxMode() == ScalingMode) {
-        FillToolBitmap::Draw(target, outlineOnly, view);
+        FillToolBitmap::BuildHandleScene(scene);
         return;
     }
     Points p;
-    if (!target || !GetPoints(nullptr, p)) {
-        ReportNoFill(__LINE__);
+    if (!GetPoints(nullptr, p)) {
+        ReportNoFill(kReportDrawWithoutFill);
         return;
     }
-    FillTool::Draw(target, outlineOnly, view);
-    DrawControlLine(target, outlineOnly, CornerParallelogram(p.p0, p.p1, p.p2), false);
+    scene.AddPolyline(CornerParallelogram(p.p0, p.p1, p.p2), false);
     K2DArrayPoint handles;
     BaseGetHandles(&handles);
     if (handles.GetSize() < 4)
         return;
-    DrawControlLine(target, outlineOnly, handles.GetAt(0), handles.GetAt(2), true);
-    DrawControlLine(target, outlineOnly, handles.GetAt(1), handles.GetAt(3), true);
+    scene.AddLine(handles.GetAt(0), handles.GetAt(2), true);
+    scene.AddLine(handles.GetAt(1), handles.GetAt(3), true);
     for (int i = 0; i < handles.GetSize(); ++i)
-        DrawBoxControl(target, outlineOnly, handles.GetAt(i), kHandleColour, i);
-}
-
-void FillToolVector::Draw(CRenderContext* context) const
-{
-    if (GetControlBoxMode() == ScalingMode) {
-        FillToolBitmap::Draw(context);
-        return;
-    }
-    Points p;
-    if (!context || !GetPoints(nullptr, p)) {
-        ReportNoFill(__LINE__);
-        return;
-    }
-    DrawControlLine(context, CornerParallelogram(p.p0, p.p1, p.p2), false);
-    K2DArrayPoint handles;
-    BaseGetHandles(&handles);
-    if (handles.GetSize() < 4)
-        return;
-    DrawControlLine(context, handles.GetAt(0), handles.GetAt(2), false);
-    DrawControlLine(context, handles.GetAt(1), handles.GetAt(3), false);
-    for (int i = 0; i < handles.GetSize(); ++i)
-        DrawBoxControl(context, handles.GetAt(i), kHandleColour, i);
+        scene.AddHandle(handles.GetAt(i), kHandleColour, i);
 }
 
 void FillToolVector::InitContextButtons(CXTPCommandBars* bars)
@@ -424,7 +409,7 @@ void FillToolVector::OnFillControlResetHandles()
 {
     const CFillVector* fill = FillOfKind<CFillVector>(nullptr);
     if (!fill) {
-        ReportNoFill(__LINE__);
+        ReportNoFill(kReportResetWithoutFill);
         return;
     }
     RefPtr<CFill> copy = fill->Clone();
@@ -441,7 +426,7 @@ void FillToolVector::OnTransformWithObject(bool on)
 {
     const CFillVector* fill = FillOfKind<CFillVector>(nullptr);
     if (!fill) {
-        ReportNoFill(__LINE__);
+        ReportNoFill(kReportTransformWithoutFill);
         return;
     }
     RefPtr<CFill> copy = fill->Clone();

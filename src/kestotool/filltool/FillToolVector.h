@@ -61,8 +61,7 @@ public:
     void OnDragStart(CPoint& point, unsigned int flags) override;
     void OnDragChange(CPoint& point, unsigned int flags) override;
     void OnDragEnd(CPoint& point, unsigned int flags) override;
-    void Draw(IRenderTarget* target, bool outlineOnly, const K2DLtGeneral& view) const override;
-    void Draw(CRenderContext* context) const override;
+    void BuildHandleScene(HandleScene& scene) const override;
     void InitContextButtons(CXTPCommandBars* bars) override;
 
     void OnFillControlBoxModeClicked();

@@ -12,6 +12,14 @@
 
 namespace KestoGDI {
 
+namespace {
+
+// The numbers this file reports its broken preconditions with.
+constexpr int kReportControlIndex = 57;
+constexpr int kReportControlsWithoutArray = 67;
+
+} // namespace
+
 KESTO_IMPLEMENT_DYNAMIC(CFill, KestoPlatform::CObject)
 
 const CRuntimeClass* CFill::GetRuntimeClassFromType(int type)
@@ -54,7 +62,7 @@ K2DDblPoint CFill::GetControlPoint(int index) const
 {
     const auto points = ControlPoints();
     if (index < 0 || index >= static_cast<int>(points.size())) {
-        KestoKernel::VerifyFailed("KestoGDI", "CFill", __LINE__,
+        KestoKernel::VerifyFailed("KestoGDI", "CFill", kReportControlIndex,
                                   "control point index out of range: see GetControlCount");
         return {};
     }
@@ -64,7 +72,8 @@ K2DDblPoint CFill::GetControlPoint(int index) const
 void CFill::GetControls(K2DArrayPoint* out) const
 {
     if (!out) {
-        KestoKernel::VerifyFailed("KestoGDI", "CFill", __LINE__, "pass an array for the control points");
+        KestoKernel::VerifyFailed("KestoGDI", "CFill", kReportControlsWithoutArray,
+                                  "pass an array for the control points");
         return;
     }
     for (const K2DDblPoint& p : ControlPoints())

@@ -9,12 +9,20 @@
 
 namespace Kesto2D {
 
+namespace {
+
+// The numbers this file reports its broken preconditions with.
+constexpr int kReportIndexRange = 17;
+
+} // namespace
+
 K2DArrayPoint::K2DArrayPoint(int initialSize) : m_points(static_cast<std::size_t>(std::max(initialSize, 0))) {}
 
 CPoint K2DArrayPoint::GetAt(int index) const
 {
     if (index < 0 || index >= GetSize()) {
-        KestoKernel::VerifyFailed("Kesto2D", "K2DArrayPoint", __LINE__, "point index out of range: see GetSize");
+        KestoKernel::VerifyFailed("Kesto2D", "K2DArrayPoint", kReportIndexRange,
+                                  "point index out of range: see GetSize");
         return {};
     }
     return m_points[static_cast<std::size_t>(index)];
@@ -23,7 +31,8 @@ CPoint K2DArrayPoint::GetAt(int index) const
 void K2DArrayPoint::SetAt(int index, const CPoint& p)
 {
     if (index < 0 || index >= GetSize()) {
-        KestoKernel::VerifyFailed("Kesto2D", "K2DArrayPoint", __LINE__, "point index out of range: see GetSize");
+        KestoKernel::VerifyFailed("Kesto2D", "K2DArrayPoint", kReportIndexRange,
+                                  "point index out of range: see GetSize");
         return;
     }
     m_points[static_cast<std::size_t>(index)] = p;

@@ -7,6 +7,13 @@
 
 namespace Kesto2D {
 
+namespace {
+
+// The numbers this file reports its broken preconditions with.
+constexpr int kReportSingularInverse = 65;
+
+} // namespace
+
 K2DLtGeneral::K2DLtGeneral(const K2DLtRotate& r)
 {
     double s = 0, c = 1;
@@ -62,7 +69,7 @@ bool K2DLtGeneral::HasInverse() const
 K2DLtGeneral K2DLtGeneral::GetInverse() const
 {
     if (!HasInverse()) {
-        KestoKernel::VerifyFailed("Kesto2D", "K2DLtGeneral", __LINE__,
+        KestoKernel::VerifyFailed("Kesto2D", "K2DLtGeneral", kReportSingularInverse,
                                   "the transform is singular: test HasInverse first");
         return {};
     }

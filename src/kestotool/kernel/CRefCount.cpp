@@ -4,10 +4,18 @@
 
 namespace KestoKernel {
 
+namespace {
+
+// The numbers this file reports its broken preconditions with.
+constexpr int kReportReleaseUnheld = 10;
+
+} // namespace
+
 int CRefCount::Release() const
 {
     if (m_refs <= 0) {
-        VerifyFailed("KestoKernel", "CRefCount", __LINE__, "release only an object you hold a reference to");
+        VerifyFailed("KestoKernel", "CRefCount", kReportReleaseUnheld,
+                     "release only an object you hold a reference to");
         return 0;
     }
     const int left = --m_refs;
