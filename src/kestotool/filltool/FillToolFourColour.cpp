@@ -13,19 +13,11 @@ KESTO_IMPLEMENT_DYNAMIC(FillToolFourColour, FillToolGradient)
 namespace {
 
 // The numbers this file reports its broken preconditions with.
-constexpr int kReportDragStartWithoutFill = 65;
 constexpr int kReportDragWithoutCorner = 139;
-constexpr int kReportDrawWithoutFill = 147;
-constexpr int kReportFillRectWithoutFill = 167;
 constexpr int kReportSizeWithoutFill = 196;
 constexpr int kReportBBoxWithoutFill = 208;
 
 constexpr const char* kModule = "FillToolFourColour";
-
-void ReportNoFill(int line)
-{
-    KestoKernel::VerifyFailed("KestoTool", kModule, line, "the tool has no fill: give it one");
-}
 
 // p moved by the double offset v, rounded half away from zero into the coordinate range.
 CPoint Moved(CPoint p, const Kesto2D::K2DVector& v)
@@ -51,33 +43,6 @@ CPoint OnEdge(CPoint start, CPoint end, const K2DDblPoint& corner, const K2DDblP
 
 } // namespace
 
-bool FillToolFourColour::GetCorners(const CFill* fill, Corners& corners) const
-{
-    const auto* four = FillOfKind<KestoGDI::CFillFourColour>(fill);
-    if (!four)
-        return false;
-    corners = {four->GetControlPoint(0).Round(), four->GetControlPoint(1).Round(), four->GetControlPoint(2).Round(),
-               four->GetControlPoint(3).Round()};
-    return true;
-}
-
-void FillToolFourColour::SetCorners(const Corners& c)
-{
-    if (auto* four = dynamic_cast<KestoGDI::CFillFourColour*>(GetWorkingFill()))
-        four->SetControls(K2DDblPoint(c.p0), K2DDblPoint(c.p1), K2DDblPoint(c.p2), K2DDblPoint(c.p3));
-}
-
-void FillToolFourColour::OnDragStart(CPoint& point, unsigned int flags)
-{
-    if (!GetFill()) {
-        ReportNoFill(kReportDragStartWithoutFill);
-        return;
-    }
-    FillTool::OnDragStart(point, flags);
-    GetCorners(nullptr, m_atPress);
-    SetCurrentNode(IndexFromPoint(point));
-}
-
 void FillToolFourColour::OnDragChange(CPoint& point, unsigned int flags)
 {
     if (!CheckDragStarted())
@@ -85,7 +50,7 @@ void FillToolFourColour::OnDragChange(CPoint& point, unsigned int flags)
     const bool shift = (flags & DragFlagShift) != 0;
     const bool ctrl = (flags & DragFlagCtrl) != 0;
     const bool creating = IsCreate();
-    const Corners& s = m_atPress;
+    const Corners& s = CornersAtPress();
     const int node = GetCurrentNode();
     CPoint anchor = GetDragStart();
     if (creating && ctrl)
@@ -148,44 +113,6 @@ void FillToolFourColour::OnDragChange(CPoint& point, unsigned int flags)
                                   "a drag needs a corner handle as the current node");
     }
     SetCorners(moved);
-}
-
-void FillToolFourColour::BuildHandleScene(HandleScene& scene) const
-{
-    if (!GetFill()) {
-        ReportNoFill(kReportDrawWithoutFill);
-        return;
-    }
-    AddCorners(scene);
-}
-
-CRect FillToolFourColour::GetFillRect(const CFill* fill)
-{
-    Corners c;
-    if (!fill && !GetFill()) {
-        ReportNoFill(kReportFillRectWithoutFill);
-        return {};
-    }
-    if (!GetCorners(fill, c))
-        return {};
-    K2DArrayPoint corners;
-    for (const CPoint& p : {c.p0, c.p2, c.p3, c.p1})
-        corners.Add(p);
-    return corners.GetBBox();
-}
-
-int FillToolFourColour::GetHintLine(CString* out) const
-{
-    return EmptyHint(out);
-}
-
-void FillToolFourColour::BaseGetHandles(K2DArrayPoint* handles) const
-{
-    Corners c;
-    if (!GetCorners(nullptr, c))
-        return;
-    for (const CPoint& p : {c.p0, c.p1, c.p3, c.p2})
-        handles->Add(p);
 }
 
 bool FillToolFourColour::CheckSize() const

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "kestotool/filltool/FillToolGradient.h"
+#include "kestotool/filltool/FillToolCornerColour.h"
+#include "kestotool/gdi/CFillFourColour.h"
 #include "kestotool/platform/Export.h"
 
 namespace KestoTool {
@@ -10,33 +11,19 @@ namespace KestoTool {
 // opposite corner; handle i shows and edits node-list entry i. Dragging P1 or P2 keeps the
 // figure a parallelogram about P0; dragging P3 slides both neighbours along their edges (with
 // Ctrl, P3 itself moves only along the diagonal through P0).
-class KESTO_API FillToolFourColour : public FillToolGradient {
+class KESTO_API FillToolFourColour : public FillToolCornerColour<KestoGDI::CFillFourColour> {
     KESTO_DECLARE_DYNAMIC(FillToolFourColour)
 public:
-    FillToolFourColour(const CFill* fill, IToolSite* site) : FillToolGradient(fill, site) {}
+    FillToolFourColour(const CFill* fill, IToolSite* site)
+        : FillToolCornerColour(fill, site, "FillToolFourColour", {0, 1, 3, 2})
+    {
+    }
 
-    void OnDragStart(CPoint& point, unsigned int flags) override;
     void OnDragChange(CPoint& point, unsigned int flags) override;
-    void BuildHandleScene(HandleScene& scene) const override;
-    // The bounding box of the four corners.
-    CRect GetFillRect(const CFill* fill) override;
-    // The tool has no hint of its own: the text is made empty.
-    int GetHintLine(CString* out) const override;
-    // P0, P1, P3, P2.
-    void BaseGetHandles(K2DArrayPoint* handles) const override;
     // The sides P2-P3 and P2-P0 at least 50 long.
     bool CheckSize() const override;
     // P2, P3, P1, P0, closed.
     K2DArrayPoint GetEffectiveBBox(const CFill* fill) override;
-
-private:
-    struct Corners {
-        CPoint p0, p1, p2, p3;
-    };
-    bool GetCorners(const CFill* fill, Corners& corners) const;
-    void SetCorners(const Corners& corners);
-
-    Corners m_atPress{};
 };
 
 } // namespace KestoTool

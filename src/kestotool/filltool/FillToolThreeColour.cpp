@@ -12,47 +12,13 @@ KESTO_IMPLEMENT_DYNAMIC(FillToolThreeColour, FillToolGradient)
 namespace {
 
 // The numbers this file reports its broken preconditions with.
-constexpr int kReportDragStartWithoutFill = 41;
 constexpr int kReportDragWithoutCorner = 98;
-constexpr int kReportDrawWithoutFill = 106;
-constexpr int kReportFillRectWithoutFill = 126;
 constexpr int kReportSizeWithoutFill = 157;
 constexpr int kReportBBoxWithoutFill = 169;
 
 constexpr const char* kModule = "FillToolThreeColour";
 
-void ReportNoFill(int line)
-{
-    KestoKernel::VerifyFailed("KestoTool", kModule, line, "the tool has no fill: give it one");
-}
-
 } // namespace
-
-bool FillToolThreeColour::GetCorners(const CFill* fill, Corners& corners) const
-{
-    const auto* three = FillOfKind<KestoGDI::CFillThreeColour>(fill);
-    if (!three)
-        return false;
-    corners = {three->GetControlPoint(0).Round(), three->GetControlPoint(1).Round(), three->GetControlPoint(2).Round()};
-    return true;
-}
-
-void FillToolThreeColour::SetCorners(const Corners& c)
-{
-    if (auto* three = dynamic_cast<KestoGDI::CFillThreeColour*>(GetWorkingFill()))
-        three->SetControls(K2DDblPoint(c.p0), K2DDblPoint(c.p1), K2DDblPoint(c.p2));
-}
-
-void FillToolThreeColour::OnDragStart(CPoint& point, unsigned int flags)
-{
-    if (!GetFill()) {
-        ReportNoFill(kReportDragStartWithoutFill);
-        return;
-    }
-    FillTool::OnDragStart(point, flags);
-    GetCorners(nullptr, m_atPress);
-    SetCurrentNode(IndexFromPoint(point));
-}
 
 void FillToolThreeColour::OnDragChange(CPoint& point, unsigned int flags)
 {
@@ -61,7 +27,7 @@ void FillToolThreeColour::OnDragChange(CPoint& point, unsigned int flags)
     const bool shift = (flags & DragFlagShift) != 0;
     const bool ctrl = (flags & DragFlagCtrl) != 0;
     const bool creating = IsCreate();
-    const Corners& s = m_atPress;
+    const Corners& s = CornersAtPress();
     CPoint anchor = GetDragStart();
     if (creating && ctrl)
         anchor = GetCreateCentre(anchor);
@@ -107,46 +73,6 @@ void FillToolThreeColour::OnDragChange(CPoint& point, unsigned int flags)
                                   "a drag needs a corner handle as the current node");
     }
     SetCorners(moved);
-}
-
-void FillToolThreeColour::BuildHandleScene(HandleScene& scene) const
-{
-    if (!GetFill()) {
-        ReportNoFill(kReportDrawWithoutFill);
-        return;
-    }
-    AddCorners(scene);
-}
-
-CRect FillToolThreeColour::GetFillRect(const CFill* fill)
-{
-    Corners c;
-    if (!fill && !GetFill()) {
-        ReportNoFill(kReportFillRectWithoutFill);
-        return {};
-    }
-    if (!GetCorners(fill, c))
-        return {};
-    K2DArrayPoint corners;
-    corners.Add(c.p0);
-    corners.Add(c.p1);
-    corners.Add(c.p2);
-    return corners.GetBBox();
-}
-
-int FillToolThreeColour::GetHintLine(CString* out) const
-{
-    return EmptyHint(out);
-}
-
-void FillToolThreeColour::BaseGetHandles(K2DArrayPoint* handles) const
-{
-    Corners c;
-    if (!GetCorners(nullptr, c))
-        return;
-    handles->Add(c.p0);
-    handles->Add(c.p1);
-    handles->Add(c.p2);
 }
 
 bool FillToolThreeColour::CheckSize() const

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "kestotool/filltool/FillToolGradient.h"
+#include "kestotool/platform/Export.h"
+
+#include <array>
+#include <initializer_list>
+
+namespace KestoTool {
+
+// What the three- and four-colour tools do alike: their fill (of class Fill) has a colour per
+// corner, the corners are its control points, and handle i shows and edits node-list entry i.
+// A drag remembers the corners at the press; the handles are the corners in the tool's handle
+// order; the rectangle is the corners' bounding box; there is no hint. Without a fill each
+// query reports, under the tool's own class name, and answers its empty result.
+template <class Fill>
+class KESTO_API FillToolCornerColour : public FillToolGradient {
+public:
+    void OnDragStart(CPoint& point, unsigned int flags) override;
+    void BuildHandleScene(HandleScene& scene) const override;
+    CRect GetFillRect(const CFill* fill) override;
+    int GetHintLine(CString* out) const override { return EmptyHint(out); }
+    void BaseGetHandles(K2DArrayPoint* handles) const override;
+
+protected:
+    // handleOrder: the corner each handle shows, one entry per corner of the kind.
+    FillToolCornerColour(const CFill* fill, IToolSite* site, const char* module,
+                         std::initializer_list<int> handleOrder);
+
+    // P0 .. P3 as the fill numbers its control points; P3 stays empty for three corners.
+    struct Corners {
+        CPoint p0, p1, p2;
+        CPoint p3{};
+    };
+    // The corners of fill (the tool's own when null); false without a fill of the kind.
+    bool GetCorners(const CFill* fill, Corners& corners) const;
+    void SetCorners(const Corners& corners);
+    const Corners& CornersAtPress() const { return m_atPress; }
+    void ReportNoFill(int line) const;
+
+private:
+    const char* m_module;
+    std::array<int, 4> m_handleOrder{};
+    int m_count = 0;
+    Corners m_atPress{};
+};
+
+} // namespace KestoTool
