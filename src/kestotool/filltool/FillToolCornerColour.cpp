@@ -12,6 +12,8 @@ namespace {
 constexpr int kReportDragStartWithoutFill = 41;
 constexpr int kReportDrawWithoutFill = 106;
 constexpr int kReportFillRectWithoutFill = 126;
+constexpr int kReportSizeWithoutFill = 157;
+constexpr int kReportBBoxWithoutFill = 169;
 
 template <class Corners>
 CPoint& Corner(Corners& c, int k)
@@ -112,6 +114,30 @@ void FillToolCornerColour<Fill>::BaseGetHandles(K2DArrayPoint* handles) const
         return;
     for (int k = 0; k < m_count; ++k)
         handles->Add(Corner(c, m_handleOrder[static_cast<std::size_t>(k)]));
+}
+
+template <class Fill>
+bool FillToolCornerColour<Fill>::CheckSize() const
+{
+    Corners c;
+    if (!GetFill()) {
+        ReportNoFill(kReportSizeWithoutFill);
+        return false;
+    }
+    return GetCorners(nullptr, c) && LargeEnough(c);
+}
+
+template <class Fill>
+K2DArrayPoint FillToolCornerColour<Fill>::GetEffectiveBBox(const CFill* fill)
+{
+    Corners c;
+    if (!fill && !GetFill()) {
+        ReportNoFill(kReportBBoxWithoutFill);
+        return {};
+    }
+    if (!GetCorners(fill, c))
+        return {};
+    return Outline(c);
 }
 
 template class FillToolCornerColour<KestoGDI::CFillThreeColour>;

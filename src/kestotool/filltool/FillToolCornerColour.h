@@ -21,6 +21,9 @@ public:
     CRect GetFillRect(const CFill* fill) override;
     int GetHintLine(CString* out) const override { return EmptyHint(out); }
     void BaseGetHandles(K2DArrayPoint* handles) const override;
+    // The tool's two measured sides at least 50 long.
+    bool CheckSize() const override;
+    K2DArrayPoint GetEffectiveBBox(const CFill* fill) override;
 
 protected:
     // handleOrder: the corner each handle shows, one entry per corner of the kind.
@@ -37,6 +40,10 @@ protected:
     void SetCorners(const Corners& corners);
     const Corners& CornersAtPress() const { return m_atPress; }
     void ReportNoFill(int line) const;
+
+    // Whether the figure is large enough to edit, and its outline.
+    virtual bool LargeEnough(const Corners& corners) const = 0;
+    virtual K2DArrayPoint Outline(const Corners& corners) const = 0;
 
 private:
     const char* m_module;

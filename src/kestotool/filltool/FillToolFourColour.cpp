@@ -14,8 +14,6 @@ namespace {
 
 // The numbers this file reports its broken preconditions with.
 constexpr int kReportDragWithoutCorner = 139;
-constexpr int kReportSizeWithoutFill = 196;
-constexpr int kReportBBoxWithoutFill = 208;
 
 constexpr const char* kModule = "FillToolFourColour";
 
@@ -115,27 +113,15 @@ void FillToolFourColour::OnDragChange(CPoint& point, unsigned int flags)
     SetCorners(moved);
 }
 
-bool FillToolFourColour::CheckSize() const
+bool FillToolFourColour::LargeEnough(const Corners& c) const
 {
-    Corners c;
-    if (!GetFill()) {
-        ReportNoFill(kReportSizeWithoutFill);
-        return false;
-    }
     using Kesto2D::K2DGeometry::IDist;
-    return GetCorners(nullptr, c) && IDist(c.p2, c.p3) >= 50 && IDist(c.p2, c.p0) >= 50;
+    return IDist(c.p2, c.p3) >= 50 && IDist(c.p2, c.p0) >= 50;
 }
 
-K2DArrayPoint FillToolFourColour::GetEffectiveBBox(const CFill* fill)
+K2DArrayPoint FillToolFourColour::Outline(const Corners& c) const
 {
-    Corners c;
     K2DArrayPoint outline;
-    if (!fill && !GetFill()) {
-        ReportNoFill(kReportBBoxWithoutFill);
-        return outline;
-    }
-    if (!GetCorners(fill, c))
-        return outline;
     for (const CPoint& p : {c.p2, c.p3, c.p1, c.p0})
         outline.Add(p);
     outline.AddClose(0);

@@ -20,10 +20,12 @@ public:
     }
 
     void OnDragChange(CPoint& point, unsigned int flags) override;
+
+protected:
     // The sides P2-P3 and P2-P0 at least 50 long.
-    bool CheckSize() const override;
+    bool LargeEnough(const Corners& corners) const override;
     // P2, P3, P1, P0, closed.
-    K2DArrayPoint GetEffectiveBBox(const CFill* fill) override;
+    K2DArrayPoint Outline(const Corners& corners) const override;
 };
 
 } // namespace KestoTool

@@ -13,8 +13,6 @@ namespace {
 
 // The numbers this file reports its broken preconditions with.
 constexpr int kReportDragWithoutCorner = 98;
-constexpr int kReportSizeWithoutFill = 157;
-constexpr int kReportBBoxWithoutFill = 169;
 
 constexpr const char* kModule = "FillToolThreeColour";
 
@@ -75,27 +73,14 @@ void FillToolThreeColour::OnDragChange(CPoint& point, unsigned int flags)
     SetCorners(moved);
 }
 
-bool FillToolThreeColour::CheckSize() const
+bool FillToolThreeColour::LargeEnough(const Corners& c) const
 {
-    Corners c;
-    if (!GetFill()) {
-        ReportNoFill(kReportSizeWithoutFill);
-        return false;
-    }
     using Kesto2D::K2DGeometry::IDist;
-    return GetCorners(nullptr, c) && IDist(c.p0, c.p1) >= 50 && IDist(c.p0, c.p2) >= 50;
+    return IDist(c.p0, c.p1) >= 50 && IDist(c.p0, c.p2) >= 50;
 }
 
-K2DArrayPoint FillToolThreeColour::GetEffectiveBBox(const CFill* fill)
+K2DArrayPoint FillToolThreeColour::Outline(const Corners& c) const
 {
-    Corners c;
-    K2DArrayPoint outline;
-    if (!fill && !GetFill()) {
-        ReportNoFill(kReportBBoxWithoutFill);
-        return outline;
-    }
-    if (!GetCorners(fill, c))
-        return outline;
     return CornerParallelogram(c.p0, c.p1, c.p2);
 }
 

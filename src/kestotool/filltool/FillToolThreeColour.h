@@ -19,10 +19,12 @@ public:
     }
 
     void OnDragChange(CPoint& point, unsigned int flags) override;
+
+protected:
     // Both arms at least 50 long.
-    bool CheckSize() const override;
+    bool LargeEnough(const Corners& corners) const override;
     // The parallelogram P0, P1, P1 + P2 - P0, P2, closed.
-    K2DArrayPoint GetEffectiveBBox(const CFill* fill) override;
+    K2DArrayPoint Outline(const Corners& corners) const override;
 };
 
 } // namespace KestoTool
