@@ -10,7 +10,6 @@ KESTO_IMPLEMENT_DYNAMIC(FillToolBitmap, FillToolGradient)
 namespace {
 
 // The numbers this file reports its broken preconditions with.
-constexpr int kReportDragStartWithoutFill = 25;
 constexpr int kReportDrawWithoutFill = 99;
 
 // The tile's handles place it; they show no colour of their own.
@@ -23,17 +22,6 @@ int FillToolBitmap::GradientIndex(int handle) const
     return IsExtendedNode() ? GetNumGradientNodes() - 1 : handle;
 }
 
-void FillToolBitmap::OnDragStart(CPoint& point, unsigned int flags)
-{
-    if (!GetFill()) {
-        ReportNoFill(kReportDragStartWithoutFill);
-        return;
-    }
-    FillTool::OnDragStart(point, flags);
-    GetPoints(nullptr, m_atPress);
-    SetCurrentNode(IndexFromPoint(point));
-}
-
 void FillToolBitmap::OnDragChange(CPoint& point, unsigned int flags)
 {
     if (!CheckDragStarted())
@@ -41,7 +29,7 @@ void FillToolBitmap::OnDragChange(CPoint& point, unsigned int flags)
     const bool ctrl = (flags & DragFlagCtrl) != 0;
     const bool creating = IsCreate();
     const int n = GetNumGradientNodes();
-    const Points& s = m_atPress;
+    const Points& s = PointsAtPress();
     CPoint anchor = GetDragStart();
     if (creating && ctrl)
         anchor = GetCreateCentre(anchor);
@@ -86,11 +74,7 @@ void FillToolBitmap::OnDragChange(CPoint& point, unsigned int flags)
         moved.p2 = arms.dragged;
         moved.p1 = arms.other;
     } else {
-        if (node > 0 && node < n - 1) {
-            Points now;
-            GetPoints(nullptr, now);
-            SlideStopFollowing(node, now.p0, now.p1, point);
-        }
+        SlideInnerStop(node, n - 1, point);
         return;
     }
     SetPoints(moved);

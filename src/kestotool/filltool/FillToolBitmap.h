@@ -16,7 +16,6 @@ class KESTO_API FillToolBitmap : public FillToolStopLineArm<KestoGDI::CFillBitma
 public:
     FillToolBitmap(const CFill* fill, IToolSite* site) : FillToolStopLineArm(fill, site, "FillToolBitmap") {}
 
-    void OnDragStart(CPoint& point, unsigned int flags) override;
     void OnDragChange(CPoint& point, unsigned int flags) override;
     void BuildHandleScene(HandleScene& scene) const override;
     void BaseGetHandles(K2DArrayPoint* handles) const override;
@@ -26,9 +25,6 @@ public:
 protected:
     // For tools built on this one, which report under their own class name.
     FillToolBitmap(const CFill* fill, IToolSite* site, const char* module) : FillToolStopLineArm(fill, site, module) {}
-
-private:
-    Points m_atPress{};
 };
 
 } // namespace KestoTool

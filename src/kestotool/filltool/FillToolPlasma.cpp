@@ -10,24 +10,12 @@ KESTO_IMPLEMENT_DYNAMIC(FillToolPlasma, FillToolGradient)
 namespace {
 
 // The numbers this file reports its broken preconditions with.
-constexpr int kReportDragStartWithoutFill = 20;
 constexpr int kReportDrawWithoutFill = 94;
 
 // The colour the tile arm's handle is drawn in: it edits no stop.
 constexpr unsigned long kArmHandleColour = 0xFFFFFF;
 
 } // namespace
-
-void FillToolPlasma::OnDragStart(CPoint& point, unsigned int flags)
-{
-    if (!GetFill()) {
-        ReportNoFill(kReportDragStartWithoutFill);
-        return;
-    }
-    FillTool::OnDragStart(point, flags);
-    GetPoints(nullptr, m_atPress);
-    SetCurrentNode(IndexFromPoint(point));
-}
 
 void FillToolPlasma::OnDragChange(CPoint& point, unsigned int flags)
 {
@@ -38,7 +26,7 @@ void FillToolPlasma::OnDragChange(CPoint& point, unsigned int flags)
     const bool creating = IsCreate();
     const int count = GetNodeCount();
     const int node = GetCurrentNode();
-    const Points& s = m_atPress;
+    const Points& s = PointsAtPress();
     CPoint anchor = GetDragStart();
     if (creating && ctrl)
         anchor = GetCreateCentre(anchor);
@@ -81,11 +69,7 @@ void FillToolPlasma::OnDragChange(CPoint& point, unsigned int flags)
         else if (shift)
             moved.p1 = PreserveAngle(s.p0, s.p2, moved.p2, s.p1);
     } else {
-        if (node > 0 && node < count - 1) {
-            Points now;
-            GetPoints(nullptr, now);
-            SlideStopFollowing(node, now.p0, now.p1, point);
-        }
+        SlideInnerStop(node, count - 1, point);
         return;
     }
     SetPoints(moved);

@@ -15,14 +15,10 @@ class KESTO_API FillToolPlasma : public FillToolStopLineArm<KestoGDI::CFillFract
 public:
     FillToolPlasma(const CFill* fill, IToolSite* site) : FillToolStopLineArm(fill, site, "FillToolPlasma") {}
 
-    void OnDragStart(CPoint& point, unsigned int flags) override;
     void OnDragChange(CPoint& point, unsigned int flags) override;
     void BuildHandleScene(HandleScene& scene) const override;
     bool CanCreateNewNode() const override { return true; }
     void BaseGetHandles(K2DArrayPoint* handles) const override;
-
-private:
-    Points m_atPress{};
 };
 
 } // namespace KestoTool

@@ -10,6 +10,7 @@ namespace KestoTool {
 namespace {
 
 // The numbers this file reports its broken preconditions with.
+constexpr int kReportDragStartWithoutFill = 20;
 constexpr int kReportBBoxWithoutFill = 46;
 constexpr int kReportPercentageWithoutFill = 65;
 constexpr int kReportSizeWithoutFill = 77;
@@ -88,6 +89,28 @@ bool FillToolStopLineArm<Fill>::CheckSize() const
     }
     using Kesto2D::K2DGeometry::IDist;
     return IDist(p.p0, p.p1) >= 50 && IDist(p.p0, p.p2) >= 50;
+}
+
+template <class Fill>
+void FillToolStopLineArm<Fill>::OnDragStart(CPoint& point, unsigned int flags)
+{
+    if (!GetFill()) {
+        ReportNoFill(kReportDragStartWithoutFill);
+        return;
+    }
+    FillTool::OnDragStart(point, flags);
+    GetPoints(nullptr, m_atPress);
+    SetCurrentNode(IndexFromPoint(point));
+}
+
+template <class Fill>
+void FillToolStopLineArm<Fill>::SlideInnerStop(int node, int last, const CPoint& point)
+{
+    if (node <= 0 || node >= last)
+        return;
+    Points now;
+    GetPoints(nullptr, now);
+    SlideStopFollowing(node, now.p0, now.p1, point);
 }
 
 template class FillToolStopLineArm<KestoGDI::CFillFractal>;

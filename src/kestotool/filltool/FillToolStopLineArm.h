@@ -21,6 +21,8 @@ public:
     // The position along P0-P1, 0..10000; -1 without a fill or for a line of no length.
     int GetPercentageFromPoint(CPoint point) const override;
     bool CheckSize() const override;
+    // Remembers the tile's points at the press and makes the handle there current.
+    void OnDragStart(CPoint& point, unsigned int flags) override;
 
 protected:
     FillToolStopLineArm(const CFill* fill, IToolSite* site, const char* module)
@@ -35,10 +37,14 @@ protected:
     // them otherwise); false without a fill of the kind.
     virtual bool GetPoints(const CFill* fill, Points& points) const;
     void SetPoints(const Points& points);
+    const Points& PointsAtPress() const { return m_atPress; }
+    // An inner stop (0 < node < last) slides along the stop line as it is now, after point.
+    void SlideInnerStop(int node, int last, const CPoint& point);
     void ReportNoFill(int line) const;
 
 private:
     const char* m_module;
+    Points m_atPress{};
 };
 
 } // namespace KestoTool

@@ -310,10 +310,8 @@ void FillToolVector::OnDragChangeScaleAndRotate(CPoint& point, unsigned int flag
         const CPoint newX = yEnd ? arms.other : arms.dragged;
         const CPoint newY = yEnd ? arms.dragged : arms.other;
         CommitBox({ToDouble(o), ToDouble(newX), ToDouble(newY)}, yEnd);
-    } else if (node > 0 && node < n - 1) {
-        Points now;
-        GetPoints(nullptr, now);
-        SlideStopFollowing(node, now.p0, now.p1, point);
+    } else {
+        SlideInnerStop(node, n - 1, point);
     }
 }
 
