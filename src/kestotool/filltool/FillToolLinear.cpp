@@ -24,22 +24,6 @@ constexpr int kHintInnerOver[] = {IDS_HINT_LINEAR_INNER_OVER_FILL, IDS_HINT_LINE
 
 } // namespace
 
-bool FillToolLinear::GetLine(const CFill* fill, CPoint& start, CPoint& end) const
-{
-    const auto* linear = FillOfKind<KestoGDI::CFillLinear>(fill);
-    if (!linear)
-        return false;
-    start = linear->GetStart().Round();
-    end = linear->GetEnd().Round();
-    return true;
-}
-
-void FillToolLinear::SetLine(const CPoint& start, const CPoint& end)
-{
-    if (auto* linear = dynamic_cast<KestoGDI::CFillLinear*>(GetWorkingFill()))
-        linear->SetControls(K2DDblPoint(start), K2DDblPoint(end));
-}
-
 void FillToolLinear::OnDragStart(CPoint& point, unsigned int flags)
 {
     FillTool::OnDragStart(point, flags);
@@ -47,7 +31,7 @@ void FillToolLinear::OnDragStart(CPoint& point, unsigned int flags)
     SetCurrentNode(h);
     if (h < 0 || h >= GetNumGradientNodes())
         SetCurrentNode(GetNumGradientNodes() - 1);
-    GetLine(nullptr, m_startAtPress, m_endAtPress);
+    GetStopLine(nullptr, m_startAtPress, m_endAtPress);
 }
 
 void FillToolLinear::OnDragChange(CPoint& point, unsigned int flags)
@@ -79,7 +63,7 @@ void FillToolLinear::OnDragChange(CPoint& point, unsigned int flags)
         if (!shift)
             Snap(point, point);
         SetCurrentNode(GetNumGradientNodes() - 1);
-        SetLine(press, point);
+        SetStopLine(press, point);
         return;
     }
     const long long dx = static_cast<long long>(point.x) - press.x;
@@ -88,12 +72,12 @@ void FillToolLinear::OnDragChange(CPoint& point, unsigned int flags)
         CPoint start = Kesto2D::OffsetPoint(m_startAtPress, dx, dy);
         if (!shift)
             Snap(start, start);
-        SetLine(start, m_endAtPress);
+        SetStopLine(start, m_endAtPress);
     } else if (IsLastNode()) {
         CPoint end = Kesto2D::OffsetPoint(m_endAtPress, dx, dy);
         if (!shift)
             Snap(end, end);
-        SetLine(m_startAtPress, end);
+        SetStopLine(m_startAtPress, end);
     } else {
         // The stop may overtake a neighbour; the current node keeps its number regardless.
         SetGradientValue(GetCurrentNode(), GetPercentageFromPoint(point));
@@ -103,7 +87,7 @@ void FillToolLinear::OnDragChange(CPoint& point, unsigned int flags)
 void FillToolLinear::BuildHandleScene(HandleScene& scene) const
 {
     CPoint s, e;
-    if (!GetLine(nullptr, s, e))
+    if (!GetStopLine(nullptr, s, e))
         return;
     scene.AddLine(s, e, true);
     const KestoGDI::ColourIntPairs& stops = GetGradientNodes();
@@ -118,7 +102,7 @@ CRect FillToolLinear::GetFillRect(const CFill* fill)
         KestoKernel::VerifyFailed("KestoTool", "FillToolLinear", 153, "the tool has no fill: pass one");
         return {};
     }
-    if (!GetLine(fill, s, e))
+    if (!GetStopLine(fill, s, e))
         return {};
     return {s.x, s.y, e.x, e.y};
 }
@@ -130,7 +114,7 @@ K2DArrayPoint FillToolLinear::GetEffectiveBBox(const CFill* fill)
         KestoKernel::VerifyFailed("KestoTool", "FillToolLinear", 126, "the tool has no fill: pass one");
         return {};
     }
-    if (!GetLine(fill, s, e))
+    if (!GetStopLine(fill, s, e))
         return {};
     return SquareOnLine(s, e);
 }
@@ -152,31 +136,10 @@ int FillToolLinear::GetHintLine(CString* out) const
     return 1;
 }
 
-void FillToolLinear::BaseGetHandles(K2DArrayPoint* handles) const
-{
-    CPoint s, e;
-    if (GetLine(nullptr, s, e))
-        AddGradientHandles(handles, s, e);
-}
-
-bool FillToolLinear::IsPointOnLine(const CPoint& point, int tolerance) const
-{
-    CPoint s, e;
-    return GetLine(nullptr, s, e) && IsPointOnNodeLine(s, e, point, tolerance);
-}
-
-int FillToolLinear::GetPercentageFromPoint(CPoint point) const
-{
-    CPoint s, e;
-    if (!GetLine(nullptr, s, e))
-        return 1;
-    return std::clamp(GetNodeValueFromPoints(s, e, point), 1, 9999);
-}
-
 bool FillToolLinear::CheckSize() const
 {
     CPoint s, e;
-    return GetLine(nullptr, s, e) && Kesto2D::K2DGeometry::IDist(s, e) > 49;
+    return GetStopLine(nullptr, s, e) && Kesto2D::K2DGeometry::IDist(s, e) > 49;
 }
 
 } // namespace KestoTool

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "kestotool/filltool/FillToolGradient.h"
+#include "kestotool/filltool/FillToolStopLine.h"
+#include "kestotool/gdi/CFillLinear.h"
 #include "kestotool/platform/Export.h"
 
 namespace KestoTool {
@@ -9,10 +10,10 @@ namespace KestoTool {
 // E with the stops along it. Dragging off the handles draws a new line; the ends are dragged
 // with Shift constraining the angle (and then not snapping to the grid); inner stops slide
 // along the line.
-class KESTO_API FillToolLinear : public FillToolGradient {
+class KESTO_API FillToolLinear : public FillToolStopLine<KestoGDI::CFillLinear> {
     KESTO_DECLARE_DYNAMIC(FillToolLinear)
 public:
-    FillToolLinear(const CFill* fill, IToolSite* site) : FillToolGradient(fill, site) {}
+    FillToolLinear(const CFill* fill, IToolSite* site) : FillToolStopLine(fill, site) {}
 
     void OnDragStart(CPoint& point, unsigned int flags) override;
     void OnDragChange(CPoint& point, unsigned int flags) override;
@@ -20,20 +21,11 @@ public:
     // The rectangle (S, E) of fill (the tool's own when null), not normalised.
     CRect GetFillRect(const CFill* fill) override;
     int GetHintLine(CString* out) const override;
-    bool CanCreateNewNode() const override { return true; }
-    void BaseGetHandles(K2DArrayPoint* handles) const override;
-    bool IsPointOnLine(const CPoint& point, int tolerance) const override;
-    // The position of point along the line, kept off the ends: 1..9999.
-    int GetPercentageFromPoint(CPoint point) const override;
     bool CheckSize() const override;
     // The square that has the line as its centre line.
     K2DArrayPoint GetEffectiveBBox(const CFill* fill) override;
 
 private:
-    // The line of fill, or of the tool's fill.
-    bool GetLine(const CFill* fill, CPoint& start, CPoint& end) const;
-    void SetLine(const CPoint& start, const CPoint& end);
-
     CPoint m_startAtPress;
     CPoint m_endAtPress;
 };

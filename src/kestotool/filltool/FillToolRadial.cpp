@@ -13,28 +13,12 @@ namespace KestoTool {
 
 KESTO_IMPLEMENT_DYNAMIC(FillToolRadial, FillToolGradient)
 
-bool FillToolRadial::GetCircle(const CFill* fill, CPoint& centre, CPoint& rim) const
-{
-    const auto* radial = FillOfKind<KestoGDI::CFillRadial>(fill);
-    if (!radial)
-        return false;
-    centre = radial->GetCentre().Round();
-    rim = radial->GetEnd().Round();
-    return true;
-}
-
-void FillToolRadial::SetCircle(const CPoint& centre, const CPoint& rim)
-{
-    if (auto* radial = dynamic_cast<KestoGDI::CFillRadial*>(GetWorkingFill()))
-        radial->SetControls(K2DDblPoint(centre), K2DDblPoint(rim));
-}
-
 void FillToolRadial::OnDragStart(CPoint& point, unsigned int flags)
 {
     FillTool::OnDragStart(point, flags);
     // A press away from the handles leaves no current node (the linear tool picks its end).
     SetCurrentNode(IndexFromPoint(point));
-    GetCircle(nullptr, m_centreAtPress, m_rimAtPress);
+    GetStopLine(nullptr, m_centreAtPress, m_rimAtPress);
 }
 
 void FillToolRadial::OnDragChange(CPoint& point, unsigned int flags)
@@ -62,7 +46,7 @@ void FillToolRadial::OnDragChange(CPoint& point, unsigned int flags)
         Snap(press, press);
         if (!shift)
             Snap(point, point);
-        SetCircle(press, point);
+        SetStopLine(press, point);
         return;
     }
     const long long dx = static_cast<long long>(point.x) - press.x;
@@ -74,12 +58,12 @@ void FillToolRadial::OnDragChange(CPoint& point, unsigned int flags)
             Snap(centre, centre);
             Snap(rim, rim);
         }
-        SetCircle(centre, rim);
+        SetStopLine(centre, rim);
     } else if (IsLastNode()) {
         CPoint rim = Kesto2D::OffsetPoint(m_rimAtPress, dx, dy);
         if (!shift)
             Snap(rim, rim);
-        SetCircle(m_centreAtPress, rim);
+        SetStopLine(m_centreAtPress, rim);
     } else if (GetCurrentNode() >= 0) {
         SetGradientValue(GetCurrentNode(), GetPercentageFromPoint(point));
     }
@@ -88,7 +72,7 @@ void FillToolRadial::OnDragChange(CPoint& point, unsigned int flags)
 void FillToolRadial::BuildHandleScene(HandleScene& scene) const
 {
     CPoint c, e;
-    if (!GetCircle(nullptr, c, e))
+    if (!GetStopLine(nullptr, c, e))
         return;
     scene.AddLine(c, e, true);
     scene.AddCurve(K2DCurve::Circle(K2DDblPoint(c), Kesto2D::K2DGeometry::CalcDist(c, e)), false);
@@ -98,7 +82,7 @@ void FillToolRadial::BuildHandleScene(HandleScene& scene) const
 CRect FillToolRadial::GetFillRect(const CFill* fill)
 {
     CPoint c, e;
-    if (!GetCircle(fill, c, e))
+    if (!GetStopLine(fill, c, e))
         return {};
     return K2DCurve::Circle(K2DDblPoint(c), Kesto2D::K2DGeometry::IDist(c, e)).GetBBox();
 }
@@ -110,7 +94,7 @@ CRect FillToolRadial::GetFillLineBox(const CFill* fill)
         KestoKernel::VerifyFailed("KestoTool", "FillToolRadial", 443, "the fill is not radial");
         return {};
     }
-    GetCircle(fill, c, e);
+    GetStopLine(fill, c, e);
     return {c.x, c.y, e.x, e.y};
 }
 
@@ -121,7 +105,7 @@ K2DArrayPoint FillToolRadial::GetEffectiveBBox(const CFill* fill)
         KestoKernel::VerifyFailed("KestoTool", "FillToolRadial", 194, "the tool has no fill: pass one");
         return {};
     }
-    if (!GetCircle(fill, c, e))
+    if (!GetStopLine(fill, c, e))
         return {};
     const CPoint mirrored = Kesto2D::SaturatePoint(2LL * c.x - e.x, 2LL * c.y - e.y);
     return SquareOnLine(mirrored, e);
@@ -132,27 +116,6 @@ int FillToolRadial::GetHintLine(CString* out) const
     const HintIds ids = RoundToolHintIds(*this);
     ComposeHintLine(out, ids.fill, ids.transparency);
     return 1;
-}
-
-void FillToolRadial::BaseGetHandles(K2DArrayPoint* handles) const
-{
-    CPoint c, e;
-    if (GetCircle(nullptr, c, e))
-        AddGradientHandles(handles, c, e);
-}
-
-bool FillToolRadial::IsPointOnLine(const CPoint& point, int tolerance) const
-{
-    CPoint c, e;
-    return GetCircle(nullptr, c, e) && IsPointOnNodeLine(c, e, point, tolerance);
-}
-
-int FillToolRadial::GetPercentageFromPoint(CPoint point) const
-{
-    CPoint c, e;
-    if (!GetCircle(nullptr, c, e))
-        return 1;
-    return std::clamp(GetNodeValueFromPoints(c, e, point), 1, 9999);
 }
 
 } // namespace KestoTool

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "kestotool/filltool/FillToolGradient.h"
+#include "kestotool/platform/Export.h"
+
+namespace KestoTool {
+
+// What the linear and radial tools do alike: their fill (of class Fill) carries its stops on
+// the line from its first control point to its second (S-E, C-E). The handles are the stops on
+// that line, a press near it is on the line, positions along it run 0..10000, and a colour
+// dropped on it adds a stop.
+template <class Fill>
+class KESTO_API FillToolStopLine : public FillToolGradient {
+public:
+    bool CanCreateNewNode() const override { return true; }
+    void BaseGetHandles(K2DArrayPoint* handles) const override;
+    bool IsPointOnLine(const CPoint& point, int tolerance) const override;
+    // The position of point along the line, kept off the ends: 1..9999.
+    int GetPercentageFromPoint(CPoint point) const override;
+
+protected:
+    FillToolStopLine(const CFill* fill, IToolSite* site) : FillToolGradient(fill, site) {}
+
+    // The line of fill (the tool's own when null); false without a fill of the kind.
+    bool GetStopLine(const CFill* fill, CPoint& from, CPoint& to) const;
+    void SetStopLine(const CPoint& from, const CPoint& to);
+};
+
+} // namespace KestoTool
