@@ -1,0 +1,398 @@
+#include "ToolHost.h"
+
+#include "ShapesEdit.h"
+
+#include <kestotool/filltool/FillToolFactory.h>
+#include <kestotool/gdi/CFillLinear.h>
+#include <kestotool/gdi/CFillSolid.h>
+#include <kestotool/gdi/CFillWithStops.h>
+#include <kestotool/gdi/CRGBColour.h>
+#include <kestotool/gdi/CTransparency.h>
+#include <kestotool/gdi/CTransparencyLinear.h>
+#include <kestotool/geometry/CoordinateRange.h>
+#include <kestotool/geometry/Rounding.h>
+#include <kestotool/platform/CXTPControlPopupColor.h>
+#include <kestotool/qt/QtConvert.h>
+#include <kestotool/tool/SiteGeometry.h>
+
+#include <QColorDialog>
+#include <QUndoStack>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace KestoDraw {
+
+using KestoGDI::CFill;
+using KestoKernel::RefPtr;
+using KestoPlatform::CPoint;
+
+namespace {
+
+RefPtr<const CFill>& FieldOf(Shape& shape, bool transparency)
+{
+    return transparency ? shape.transparency : shape.fill;
+}
+
+// The fill a drag on a shape whose fill has no tool starts from: a linear fill from the shape's
+// colour to white, or a linear transparency from opaque to clear.
+RefPtr<CFill> StarterFill(const CFill* current, bool transparency, const KestoPlatform::CRect& box)
+{
+    RefPtr<CFill> fill =
+        transparency ? RefPtr<CFill>(new KestoGDI::CTransparencyLinear) : RefPtr<CFill>(new KestoGDI::CFillLinear);
+    fill->SetDefaultControls(box);
+    if (const auto* solid = dynamic_cast<const KestoGDI::CFillSolid*>(current); solid && !transparency) {
+        KestoGDI::ColourIntPairs stops;
+        stops.Add(solid->GetColour(), 0);
+        stops.Add(KestoGDI::CRGBColour(KestoPlatform::RGB(255, 255, 255)), 10000);
+        static_cast<KestoGDI::CFillWithStops&>(*fill).SetColourIntPairs(stops);
+    }
+    return fill;
+}
+
+} // namespace
+
+ToolHost::ToolHost(Document& document, QUndoStack& undo, QWidget& view)
+    : m_document(document), m_undo(undo), m_view(view), m_bars(std::make_unique<KestoPlatform::CXTPCommandBars>())
+{
+}
+
+ToolHost::~ToolHost()
+{
+    m_tool.reset();
+}
+
+void ToolHost::SetEditTransparency(bool transparency)
+{
+    if (m_editTransparency == transparency)
+        return;
+    m_editTransparency = transparency;
+    RebuildTool();
+}
+
+void ToolHost::Select(int index)
+{
+    if (index < -1 || index >= static_cast<int>(m_document.shapes.size()))
+        index = -1;
+    if (index == m_selected)
+        return;
+    m_selected = index;
+    RebuildTool();
+    emit SelectionChanged();
+}
+
+Shape* ToolHost::SelectedShape()
+{
+    return m_selected >= 0 ? &m_document.shapes[m_selected] : nullptr;
+}
+
+RefPtr<const CFill> ToolHost::EditedFill() const
+{
+    if (m_selected < 0)
+        return {};
+    const Shape& shape = m_document.shapes[m_selected];
+    return m_editTransparency ? shape.transparency : shape.fill;
+}
+
+void ToolHost::SetPreferences(int grid, int angleStep)
+{
+    m_grid = std::max(0, grid);
+    m_angleStep = std::max(0, angleStep);
+    emit Changed();
+}
+
+void ToolHost::DocumentReplaced()
+{
+    m_selected = -1;
+    RebuildTool();
+    emit SelectionChanged();
+}
+
+void ToolHost::ApplyShapes(const std::vector<Shape>& shapes)
+{
+    m_document.shapes = shapes;
+    if (m_selected >= static_cast<int>(shapes.size())) {
+        m_selected = -1;
+        emit SelectionChanged();
+    }
+    SyncTool();
+    emit Changed();
+}
+
+void ToolHost::AddShape(Shape shape, const QString& stepName)
+{
+    std::vector<Shape> before = m_document.shapes;
+    m_document.shapes.push_back(std::move(shape));
+    PushStep(stepName, std::move(before));
+    Select(static_cast<int>(m_document.shapes.size()) - 1);
+}
+
+void ToolHost::DeleteSelected()
+{
+    if (m_selected < 0)
+        return;
+    std::vector<Shape> before = m_document.shapes;
+    m_document.shapes.erase(m_document.shapes.begin() + m_selected);
+    m_selected = -1;
+    PushStep(tr("Delete Shape"), std::move(before));
+    RebuildTool();
+    emit SelectionChanged();
+}
+
+void ToolHost::PushStep(const QString& name, std::vector<Shape> before)
+{
+    m_undo.push(new ShapesEdit(name, std::move(before), m_document.shapes,
+                               [this](const std::vector<Shape>& shapes) { ApplyShapes(shapes); }));
+}
+
+void ToolHost::SetKind(int fillType)
+{
+    const KestoPlatform::CRuntimeClass* c = m_editTransparency
+                                                ? KestoGDI::CTransparency::GetRuntimeClassFromType(fillType)
+                                                : CFill::GetRuntimeClassFromType(fillType);
+    if (c)
+        m_editTransparency ? SetTransparencyType(c) : SetFillType(c);
+}
+
+void ToolHost::FlushPendingRebuild()
+{
+    if (m_rebuildPending)
+        RebuildTool();
+}
+
+void ToolHost::RebuildTool()
+{
+    m_rebuildPending = false;
+    emit ToolAboutToChange();
+    m_gesture.Cancel();
+    m_tool.reset();
+    // One set of bars for the host's life: the tools register their images with it once.
+    m_bars->RemoveAll();
+    if (const RefPtr<const CFill> fill = EditedFill())
+        m_tool = KestoTool::FillToolFactory::Create(fill.get(), this);
+    if (m_tool)
+        m_tool->InitContextButtons(m_bars.get());
+    emit ToolChanged();
+    emit HintChanged();
+    emit Changed();
+}
+
+void ToolHost::ScheduleRebuild()
+{
+    if (m_rebuildPending)
+        return;
+    m_rebuildPending = true;
+    QMetaObject::invokeMethod(this, &ToolHost::FlushPendingRebuild, Qt::QueuedConnection);
+}
+
+void ToolHost::SyncTool()
+{
+    const RefPtr<const CFill> fill = EditedFill();
+    const CFill* held = m_tool ? m_tool->GetFill() : nullptr;
+    if (fill && held && fill->GetRuntimeClass() == held->GetRuntimeClass()) {
+        if (held != fill.get())
+            m_tool->SetFill(fill.get());
+        emit HintChanged();
+        return;
+    }
+    // Another kind (or none): the tool goes, but never inside one of its own calls.
+    if (m_tool || (fill && KestoTool::FillToolFactory::Create(fill.get(), this)))
+        ScheduleRebuild();
+}
+
+QString ToolHost::DefaultStepName() const
+{
+    return m_editTransparency ? tr("Edit Transparency") : tr("Edit Fill");
+}
+
+void ToolHost::Commit(const CFill* fill, const wchar_t* undoName, bool transparency)
+{
+    Shape* shape = SelectedShape();
+    if (!shape || !fill)
+        return;
+    if (m_gesture.Absorb(undoName)) {
+        // A commit while the mouse moves shows at once; the gesture's end makes the step.
+        FieldOf(*shape, transparency) = RefPtr<const CFill>(fill);
+        SyncTool();
+        emit Changed();
+        return;
+    }
+    RecordCommit(fill, undoName, transparency);
+}
+
+void ToolHost::RecordCommit(const CFill* fill, const wchar_t* undoName, bool transparency)
+{
+    Shape* shape = SelectedShape();
+    if (!shape || !fill)
+        return;
+    std::vector<Shape> before = m_document.shapes;
+    FieldOf(*shape, transparency) = RefPtr<const CFill>(fill);
+    PushStep(undoName ? QString::fromWCharArray(undoName) : DefaultStepName(), std::move(before));
+}
+
+bool ToolHost::StartGesture(CPoint at, unsigned flags, bool create)
+{
+    std::vector<Shape> before = m_document.shapes;
+    if (!m_tool) {
+        Shape* shape = SelectedShape();
+        if (!shape || !create)
+            return false;
+        FieldOf(*shape, m_editTransparency) = StarterFill(EditedFill().get(), m_editTransparency, shape->box);
+        RebuildTool();
+        if (!m_tool) {
+            m_document.shapes = std::move(before);
+            return false;
+        }
+    }
+    m_before = std::move(before);
+    m_gesture.Press(*m_tool, at, flags, create);
+    return true;
+}
+
+void ToolHost::EndGesture(CPoint at, unsigned flags)
+{
+    const std::optional<KestoTool::ToolGesture::Step> step = m_gesture.Release(at, flags);
+    Shape* shape = SelectedShape();
+    if (!shape || !step) {
+        if (!m_before.empty())
+            m_document.shapes = std::move(m_before); // nothing changed: no step
+        m_before.clear();
+        SyncTool();
+        return;
+    }
+    FieldOf(*shape, m_editTransparency) = step->after;
+    PushStep(step->undoName.empty() ? DefaultStepName() : QString::fromStdWString(step->undoName), std::move(m_before));
+    m_before.clear();
+    emit HintChanged();
+}
+
+void ToolHost::Nudge(int dx, int dy)
+{
+    if (!m_tool)
+        return;
+    Kesto2D::K2DArrayPoint handles;
+    m_tool->GetHandles(&handles);
+    if (handles.GetSize() == 0)
+        return;
+    const int node = std::clamp(m_tool->GetCurrentNode(), 0, handles.GetSize() - 1);
+    const CPoint from = handles.GetAt(node);
+    CPoint to = Kesto2D::OffsetPoint(from, dx, dy);
+    StartGesture(from, 0, false);
+    m_gesture.Move(to, 0);
+    EndGesture(to, 0);
+    m_tool->SetCurrentNode(node);
+}
+
+void ToolHost::CycleHandle(int step)
+{
+    if (!m_tool)
+        return;
+    Kesto2D::K2DArrayPoint handles;
+    m_tool->GetHandles(&handles);
+    const int count = handles.GetSize();
+    if (count == 0)
+        return;
+    const int current = std::max(m_tool->GetCurrentNode(), step > 0 ? -1 : 0);
+    m_tool->SetCurrentNode(((current + step) % count + count) % count);
+    emit HintChanged();
+    emit Changed();
+}
+
+// --- IToolSite and IToolHelper ---
+
+void ToolHost::ClientToPaper(KestoPlatform::SIZE* size)
+{
+    size->cx = Kesto2D::RoundHalfAwayFromZero(size->cx / m_zoom);
+    size->cy = Kesto2D::RoundHalfAwayFromZero(size->cy / m_zoom);
+}
+
+KestoPlatform::CRect ToolHost::GetObjectBBox()
+{
+    return m_selected >= 0 ? m_document.shapes[m_selected].box : KestoPlatform::CRect();
+}
+
+void ToolHost::ConstrainAngle(CPoint origin, CPoint& point, bool)
+{
+    point = KestoTool::SiteGeometry::ConstrainToAngleStep(origin, point, m_angleStep);
+}
+
+void ToolHost::Snap(const CPoint& in, CPoint& out)
+{
+    out = KestoTool::SiteGeometry::SnapToGrid(in, m_grid);
+}
+
+KestoPlatform::CString ToolHost::GetCurrentSelectionDescription()
+{
+    return m_selected >= 0 ? KestoPlatform::CString(m_document.shapes[m_selected].Description())
+                           : KestoPlatform::CString();
+}
+
+void ToolHost::AddContextItem(int hostCommand)
+{
+    m_bars->CreateControl(
+        hostCommand, true,
+        [this](KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc) { return m_tool->OnCreateControl(cc); },
+        [this](KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc) { m_tool->OnAfterCreateControl(cc); });
+}
+
+void ToolHost::UpdateFill(const CFill* fill, const wchar_t* undoName)
+{
+    Commit(fill, undoName, false);
+}
+
+void ToolHost::UpdateTransparency(const CFill* fill, const wchar_t* undoName, bool)
+{
+    Commit(fill, undoName, true);
+}
+
+void ToolHost::SetFillType(const KestoPlatform::CRuntimeClass* fillClass)
+{
+    Shape* shape = SelectedShape();
+    RefPtr<CFill> fresh = CFill::CreateFromClass(fillClass);
+    if (!shape || !fresh)
+        return;
+    fresh->SetDefaultControls(shape->box);
+    // Colours carry over where the new kind can take the old stops.
+    const RefPtr<const CFill>& old = FieldOf(*shape, fresh->IsTransparency());
+    const auto* oldStops = dynamic_cast<const KestoGDI::CFillWithStops*>(old.get());
+    if (auto* stops = dynamic_cast<KestoGDI::CFillWithStops*>(fresh.get()); stops && oldStops)
+        stops->SetColourIntPairs(oldStops->GetColourIntPairs());
+    // A step of its own, also when it comes during a drag.
+    RecordCommit(fresh.get(), fresh->IsTransparency() ? L"Transparency Type" : L"Fill Type", fresh->IsTransparency());
+}
+
+void ToolHost::SetTransparencyType(const KestoPlatform::CRuntimeClass* transparencyClass)
+{
+    SetFillType(transparencyClass);
+}
+
+int ToolHost::CreateColourControl(KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc)
+{
+    if (!cc)
+        return 0;
+    cc->pControl = std::make_unique<KestoPlatform::CXTPControlPopupColor>(cc->nID);
+    return 1;
+}
+
+KestoGDI::CColour* ToolHost::ColourPicker(const KestoGDI::CColour* current, KestoPlatform::CWnd*)
+{
+    const QColor start = current ? KestoToolQt::ToQColor(current->GetRGB(), current->GetAlpha()) : QColor(Qt::black);
+    const QColor chosen = QColorDialog::getColor(start, &m_view, tr("Colour"), QColorDialog::ShowAlphaChannel);
+    if (!chosen.isValid())
+        return nullptr;
+    return new KestoGDI::CRGBColour(KestoPlatform::RGB(chosen.red(), chosen.green(), chosen.blue()), nullptr, 0,
+                                    static_cast<short>(chosen.alpha()));
+}
+
+bool ToolHost::ColourPicker(const KestoGDI::CColour* current, KestoGDI::CColour*& result, KestoPlatform::CWnd* owner)
+{
+    result = ColourPicker(current, owner);
+    return result != nullptr;
+}
+
+KestoGDI::CColour* ToolHost::AskUserForNewColour(const KestoGDI::CColour* current, CPoint, KestoPlatform::CWnd* owner)
+{
+    return ColourPicker(current, owner);
+}
+
+} // namespace KestoDraw
