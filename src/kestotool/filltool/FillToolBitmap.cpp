@@ -53,26 +53,14 @@ void FillToolBitmap::OnDragChange(CPoint& point, unsigned int flags)
     const CPoint perpendicular =
         CalculatePerpendicular(s.p0, s.p1, s.p2, anchor, point, !creating && node == n, !creating && node == n - 1);
     if (creating) {
-        Snap(anchor, anchor);
-        if (!shift)
-            Snap(point, point);
-        SetPoints({anchor, point, perpendicular});
+        SetPoints(DrawnFigure(anchor, point, perpendicular, shift));
         return;
     }
-    Points moved = s;
+    Points moved;
     if (node == 0) {
-        moved = {Kesto2D::OffsetPoint(s.p0, anchor, point), Kesto2D::OffsetPoint(s.p1, anchor, point),
-                 Kesto2D::OffsetPoint(s.p2, anchor, point)};
-        if (!shift)
-            Snap(moved.p0, moved.p0);
-    } else if (node == n - 1) {
-        const Arms arms = DragArmEnd(s.p0, s.p1, s.p2, anchor, point, perpendicular, shift, ctrl);
-        moved.p1 = arms.dragged;
-        moved.p2 = arms.other;
-    } else if (node == n) {
-        const Arms arms = DragArmEnd(s.p0, s.p2, s.p1, anchor, point, perpendicular, shift, ctrl);
-        moved.p2 = arms.dragged;
-        moved.p1 = arms.other;
+        moved = MovedFigure(s, anchor, point, shift);
+    } else if (node == n - 1 || node == n) {
+        moved = FigureWithArmDragged(s, node == n - 1, anchor, point, perpendicular, shift, ctrl);
     } else {
         SlideInnerStop(node, n - 1, point);
         return;

@@ -31,10 +31,7 @@ protected:
                          std::initializer_list<int> handleOrder);
 
     // P0 .. P3 as the fill numbers its control points; P3 stays empty for three corners.
-    struct Corners {
-        CPoint p0, p1, p2;
-        CPoint p3{};
-    };
+    using Corners = Figure;
     // The corners of fill (the tool's own when null); false without a fill of the kind.
     bool GetCorners(const CFill* fill, Corners& corners) const;
     void SetCorners(const Corners& corners);

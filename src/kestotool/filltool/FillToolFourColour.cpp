@@ -67,26 +67,19 @@ void FillToolFourColour::OnDragChange(CPoint& point, unsigned int flags)
     const Kesto2D::K2DVector e = Between(anchor, perpendicular);
     if (creating) {
         const CPoint fourth = Moved(point, e); // taken before anything snaps
-        Snap(anchor, anchor);
-        if (!shift)
-            Snap(point, point);
-        SetCorners({anchor, point, perpendicular, fourth});
+        Corners drawn = DrawnFigure(anchor, point, perpendicular, shift);
+        drawn.p3 = fourth;
+        SetCorners(drawn);
         SetCurrentNode(1);
         return;
     }
     Corners moved = s;
     if (node == 0) {
-        moved = {Moved(s.p0, d), Moved(s.p1, d), Moved(s.p2, d), Moved(s.p3, d)};
-        if (!shift)
-            Snap(moved.p0, moved.p0);
+        moved = MovedFigure(s, anchor, point, shift);
     } else if (node == 1 || node == 3) {
         // P1 (node 1) or P2 (node 3) follows the pointer; the other neighbour turns with it, or
         // with Ctrl moves by the perpendicular offset.
-        const bool p1 = node == 1;
-        const Arms arms =
-            DragArmEnd(s.p0, p1 ? s.p1 : s.p2, p1 ? s.p2 : s.p1, anchor, point, perpendicular, shift, ctrl);
-        (p1 ? moved.p1 : moved.p2) = arms.dragged;
-        (p1 ? moved.p2 : moved.p1) = arms.other;
+        moved = FigureWithArmDragged(s, node == 1, anchor, point, perpendicular, shift, ctrl);
         moved.p3 = ctrl ? Moved(s.p3, d + e) : Moved(moved.p1, Between(moved.p0, moved.p2));
     } else if (node == 2) {
         if (ctrl) {

@@ -77,6 +77,35 @@ FillToolGradient::Arms FillToolGradient::DragArmEnd(CPoint corner, CPoint dragge
     return arms;
 }
 
+FillToolGradient::Figure FillToolGradient::DrawnFigure(CPoint anchor, CPoint& point, CPoint perpendicular, bool shift)
+{
+    Snap(anchor, anchor);
+    if (!shift)
+        Snap(point, point);
+    return {anchor, point, perpendicular};
+}
+
+FillToolGradient::Figure FillToolGradient::MovedFigure(const Figure& start, CPoint press, CPoint point, bool shift)
+{
+    Figure moved{Kesto2D::OffsetPoint(start.p0, press, point), Kesto2D::OffsetPoint(start.p1, press, point),
+                 Kesto2D::OffsetPoint(start.p2, press, point), Kesto2D::OffsetPoint(start.p3, press, point)};
+    if (!shift)
+        Snap(moved.p0, moved.p0);
+    return moved;
+}
+
+FillToolGradient::Figure FillToolGradient::FigureWithArmDragged(const Figure& start, bool first, CPoint press,
+                                                                CPoint point, CPoint perpendicular, bool shift,
+                                                                bool ctrl)
+{
+    Figure moved = start;
+    const Arms arms = DragArmEnd(start.p0, first ? start.p1 : start.p2, first ? start.p2 : start.p1, press, point,
+                                 perpendicular, shift, ctrl);
+    (first ? moved.p1 : moved.p2) = arms.dragged;
+    (first ? moved.p2 : moved.p1) = arms.other;
+    return moved;
+}
+
 K2DArrayPoint FillToolGradient::AxesParallelogram(CPoint centre, CPoint end, CPoint shape)
 {
     const long long ux = static_cast<long long>(end.x) - centre.x, uy = static_cast<long long>(end.y) - centre.y;

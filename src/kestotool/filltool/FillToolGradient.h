@@ -106,6 +106,20 @@ public:
     };
     Arms DragArmEnd(CPoint corner, CPoint draggedStart, CPoint otherStart, CPoint press, CPoint point,
                     CPoint perpendicular, bool shift, bool ctrl);
+    // A figure placed by a corner P0 and the ends P1 and P2 of its two arms, and for the
+    // four-colour kind the opposite corner P3: the plasma and bitmap tiles, the corner kinds.
+    struct Figure {
+        CPoint p0, p1, p2;
+        CPoint p3{};
+    };
+    // A new figure drawn from anchor to point with its second arm ending at perpendicular;
+    // anchor snaps to the grid, and point too (in place) unless shift.
+    Figure DrawnFigure(CPoint anchor, CPoint& point, CPoint perpendicular, bool shift);
+    // The figure moved whole by the pointer's move press -> point; P0 alone snaps unless shift.
+    Figure MovedFigure(const Figure& start, CPoint press, CPoint point, bool shift);
+    // The figure with the end of its first arm (P1) or second (P2) dragged, as DragArmEnd says.
+    Figure FigureWithArmDragged(const Figure& start, bool first, CPoint press, CPoint point, CPoint perpendicular,
+                                bool shift, bool ctrl);
     // The stop of handle h for the tools whose extra handles show and edit the last stop.
     int LastStopForExtendedNode(int handle) const
     {

@@ -42,23 +42,15 @@ void FillToolPlasma::OnDragChange(CPoint& point, unsigned int flags)
     const CPoint perpendicular =
         CalculatePerpendicular(s.p0, s.p1, s.p2, anchor, point, node == count - 1, node == count);
     if (creating) {
-        Snap(anchor, anchor);
-        if (!shift)
-            Snap(point, point);
         SetCurrentNode(count - 1);
-        SetPoints({anchor, point, perpendicular});
+        SetPoints(DrawnFigure(anchor, point, perpendicular, shift));
         return;
     }
     Points moved = s;
     if (node == 0) {
-        moved = {Kesto2D::OffsetPoint(s.p0, anchor, point), Kesto2D::OffsetPoint(s.p1, anchor, point),
-                 Kesto2D::OffsetPoint(s.p2, anchor, point)};
-        if (!shift)
-            Snap(moved.p0, moved.p0);
+        moved = MovedFigure(s, anchor, point, shift);
     } else if (node == count - 1) {
-        const Arms arms = DragArmEnd(s.p0, s.p1, s.p2, anchor, point, perpendicular, shift, ctrl);
-        moved.p1 = arms.dragged;
-        moved.p2 = arms.other;
+        moved = FigureWithArmDragged(s, true, anchor, point, perpendicular, shift, ctrl);
     } else if (node == count) {
         moved.p2 = Kesto2D::OffsetPoint(s.p2, anchor, point);
         if (!shift)

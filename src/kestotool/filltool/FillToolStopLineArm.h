@@ -30,9 +30,7 @@ protected:
     {
     }
 
-    struct Points {
-        CPoint p0, p1, p2;
-    };
+    using Points = Figure; // P3 unused
     // The tile's three points as the tool shows them (the control points unless a tool places
     // them otherwise); false without a fill of the kind.
     virtual bool GetPoints(const CFill* fill, Points& points) const;

@@ -44,28 +44,16 @@ void FillToolThreeColour::OnDragChange(CPoint& point, unsigned int flags)
     const int node = GetCurrentNode();
     const CPoint perpendicular = CalculatePerpendicular(s.p0, s.p1, s.p2, anchor, point, node == 1, node == 2);
     if (creating) {
-        Snap(anchor, anchor);
-        if (!shift)
-            Snap(point, point);
-        SetCorners({anchor, point, perpendicular});
+        SetCorners(DrawnFigure(anchor, point, perpendicular, shift));
         SetCurrentNode(1);
         return;
     }
     Corners moved = s;
     if (node == 0) {
-        moved = {Kesto2D::OffsetPoint(s.p0, anchor, point), Kesto2D::OffsetPoint(s.p1, anchor, point),
-                 Kesto2D::OffsetPoint(s.p2, anchor, point)};
         // P0 alone snaps: the arms keep the pointer's exact offset.
-        if (!shift)
-            Snap(moved.p0, moved.p0);
-    } else if (node == 1) {
-        const Arms arms = DragArmEnd(s.p0, s.p1, s.p2, anchor, point, perpendicular, shift, ctrl);
-        moved.p1 = arms.dragged;
-        moved.p2 = arms.other;
-    } else if (node == 2) {
-        const Arms arms = DragArmEnd(s.p0, s.p2, s.p1, anchor, point, perpendicular, shift, ctrl);
-        moved.p2 = arms.dragged;
-        moved.p1 = arms.other;
+        moved = MovedFigure(s, anchor, point, shift);
+    } else if (node == 1 || node == 2) {
+        moved = FigureWithArmDragged(s, node == 1, anchor, point, perpendicular, shift, ctrl);
     } else {
         KestoKernel::VerifyFailed("KestoTool", kModule, kReportDragWithoutCorner,
                                   "a drag needs a corner handle as the current node");
