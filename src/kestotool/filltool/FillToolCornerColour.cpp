@@ -10,6 +10,7 @@ namespace {
 
 // The numbers this file reports its broken preconditions with.
 constexpr int kReportDragStartWithoutFill = 41;
+constexpr int kReportDragWithoutCorner = 98;
 constexpr int kReportDrawWithoutFill = 106;
 constexpr int kReportFillRectWithoutFill = 126;
 constexpr int kReportSizeWithoutFill = 157;
@@ -45,6 +46,13 @@ template <class Fill>
 void FillToolCornerColour<Fill>::ReportNoFill(int line) const
 {
     KestoKernel::VerifyFailed("KestoTool", m_module, line, "the tool has no fill: give it one");
+}
+
+template <class Fill>
+void FillToolCornerColour<Fill>::ReportNoCorner() const
+{
+    KestoKernel::VerifyFailed("KestoTool", m_module, kReportDragWithoutCorner,
+                              "a drag needs a corner handle as the current node");
 }
 
 template <class Fill>

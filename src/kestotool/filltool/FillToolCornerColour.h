@@ -37,6 +37,8 @@ protected:
     void SetCorners(const Corners& corners);
     const Corners& CornersAtPress() const { return m_atPress; }
     void ReportNoFill(int line) const;
+    // A drag whose current node is no corner handle.
+    void ReportNoCorner() const;
 
     // Whether the figure is large enough to edit, and its outline.
     virtual bool LargeEnough(const Corners& corners) const = 0;

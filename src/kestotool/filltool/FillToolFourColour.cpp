@@ -4,18 +4,12 @@
 #include "kestotool/geometry/CoordinateRange.h"
 #include "kestotool/geometry/K2DGeometry.h"
 #include "kestotool/geometry/K2DStraightLine.h"
-#include "kestotool/kernel/VerifyReporter.h"
 
 namespace KestoTool {
 
 KESTO_IMPLEMENT_DYNAMIC(FillToolFourColour, FillToolGradient)
 
 namespace {
-
-// The numbers this file reports its broken preconditions with.
-constexpr int kReportDragWithoutCorner = 139;
-
-constexpr const char* kModule = "FillToolFourColour";
 
 // p moved by the double offset v, rounded half away from zero into the coordinate range.
 CPoint Moved(CPoint p, const Kesto2D::K2DVector& v)
@@ -100,8 +94,7 @@ void FillToolFourColour::OnDragChange(CPoint& point, unsigned int flags)
         moved.p2 = OnEdge(s.p0, s.p2, corner, K2DDblPoint(s.p2) + d, s.p2);
         moved.p1 = OnEdge(s.p0, s.p1, corner, K2DDblPoint(s.p1) + d, s.p1);
     } else {
-        KestoKernel::VerifyFailed("KestoTool", kModule, kReportDragWithoutCorner,
-                                  "a drag needs a corner handle as the current node");
+        ReportNoCorner();
     }
     SetCorners(moved);
 }

@@ -3,20 +3,10 @@
 #include "kestotool/gdi/CFillThreeColour.h"
 #include "kestotool/geometry/CoordinateRange.h"
 #include "kestotool/geometry/K2DGeometry.h"
-#include "kestotool/kernel/VerifyReporter.h"
 
 namespace KestoTool {
 
 KESTO_IMPLEMENT_DYNAMIC(FillToolThreeColour, FillToolGradient)
-
-namespace {
-
-// The numbers this file reports its broken preconditions with.
-constexpr int kReportDragWithoutCorner = 98;
-
-constexpr const char* kModule = "FillToolThreeColour";
-
-} // namespace
 
 void FillToolThreeColour::OnDragChange(CPoint& point, unsigned int flags)
 {
@@ -55,8 +45,7 @@ void FillToolThreeColour::OnDragChange(CPoint& point, unsigned int flags)
     } else if (node == 1 || node == 2) {
         moved = FigureWithArmDragged(s, node == 1, anchor, point, perpendicular, shift, ctrl);
     } else {
-        KestoKernel::VerifyFailed("KestoTool", kModule, kReportDragWithoutCorner,
-                                  "a drag needs a corner handle as the current node");
+        ReportNoCorner();
     }
     SetCorners(moved);
 }
