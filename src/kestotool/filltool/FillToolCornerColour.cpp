@@ -2,7 +2,10 @@
 
 #include "kestotool/gdi/CFillFourColour.h"
 #include "kestotool/gdi/CFillThreeColour.h"
+#include "kestotool/geometry/K2DGeometry.h"
 #include "kestotool/kernel/VerifyReporter.h"
+
+#include <algorithm>
 
 namespace KestoTool {
 
@@ -36,8 +39,9 @@ void SetControlsOf(KestoGDI::CFillFourColour& fill, const CPoint (&p)[4])
 
 template <class Fill>
 FillToolCornerColour<Fill>::FillToolCornerColour(const CFill* fill, IToolSite* site, const char* module,
-                                                 std::initializer_list<int> handleOrder)
-    : FillToolGradient(fill, site), m_module(module), m_count(static_cast<int>(handleOrder.size()))
+                                                 std::initializer_list<int> handleOrder, std::array<Side, 2> measured)
+    : FillToolGradient(fill, site), m_module(module), m_count(static_cast<int>(handleOrder.size())),
+      m_measured(measured)
 {
     std::copy(handleOrder.begin(), handleOrder.end(), m_handleOrder.begin());
 }
@@ -132,7 +136,11 @@ bool FillToolCornerColour<Fill>::CheckSize() const
         ReportNoFill(kReportSizeWithoutFill);
         return false;
     }
-    return GetCorners(nullptr, c) && LargeEnough(c);
+    if (!GetCorners(nullptr, c))
+        return false;
+    return std::all_of(m_measured.begin(), m_measured.end(), [&c](const Side& side) {
+        return Kesto2D::K2DGeometry::IDist(Corner(c, side[0]), Corner(c, side[1])) >= 50;
+    });
 }
 
 template <class Fill>

@@ -21,14 +21,16 @@ public:
     CRect GetFillRect(const CFill* fill) override;
     int GetHintLine(CString* out) const override { return EmptyHint(out); }
     void BaseGetHandles(K2DArrayPoint* handles) const override;
-    // The tool's two measured sides at least 50 long.
+    // Both measured sides at least 50 long.
     bool CheckSize() const override;
     K2DArrayPoint GetEffectiveBBox(const CFill* fill) override;
 
 protected:
-    // handleOrder: the corner each handle shows, one entry per corner of the kind.
-    FillToolCornerColour(const CFill* fill, IToolSite* site, const char* module,
-                         std::initializer_list<int> handleOrder);
+    // handleOrder: the corner each handle shows, one entry per corner of the kind; measured: the
+    // two sides (pairs of corners) that must be at least 50 long.
+    using Side = std::array<int, 2>;
+    FillToolCornerColour(const CFill* fill, IToolSite* site, const char* module, std::initializer_list<int> handleOrder,
+                         std::array<Side, 2> measured);
 
     // P0 .. P3 as the fill numbers its control points; P3 stays empty for three corners.
     using Corners = Figure;
@@ -40,14 +42,14 @@ protected:
     // A drag whose current node is no corner handle.
     void ReportNoCorner() const;
 
-    // Whether the figure is large enough to edit, and its outline.
-    virtual bool LargeEnough(const Corners& corners) const = 0;
+    // The figure's outline.
     virtual K2DArrayPoint Outline(const Corners& corners) const = 0;
 
 private:
     const char* m_module;
     std::array<int, 4> m_handleOrder{};
     int m_count = 0;
+    std::array<Side, 2> m_measured;
     Corners m_atPress{};
 };
 

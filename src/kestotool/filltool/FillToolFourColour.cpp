@@ -99,12 +99,6 @@ void FillToolFourColour::OnDragChange(CPoint& point, unsigned int flags)
     SetCorners(moved);
 }
 
-bool FillToolFourColour::LargeEnough(const Corners& c) const
-{
-    using Kesto2D::K2DGeometry::IDist;
-    return IDist(c.p2, c.p3) >= 50 && IDist(c.p2, c.p0) >= 50;
-}
-
 K2DArrayPoint FillToolFourColour::Outline(const Corners& c) const
 {
     K2DArrayPoint outline;

@@ -15,15 +15,13 @@ class KESTO_API FillToolFourColour : public FillToolCornerColour<KestoGDI::CFill
     KESTO_DECLARE_DYNAMIC(FillToolFourColour)
 public:
     FillToolFourColour(const CFill* fill, IToolSite* site)
-        : FillToolCornerColour(fill, site, "FillToolFourColour", {0, 1, 3, 2})
+        : FillToolCornerColour(fill, site, "FillToolFourColour", {0, 1, 3, 2}, {{{2, 3}, {2, 0}}})
     {
     }
 
     void OnDragChange(CPoint& point, unsigned int flags) override;
 
 protected:
-    // The sides P2-P3 and P2-P0 at least 50 long.
-    bool LargeEnough(const Corners& corners) const override;
     // P2, P3, P1, P0, closed.
     K2DArrayPoint Outline(const Corners& corners) const override;
 };

@@ -50,12 +50,6 @@ void FillToolThreeColour::OnDragChange(CPoint& point, unsigned int flags)
     SetCorners(moved);
 }
 
-bool FillToolThreeColour::LargeEnough(const Corners& c) const
-{
-    using Kesto2D::K2DGeometry::IDist;
-    return IDist(c.p0, c.p1) >= 50 && IDist(c.p0, c.p2) >= 50;
-}
-
 K2DArrayPoint FillToolThreeColour::Outline(const Corners& c) const
 {
     return CornerParallelogram(c.p0, c.p1, c.p2);

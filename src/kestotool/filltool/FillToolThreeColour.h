@@ -14,15 +14,13 @@ class KESTO_API FillToolThreeColour : public FillToolCornerColour<KestoGDI::CFil
     KESTO_DECLARE_DYNAMIC(FillToolThreeColour)
 public:
     FillToolThreeColour(const CFill* fill, IToolSite* site)
-        : FillToolCornerColour(fill, site, "FillToolThreeColour", {0, 1, 2})
+        : FillToolCornerColour(fill, site, "FillToolThreeColour", {0, 1, 2}, {{{0, 1}, {0, 2}}})
     {
     }
 
     void OnDragChange(CPoint& point, unsigned int flags) override;
 
 protected:
-    // Both arms at least 50 long.
-    bool LargeEnough(const Corners& corners) const override;
     // The parallelogram P0, P1, P1 + P2 - P0, P2, closed.
     K2DArrayPoint Outline(const Corners& corners) const override;
 };
