@@ -142,6 +142,12 @@ public:
     int GetControlBoxMode() const { return m_nControlBoxMode; }
     void SetControlBoxMode(int mode) { m_nControlBoxMode = mode; }
     const CPoint& GetDragStart() const { return m_ptDragStart; }
+    // Where a drag is measured from: its start, or with Ctrl while creating, the site's create
+    // centre for it (the new fill is centred on the object).
+    CPoint DragOrigin(unsigned int flags) const
+    {
+        return IsCreate() && (flags & DragFlagCtrl) ? GetCreateCentre(m_ptDragStart) : m_ptDragStart;
+    }
 
     // Node colours. A node is 3 (start), 4 (end) or 5 (selected); any other value is taken to
     // be a host command number and translated through the command-ID map first.

@@ -30,9 +30,7 @@ void FillToolBitmap::OnDragChange(CPoint& point, unsigned int flags)
     const bool creating = IsCreate();
     const int n = GetNumGradientNodes();
     const Points& s = PointsAtPress();
-    CPoint anchor = GetDragStart();
-    if (creating && ctrl)
-        anchor = GetCreateCentre(anchor);
+    CPoint anchor = DragOrigin(flags);
     // Shift alone on P1 is ignored: P1 then moves freely and snaps.
     const bool shift = (flags & DragFlagShift) != 0 && (GetCurrentNode() != n - 1 || ctrl);
     if (shift) {

@@ -57,9 +57,7 @@ void FillToolConical::OnDragChange(CPoint& point, unsigned int flags)
 {
     if (!CheckDragStarted())
         return;
-    CPoint press = GetDragStart();
-    if (IsCreate() && (flags & DragFlagCtrl))
-        press = GetCreateCentre(press);
+    const CPoint press = DragOrigin(flags);
     const long long dx = static_cast<long long>(point.x) - press.x;
     const long long dy = static_cast<long long>(point.y) - press.y;
     const bool shift = (flags & DragFlagShift) != 0;

@@ -57,9 +57,7 @@ void FillToolElliptical::OnDragChange(CPoint& point, unsigned int flags)
     const bool ctrl = (flags & DragFlagCtrl) != 0;
     const bool creating = IsCreate();
     const Axes& start = m_atPress;
-    CPoint press = GetDragStart();
-    if (creating && ctrl)
-        press = GetCreateCentre(press);
+    CPoint press = DragOrigin(flags);
     if (shift) {
         CPoint anchor = start.centre;
         if (creating)

@@ -44,9 +44,7 @@ void FillToolFourColour::OnDragChange(CPoint& point, unsigned int flags)
     const bool creating = IsCreate();
     const Corners& s = CornersAtPress();
     const int node = GetCurrentNode();
-    CPoint anchor = GetDragStart();
-    if (creating && ctrl)
-        anchor = GetCreateCentre(anchor);
+    CPoint anchor = DragOrigin(flags);
     if (shift) {
         // Constrained from the dragged corner's own start (handles go P0, P1, P3, P2).
         if (!creating && node >= 0 && node <= 3) {

@@ -40,9 +40,7 @@ void FillToolLinear::OnDragChange(CPoint& point, unsigned int flags)
         return;
     const bool shift = (flags & DragFlagShift) != 0;
     const bool creating = IsCreate();
-    CPoint press = GetDragStart();
-    if (creating && (flags & DragFlagCtrl))
-        press = GetCreateCentre(press);
+    CPoint press = DragOrigin(flags);
     if (shift) {
         CPoint anchor = m_startAtPress;
         if (creating) {

@@ -27,9 +27,7 @@ void FillToolPlasma::OnDragChange(CPoint& point, unsigned int flags)
     const int count = GetNodeCount();
     const int node = GetCurrentNode();
     const Points& s = PointsAtPress();
-    CPoint anchor = GetDragStart();
-    if (creating && ctrl)
-        anchor = GetCreateCentre(anchor);
+    CPoint anchor = DragOrigin(flags);
     if (shift) {
         if (!creating && node == 0)
             anchor = s.p0;

@@ -56,9 +56,7 @@ void FillToolSquare::OnDragChange(CPoint& point, unsigned int flags)
     const int n = GetNodeCount();
     const int c = GetCurrentNode();
     const Axes& start = m_atPress;
-    CPoint press = GetDragStart();
-    if (creating && ctrl)
-        press = GetCreateCentre(press);
+    CPoint press = DragOrigin(flags);
     if (shift) {
         // Constrained from where the dragged handle itself started.
         if (!creating && c == 0)

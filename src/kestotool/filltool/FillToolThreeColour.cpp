@@ -16,9 +16,7 @@ void FillToolThreeColour::OnDragChange(CPoint& point, unsigned int flags)
     const bool ctrl = (flags & DragFlagCtrl) != 0;
     const bool creating = IsCreate();
     const Corners& s = CornersAtPress();
-    CPoint anchor = GetDragStart();
-    if (creating && ctrl)
-        anchor = GetCreateCentre(anchor);
+    CPoint anchor = DragOrigin(flags);
     if (shift) {
         if (creating) {
             SetCurrentNode(1);
