@@ -31,7 +31,7 @@ void FillToolLinear::OnDragStart(CPoint& point, unsigned int flags)
     SetCurrentNode(h);
     if (h < 0 || h >= GetNumGradientNodes())
         SetCurrentNode(GetNumGradientNodes() - 1);
-    GetStopLine(nullptr, m_startAtPress, m_endAtPress);
+    RememberLine();
 }
 
 void FillToolLinear::OnDragChange(CPoint& point, unsigned int flags)
@@ -42,14 +42,14 @@ void FillToolLinear::OnDragChange(CPoint& point, unsigned int flags)
     const bool creating = IsCreate();
     CPoint press = DragOrigin(flags);
     if (shift) {
-        CPoint anchor = m_startAtPress;
+        CPoint anchor = FromAtPress();
         if (creating) {
             anchor = press;
         } else if (IsFirstNode()) {
-            anchor = m_endAtPress;
-            press = m_startAtPress;
+            anchor = ToAtPress();
+            press = FromAtPress();
         } else if (IsLastNode()) {
-            press = m_endAtPress;
+            press = ToAtPress();
         }
         SnapAnglePoint(anchor, point, false);
     }
@@ -57,25 +57,19 @@ void FillToolLinear::OnDragChange(CPoint& point, unsigned int flags)
         // A click without a move still makes a line the user can see and grab.
         if (point == press)
             point = Kesto2D::OffsetPoint(point, 50, 50);
-        Snap(press, press);
-        if (!shift)
-            Snap(point, point);
         SetCurrentNode(GetNumGradientNodes() - 1);
-        SetStopLine(press, point);
+        DrawStopLine(press, point, shift);
         return;
     }
     const long long dx = static_cast<long long>(point.x) - press.x;
     const long long dy = static_cast<long long>(point.y) - press.y;
     if (IsFirstNode()) {
-        CPoint start = Kesto2D::OffsetPoint(m_startAtPress, dx, dy);
+        CPoint start = Kesto2D::OffsetPoint(FromAtPress(), dx, dy);
         if (!shift)
             Snap(start, start);
-        SetStopLine(start, m_endAtPress);
+        SetStopLine(start, ToAtPress());
     } else if (IsLastNode()) {
-        CPoint end = Kesto2D::OffsetPoint(m_endAtPress, dx, dy);
-        if (!shift)
-            Snap(end, end);
-        SetStopLine(m_startAtPress, end);
+        DragStopLineEnd(press, point, shift);
     } else {
         // The stop may overtake a neighbour; the current node keeps its number regardless.
         SetGradientValue(GetCurrentNode(), GetPercentageFromPoint(point));

@@ -24,10 +24,6 @@ public:
     bool CheckSize() const override;
     // The square that has the line as its centre line.
     K2DArrayPoint GetEffectiveBBox(const CFill* fill) override;
-
-private:
-    CPoint m_startAtPress;
-    CPoint m_endAtPress;
 };
 
 } // namespace KestoTool

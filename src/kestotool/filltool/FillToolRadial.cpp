@@ -18,7 +18,7 @@ void FillToolRadial::OnDragStart(CPoint& point, unsigned int flags)
     FillTool::OnDragStart(point, flags);
     // A press away from the handles leaves no current node (the linear tool picks its end).
     SetCurrentNode(IndexFromPoint(point));
-    GetStopLine(nullptr, m_centreAtPress, m_rimAtPress);
+    RememberLine();
 }
 
 void FillToolRadial::OnDragChange(CPoint& point, unsigned int flags)
@@ -29,39 +29,33 @@ void FillToolRadial::OnDragChange(CPoint& point, unsigned int flags)
     const bool creating = IsCreate();
     CPoint press = DragOrigin(flags);
     if (shift) {
-        CPoint anchor = m_centreAtPress;
+        CPoint anchor = FromAtPress();
         if (creating) {
             SetCurrentNode(GetNumGradientNodes() - 1);
             anchor = press;
         } else if (IsFirstNode()) {
-            press = m_centreAtPress;
+            press = FromAtPress();
         } else if (IsLastNode()) {
-            press = m_rimAtPress;
+            press = ToAtPress();
         }
         SnapAnglePoint(anchor, point, IsFirstNode());
     }
     if (creating) {
-        Snap(press, press);
-        if (!shift)
-            Snap(point, point);
-        SetStopLine(press, point);
+        DrawStopLine(press, point, shift);
         return;
     }
     const long long dx = static_cast<long long>(point.x) - press.x;
     const long long dy = static_cast<long long>(point.y) - press.y;
     if (IsFirstNode()) {
-        CPoint centre = Kesto2D::OffsetPoint(m_centreAtPress, dx, dy);
-        CPoint rim = Kesto2D::OffsetPoint(m_rimAtPress, dx, dy);
+        CPoint centre = Kesto2D::OffsetPoint(FromAtPress(), dx, dy);
+        CPoint rim = Kesto2D::OffsetPoint(ToAtPress(), dx, dy);
         if (!shift) {
             Snap(centre, centre);
             Snap(rim, rim);
         }
         SetStopLine(centre, rim);
     } else if (IsLastNode()) {
-        CPoint rim = Kesto2D::OffsetPoint(m_rimAtPress, dx, dy);
-        if (!shift)
-            Snap(rim, rim);
-        SetStopLine(m_centreAtPress, rim);
+        DragStopLineEnd(press, point, shift);
     } else if (GetCurrentNode() >= 0) {
         SetGradientValue(GetCurrentNode(), GetPercentageFromPoint(point));
     }

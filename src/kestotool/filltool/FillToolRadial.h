@@ -26,10 +26,6 @@ public:
     int GradientIndex(int handle) const override { return LastStopForExtendedNode(handle); }
     // The square on the diameter through E: side 2r, centred on C, turned with the radius.
     K2DArrayPoint GetEffectiveBBox(const CFill* fill) override;
-
-private:
-    CPoint m_centreAtPress;
-    CPoint m_rimAtPress;
 };
 
 } // namespace KestoTool

@@ -2,6 +2,7 @@
 
 #include "kestotool/gdi/CFillLinear.h"
 #include "kestotool/gdi/CFillRadial.h"
+#include "kestotool/geometry/CoordinateRange.h"
 
 #include <algorithm>
 
@@ -47,6 +48,24 @@ int FillToolStopLine<Fill>::GetPercentageFromPoint(CPoint point) const
     if (!GetStopLine(nullptr, from, to))
         return 1;
     return std::clamp(GetNodeValueFromPoints(from, to, point), 1, 9999);
+}
+
+template <class Fill>
+void FillToolStopLine<Fill>::DrawStopLine(CPoint press, CPoint& point, bool shift)
+{
+    Snap(press, press);
+    if (!shift)
+        Snap(point, point);
+    SetStopLine(press, point);
+}
+
+template <class Fill>
+void FillToolStopLine<Fill>::DragStopLineEnd(CPoint press, CPoint point, bool shift)
+{
+    CPoint to = Kesto2D::OffsetPoint(m_toAtPress, press, point);
+    if (!shift)
+        Snap(to, to);
+    SetStopLine(m_fromAtPress, to);
 }
 
 template class FillToolStopLine<KestoGDI::CFillLinear>;

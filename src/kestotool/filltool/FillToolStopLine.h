@@ -24,6 +24,21 @@ protected:
     // The line of fill (the tool's own when null); false without a fill of the kind.
     bool GetStopLine(const CFill* fill, CPoint& from, CPoint& to) const;
     void SetStopLine(const CPoint& from, const CPoint& to);
+
+    // The line as it was at the drag's press (RememberLine, from OnDragStart).
+    void RememberLine() { GetStopLine(nullptr, m_fromAtPress, m_toAtPress); }
+    const CPoint& FromAtPress() const { return m_fromAtPress; }
+    const CPoint& ToAtPress() const { return m_toAtPress; }
+    // A new line drawn from press to point: press snaps to the grid, and point too (in place)
+    // unless shift.
+    void DrawStopLine(CPoint press, CPoint& point, bool shift);
+    // The line's second point moved from the press by the pointer's move press -> point,
+    // snapped unless shift; the first stays.
+    void DragStopLineEnd(CPoint press, CPoint point, bool shift);
+
+private:
+    CPoint m_fromAtPress;
+    CPoint m_toAtPress;
 };
 
 } // namespace KestoTool
