@@ -17,12 +17,12 @@ public:
     FillToolBitmap(const CFill* fill, IToolSite* site) : FillToolStopLineArm(fill, site, "FillToolBitmap") {}
 
     void OnDragChange(CPoint& point, unsigned int flags) override;
-    void BuildHandleScene(HandleScene& scene) const override;
     void BaseGetHandles(K2DArrayPoint* handles) const override;
     // While the P2 handle is current, every handle edits the last stop.
     int GradientIndex(int handle) const override;
 
 protected:
+    void BuildHandleScene(HandleScene& scene) const override;
     // For tools built on this one, which report under their own class name.
     FillToolBitmap(const CFill* fill, IToolSite* site, const char* module) : FillToolStopLineArm(fill, site, module) {}
 };

@@ -20,7 +20,6 @@ public:
 
     void OnDragStart(CPoint& point, unsigned int flags) override;
     void OnDragChange(CPoint& point, unsigned int flags) override;
-    void BuildHandleScene(HandleScene& scene) const override;
     // A rectangle of r x r centred on C, r the distance C-R.
     CRect GetFillRect(const CFill* fill) override;
     // The rectangle (C, R), not normalised.
@@ -37,6 +36,9 @@ public:
     bool IsPointOnLine(const CPoint& point, int tolerance) const override;
     // The point's angle from C-R folded onto 0..180 degrees, as a position kept off the ends.
     int GetPercentageFromPoint(CPoint point) const override;
+
+protected:
+    void BuildHandleScene(HandleScene& scene) const override;
 
 private:
     bool GetSweep(const CFill* fill, CPoint& centre, CPoint& radiusEnd) const;

@@ -17,7 +17,6 @@ template <class Fill>
 class KESTO_API FillToolCornerColour : public FillToolGradient {
 public:
     void OnDragStart(CPoint& point, unsigned int flags) override;
-    void BuildHandleScene(HandleScene& scene) const override;
     CRect GetFillRect(const CFill* fill) override;
     int GetHintLine(CString* out) const override { return EmptyHint(out); }
     void BaseGetHandles(K2DArrayPoint* handles) const override;
@@ -26,6 +25,7 @@ public:
     K2DArrayPoint GetEffectiveBBox(const CFill* fill) override;
 
 protected:
+    void BuildHandleScene(HandleScene& scene) const override;
     // handleOrder: the corner each handle shows, one entry per corner of the kind; measured: the
     // two sides (pairs of corners) that must be at least 50 long.
     using Side = std::array<int, 2>;

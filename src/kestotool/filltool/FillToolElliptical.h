@@ -17,7 +17,6 @@ public:
 
     void OnDragStart(CPoint& point, unsigned int flags) override;
     void OnDragChange(CPoint& point, unsigned int flags) override;
-    void BuildHandleScene(HandleScene& scene) const override;
     // The bounding box of the ellipse (fill, or the tool's own when null).
     CRect GetFillRect(const CFill* fill) override;
     // The rectangle from C to the farther of E and F, not normalised.
@@ -34,6 +33,9 @@ public:
     // C +- (E - C) +- (F - C), as four corners, closed. It turns and shears with the fill, as
     // the other tools' outlines turn with theirs.
     K2DArrayPoint GetEffectiveBBox(const CFill* fill) override;
+
+protected:
+    void BuildHandleScene(HandleScene& scene) const override;
 
 private:
     struct Axes {

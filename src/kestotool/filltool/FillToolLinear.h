@@ -17,13 +17,15 @@ public:
 
     void OnDragStart(CPoint& point, unsigned int flags) override;
     void OnDragChange(CPoint& point, unsigned int flags) override;
-    void BuildHandleScene(HandleScene& scene) const override;
     // The rectangle (S, E) of fill (the tool's own when null), not normalised.
     CRect GetFillRect(const CFill* fill) override;
     int GetHintLine(CString* out) const override;
     bool CheckSize() const override;
     // The square that has the line as its centre line.
     K2DArrayPoint GetEffectiveBBox(const CFill* fill) override;
+
+protected:
+    void BuildHandleScene(HandleScene& scene) const override;
 };
 
 } // namespace KestoTool

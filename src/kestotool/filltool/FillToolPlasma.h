@@ -16,9 +16,11 @@ public:
     FillToolPlasma(const CFill* fill, IToolSite* site) : FillToolStopLineArm(fill, site, "FillToolPlasma") {}
 
     void OnDragChange(CPoint& point, unsigned int flags) override;
-    void BuildHandleScene(HandleScene& scene) const override;
     bool CanCreateNewNode() const override { return true; }
     void BaseGetHandles(K2DArrayPoint* handles) const override;
+
+protected:
+    void BuildHandleScene(HandleScene& scene) const override;
 };
 
 } // namespace KestoTool

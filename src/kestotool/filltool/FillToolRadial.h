@@ -17,7 +17,6 @@ public:
 
     void OnDragStart(CPoint& point, unsigned int flags) override;
     void OnDragChange(CPoint& point, unsigned int flags) override;
-    void BuildHandleScene(HandleScene& scene) const override;
     // The bounding box of the circle (fill, or the tool's own when null).
     CRect GetFillRect(const CFill* fill) override;
     // The rectangle (C, E), not normalised.
@@ -26,6 +25,9 @@ public:
     int GradientIndex(int handle) const override { return LastStopForExtendedNode(handle); }
     // The square on the diameter through E: side 2r, centred on C, turned with the radius.
     K2DArrayPoint GetEffectiveBBox(const CFill* fill) override;
+
+protected:
+    void BuildHandleScene(HandleScene& scene) const override;
 };
 
 } // namespace KestoTool

@@ -20,7 +20,6 @@ public:
 
     void OnDragStart(CPoint& point, unsigned int flags) override;
     void OnDragChange(CPoint& point, unsigned int flags) override;
-    void BuildHandleScene(HandleScene& scene) const override;
     // The bounding box of the parallelogram.
     CRect GetFillRect(const CFill* fill) override;
     // The rectangle from C to the farther of E and F, not normalised.
@@ -37,6 +36,9 @@ public:
     int GetPercentageFromPoint(CPoint point) const override;
     // Both axes longer than 49.
     bool CheckSize() const override;
+
+protected:
+    void BuildHandleScene(HandleScene& scene) const override;
 
 private:
     struct Axes {

@@ -61,7 +61,6 @@ public:
     void OnDragStart(CPoint& point, unsigned int flags) override;
     void OnDragChange(CPoint& point, unsigned int flags) override;
     void OnDragEnd(CPoint& point, unsigned int flags) override;
-    void BuildHandleScene(HandleScene& scene) const override;
     void InitContextButtons(CXTPCommandBars* bars) override;
 
     void OnFillControlBoxModeClicked();
@@ -77,6 +76,7 @@ public:
     const std::vector<int>& GetYSnapOffsets() const { return m_ySnapOffsets; }
 
 protected:
+    void BuildHandleScene(HandleScene& scene) const override;
     const KestoPlatform::AFX_MSGMAP* GetMessageMap() const override;
     // The placed box on the page, rounded.
     bool GetPoints(const CFill* fill, Points& points) const override;
