@@ -78,11 +78,10 @@ TEST_F(CornerTest, ThreeColourArmsTurnTheOtherArmOrMoveItByThePerpendicularWithC
     EXPECT_EQ(Last(), (P{{0, 0}, {0, 100}, {-100, 0}}));
     site.Drag(*tool, {-100, 0}, {{0, -100}}); // P2 a quarter turn back: P1 follows
     EXPECT_EQ(Last(), (P{{0, 0}, {-100, 0}, {0, -100}}));
-    // With Ctrl the other arm moves by the perpendicular rule with P1's flag: the pointer's
-    // offset turned from P2's arm onto P1's and scaled by |P0P1| / |P0P2|.
+    // With Ctrl the other arm follows, keeping the ratio of the arms and the angle between them.
     auto ctrl = Make<FillToolThreeColour>(kSquareArms);
     site.Drag(*ctrl, {100, 0}, {{150, 0}}, DragFlagCtrl);
-    EXPECT_EQ(Last(), (P{{0, 0}, {150, 0}, {0, 50}}));
+    EXPECT_EQ(Last(), (P{{0, 0}, {150, 0}, {0, 150}}));
 }
 
 TEST_F(CornerTest, ThreeColourShiftSeesTheOriginFromP1AndTheArmsFromP0)
@@ -147,11 +146,11 @@ TEST_F(CornerTest, FourColourCtrlMovesTheOppositeCornerAlongTheDiagonal)
     auto tool = Make<FillToolFourColour>(kSquare);
     site.Drag(*tool, {100, 100}, {{150, 130}}, DragFlagCtrl);
     EXPECT_EQ(Last(), (P{{0, 0}, {140, 0}, {0, 140}, {140, 140}}));
-    // P1 with Ctrl: P2 moves by the perpendicular offset (as for the three-colour tool) and P3
-    // by both offsets.
+    // P1 with Ctrl: P2 follows, keeping the ratio and the angle (as for the three-colour tool),
+    // and P3 moves by both offsets.
     auto side = Make<FillToolFourColour>(kSquare);
     site.Drag(*side, {100, 0}, {{150, 0}}, DragFlagCtrl);
-    EXPECT_EQ(Last(), (P{{0, 0}, {150, 0}, {0, 50}, {150, 50}}));
+    EXPECT_EQ(Last(), (P{{0, 0}, {150, 0}, {0, 150}, {150, 150}}));
 }
 
 TEST_F(CornerTest, FourColourCreationBuildsTheFourthCornerBeforeSnapping)

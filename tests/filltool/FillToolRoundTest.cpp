@@ -191,11 +191,10 @@ TEST_F(RoundTest, EllipticalRimTurnsTheShapeHandleOrWithCtrlKeepsTheAspectRatio)
     site.Drag(*tool, {100, 0}, {{0, 100}}); // a quarter turn: F turns with E
     EXPECT_EQ(Last(), (P{{0, 0}, {0, 100}, {50, 0}}));
     auto ctrl = Make<FillToolElliptical>(Ellipse({0, 0}, {100, 0}, {0, -50}));
-    // With Ctrl, F moves by the rim's offset turned from F's direction to E's and scaled by
-    // |CE| / |CF|: this tool passes the rim flag first to the perpendicular rule (the square tool
-    // passes it second), so a rim pulled 100 right moves F 200 down.
+    // With Ctrl, F follows the rim and keeps |CF| / |CE| and the right angle: a rim pulled out
+    // to twice its length takes F out to twice its own.
     site.Drag(*ctrl, {100, 0}, {{200, 0}}, DragFlagCtrl);
-    EXPECT_EQ(Last(), (P{{0, 0}, {200, 0}, {0, 150}}));
+    EXPECT_EQ(Last(), (P{{0, 0}, {200, 0}, {0, -100}}));
 }
 
 TEST_F(RoundTest, EllipticalShapeHandleTurnsTheRimAndShowsTheLastStop)

@@ -48,6 +48,9 @@ void FillToolBitmap::OnDragChange(CPoint& point, unsigned int flags)
         ConstrainAnglePolar(s.p0, point);
     }
     const int node = GetCurrentNode();
+    // With Ctrl on an arm's end the other arm follows it, keeping the ratio of the arms and the
+    // angle between them: the flag of the arm that is not dragged is set. A new fill sets neither,
+    // so its third point stays on the side of the first move.
     const CPoint perpendicular =
         CalculatePerpendicular(s.p0, s.p1, s.p2, anchor, point, !creating && node == n, !creating && node == n - 1);
     if (creating) {

@@ -70,8 +70,11 @@ void FillToolElliptical::OnDragChange(CPoint& point, unsigned int flags)
             press = start.shape;
         SnapAnglePoint(anchor, point, IsFirstNode());
     }
-    const CPoint perpendicular =
-        CalculatePerpendicular(start.centre, start.end, start.shape, press, point, IsLastNode(), IsExtendedNode());
+    // With Ctrl on an arm's end the other arm follows it, keeping the ratio of the arms and the
+    // angle between them: the flag of the arm that is not dragged is set. A new fill sets neither,
+    // so its third point stays on the side of the first move.
+    const CPoint perpendicular = CalculatePerpendicular(start.centre, start.end, start.shape, press, point,
+                                                        !creating && IsExtendedNode(), !creating && IsLastNode());
     if (creating) {
         // No snapping while an ellipse is drawn: the shape point follows the pointer exactly.
         SetCurrentNode(GetNumGradientNodes() - 1);

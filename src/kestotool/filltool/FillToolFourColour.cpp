@@ -54,7 +54,10 @@ void FillToolFourColour::OnDragChange(CPoint& point, unsigned int flags)
         SnapAnglePoint(anchor, point, false);
     }
     const int selector = creating ? -1 : node == 3 ? 2 : node == 1 ? 1 : 0;
-    const CPoint perpendicular = CalculatePerpendicular(s.p0, s.p1, s.p2, anchor, point, selector == 1, selector == 2);
+    // With Ctrl on an arm's end the other arm follows it, keeping the ratio of the arms and the
+    // angle between them: the flag of the arm that is not dragged is set. A new fill sets neither,
+    // so its third point stays on the side of the first move.
+    const CPoint perpendicular = CalculatePerpendicular(s.p0, s.p1, s.p2, anchor, point, selector == 2, selector == 1);
     Kesto2D::K2DVector d = Between(anchor, point);
     const Kesto2D::K2DVector e = Between(anchor, perpendicular);
     if (creating) {

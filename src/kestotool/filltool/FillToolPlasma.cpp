@@ -37,8 +37,11 @@ void FillToolPlasma::OnDragChange(CPoint& point, unsigned int flags)
             anchor = s.p2;
         ConstrainAngle(anchor, point, false);
     }
-    const CPoint perpendicular =
-        CalculatePerpendicular(s.p0, s.p1, s.p2, anchor, point, node == count - 1, node == count);
+    // With Ctrl on an arm's end the other arm follows it, keeping the ratio of the arms and the
+    // angle between them: the flag of the arm that is not dragged is set. A new fill sets neither,
+    // so its third point stays on the side of the first move.
+    const CPoint perpendicular = CalculatePerpendicular(s.p0, s.p1, s.p2, anchor, point, !creating && node == count,
+                                                        !creating && node == count - 1);
     if (creating) {
         SetCurrentNode(count - 1);
         SetPoints(DrawnFigure(anchor, point, perpendicular, shift));

@@ -67,8 +67,11 @@ void FillToolSquare::OnDragChange(CPoint& point, unsigned int flags)
             press = start.shape;
         SnapAnglePoint(press, point, false);
     }
-    const CPoint perpendicular =
-        CalculatePerpendicular(start.centre, start.end, start.shape, press, point, c == n, c == n - 1);
+    // With Ctrl on an arm's end the other arm follows it, keeping the ratio of the arms and the
+    // angle between them: the flag of the arm that is not dragged is set. A new fill sets neither,
+    // so its third point stays on the side of the first move.
+    const CPoint perpendicular = CalculatePerpendicular(start.centre, start.end, start.shape, press, point,
+                                                        !creating && c == n, !creating && c == n - 1);
     if (creating) {
         Snap(press, press);
         if (!shift)

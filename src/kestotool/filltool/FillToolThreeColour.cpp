@@ -30,7 +30,11 @@ void FillToolThreeColour::OnDragChange(CPoint& point, unsigned int flags)
         }
     }
     const int node = GetCurrentNode();
-    const CPoint perpendicular = CalculatePerpendicular(s.p0, s.p1, s.p2, anchor, point, node == 1, node == 2);
+    // With Ctrl on an arm's end the other arm follows it, keeping the ratio of the arms and the
+    // angle between them: the flag of the arm that is not dragged is set. A new fill sets neither,
+    // so its third point stays on the side of the first move.
+    const CPoint perpendicular =
+        CalculatePerpendicular(s.p0, s.p1, s.p2, anchor, point, !creating && node == 2, !creating && node == 1);
     if (creating) {
         SetCorners(DrawnFigure(anchor, point, perpendicular, shift));
         SetCurrentNode(1);
