@@ -12,6 +12,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <memory>
+
 using namespace KestoTool;
 using KestoGDI::VectorDrawing;
 
@@ -64,6 +67,22 @@ protected:
     {
         const CFillVector::Box b = Last().GetRawBox();
         return {b.origin.Round(), b.xEnd.Round(), b.yEnd.Round()};
+    }
+    // The tool's fill painted at 1 pixel per 400 units over (-20000, -100000) .. (100000, 20000):
+    // the pixel at a point given relative to a tile's origin.
+    static std::function<std::uint32_t(CPoint, int, int)> Painted(const FillTool& tool)
+    {
+        constexpr double scale = 1.0 / 400;
+        const std::optional<KestoRaster::Paint> paint = KestoGDI::FillPaint::From(*tool.GetFill(), scale);
+        auto pixels = std::make_shared<std::vector<std::uint32_t>>(300 * 300);
+        const KestoRaster::Affine toDevice{scale, 0, 0, scale, 50, 250};
+        if (paint && paint->image)
+            KestoRaster::Render(KestoRaster::PreparedPaint(*paint, toDevice, KestoRaster::Output::Argb32),
+                                {pixels->data(), 300, 300, 300 * 4, KestoRaster::Output::Argb32}, {0, 0, 300, 300});
+        return [pixels, toDevice](CPoint tile, int dx, int dy) {
+            const KestoRaster::Point p = toDevice.Apply({double(tile.x) + dx, double(tile.y) + dy});
+            return (*pixels)[static_cast<std::size_t>(p.y) * 300 + static_cast<std::size_t>(p.x)];
+        };
     }
 };
 
@@ -131,16 +150,22 @@ TEST_F(VectorToolTest, SnapListsAreInTheirOrderAndTheFirstWithinReachWins)
 
 TEST_F(VectorToolTest, RotationHandlesCommitWholeDegreesAndCtrlStepsFifteen)
 {
-    // A's rotation handle hangs 15000 above A at (40000, 0); the pointer is 39.8 degrees
-    // clockwise of that, which counts as a turn of -39.8 degrees.
+    // A's rotation handle hangs 15000 above A at (40000, 0); a turn clockwise on screen counts
+    // positive, as atan2 measures on the page, and whole degrees are kept (towards zero).
     struct Case {
+        CPoint to;
         unsigned flags;
         double degrees;
-    } cases[] = {{0, -39}, {DragFlagCtrl, -45}};
+    } cases[] = {
+        {{50000, -12000}, 0, 39},            // 39.8 degrees clockwise
+        {{50000, -12000}, DragFlagCtrl, 45}, // 15-degree steps with Ctrl
+        {{48301, -12494}, 0, 33},            // 33.6 degrees clockwise
+        {{28116, -9152}, DragFlagCtrl, -45}, // 52.4 degrees anticlockwise
+    };
     for (const Case& c : cases) {
         auto tool = Make(Vector(), FillToolVector::SpacingMode);
-        site.Drag(*tool, {40000, -15000}, {{50000, -12000}}, c.flags);
-        EXPECT_EQ(Last().GetAdditionalRotation2(), c.degrees);
+        site.Drag(*tool, {40000, -15000}, {c.to}, c.flags);
+        EXPECT_EQ(Last().GetAdditionalRotation2(), c.degrees) << c.to.x << "," << c.to.y;
         EXPECT_EQ(Last().GetAdditionalRotation(), 0);
     }
 }
@@ -229,18 +254,7 @@ TEST_F(VectorToolTest, TheTilesArePaintedWhereTheHandlesSayTheyAre)
     site.Drag(*tool, {0, -40000}, {{-8000, -48000}}, DragFlagShift);
     const P handles = Handles(*tool);
     ASSERT_EQ(handles[1], CPoint(46000, 4000));
-    // Paint 1 pixel per 400 units over (-20000, -100000) .. (100000, 20000).
-    constexpr double scale = 1.0 / 400;
-    const std::optional<KestoRaster::Paint> paint = KestoGDI::FillPaint::From(*tool->GetFill(), scale);
-    ASSERT_TRUE(paint && paint->image);
-    std::vector<std::uint32_t> pixels(300 * 300);
-    const KestoRaster::Affine toDevice{scale, 0, 0, scale, 50, 250};
-    KestoRaster::Render(KestoRaster::PreparedPaint(*paint, toDevice, KestoRaster::Output::Argb32),
-                        {pixels.data(), 300, 300, 300 * 4, KestoRaster::Output::Argb32}, {0, 0, 300, 300});
-    const auto at = [&](CPoint tile, int dx, int dy) {
-        const KestoRaster::Point p = toDevice.Apply({double(tile.x) + dx, double(tile.y) + dy});
-        return pixels[static_cast<std::size_t>(p.y) * 300 + static_cast<std::size_t>(p.x)];
-    };
+    const auto at = Painted(*tool);
     // Each tile's origin is its bottom-left corner; the red quarter is its top-left.
     for (const CPoint tile : {CPoint(0, 0), handles[0], handles[1]}) {
         SCOPED_TRACE(testing::Message() << tile.x << "," << tile.y);
@@ -248,7 +262,22 @@ TEST_F(VectorToolTest, TheTilesArePaintedWhereTheHandlesSayTheyAre)
         EXPECT_EQ(at(tile, 18000, -22000), 0xFFFF0000u);
         EXPECT_EQ(at(tile, 22000, -18000), 0u);
     }
-    EXPECT_EQ(KestoGDI::FillPaint::From(*tool->GetFill(), scale)->image->argb, paint->image->argb);
+}
+
+TEST_F(VectorToolTest, ATurnedTileIsPaintedTurnedTheWayItsHandleTurned)
+{
+    auto tool = Make(Vector(), FillToolVector::SpacingMode);
+    const P before = Handles(*tool);
+    // Tile A's rotation handle, a quarter turn clockwise: from above A to its right.
+    site.Drag(*tool, before[3], {Kesto2D::OffsetPoint(before[1], 15000, 0)});
+    ASSERT_EQ(Last().GetAdditionalRotation2(), 90);
+    EXPECT_EQ(Handles(*tool)[3], Kesto2D::OffsetPoint(before[1], 15000, 0));
+    // The red quarter, top-left upright, is now top-right.
+    const auto at = Painted(*tool);
+    EXPECT_EQ(at(before[1], 36000, -36000), 0xFFFF0000u);
+    EXPECT_EQ(at(before[1], 24000, -24000), 0xFFFF0000u);
+    EXPECT_NE(at(before[1], 4000, -36000), 0xFFFF0000u);
+    EXPECT_EQ(at({0, 0}, 4000, -36000), 0xFFFF0000u); // the untouched tile still upright
 }
 
 TEST_F(VectorToolTest, SizeAndReportsWithoutAFill)

@@ -98,8 +98,9 @@ void FillToolVector::SpacingHandles(const CFillVector& fill, const Points& p, K2
     // Turned half round with the spacing handles when the fill is flipped both ways.
     const double reach = fill.HFlipped() && fill.VFlipped() ? -RotationHandleLength : RotationHandleLength;
     const auto rotationHandle = [&](const K2DDblPoint& tile, double degrees) {
+        // The tile's own turn is clockwise on screen, as atan2 measures it.
         const double a =
-            zero + m_tileRotation + Kesto2D::KCAngle(Kesto2D::RoundHalfAwayFromZero(degrees * 100)).ToScreenRadians();
+            zero + m_tileRotation + Kesto2D::KCAngle(Kesto2D::RoundHalfAwayFromZero(degrees * 100)).ToRadians();
         return Kesto2D::SaturateToRange(tile + Kesto2D::K2DVector(std::cos(a), std::sin(a)) * reach).Round();
     };
     handles->Add(next.b.Round());
@@ -247,8 +248,9 @@ void FillToolVector::OnDragChangeSpaceAdjust(CPoint& point, unsigned int flags)
         const CPoint tile = m_spacingHandlesAtPress.GetAt(node - 2);
         const double dx = static_cast<double>(pt.x) - tile.x;
         const double dy = static_cast<double>(pt.y) - tile.y;
+        // Measured as atan2 measures on the page (y down): a turn clockwise on screen is positive.
         const double angle = std::atan2(dy, dx) - GetZeroDegrees(fill) - m_tileRotation;
-        int hundredths = Kesto2D::KCAngle::FromScreenRadians(angle).Value();
+        int hundredths = Kesto2D::KCAngle::FromRadians(angle).Value();
         if (flags & DragFlagCtrl)
             hundredths =
                 Kesto2D::RoundHalfAwayFromZero(static_cast<double>(hundredths) / kRotationStep) * kRotationStep;

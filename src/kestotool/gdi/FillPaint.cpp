@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 #include <utility>
 
 namespace KestoGDI {
@@ -152,8 +153,9 @@ void PaintOfKind::Visit(const CFillVector& fill)
     for (int j = 0; j < period; ++j) {
         for (int i = 0; i < period; ++i) {
             const double degrees = (i ? fill.GetAdditionalRotation2() : 0) + (j ? fill.GetAdditionalRotation() : 0);
+            // A tile's turn is measured clockwise on screen, as its rotation handle measures it.
             const K2DLtGeneral turn = K2DLtGeneral::About(
-                centre, Kesto2D::K2DLtRotate(Kesto2D::KCAngle(static_cast<int>(std::lround(degrees * 100)))));
+                centre, Kesto2D::K2DLtRotate(Kesto2D::KCAngle::FromScreenRadians(degrees * std::numbers::pi / 180)));
             const K2DLtGeneral m =
                 place.Then(turn)
                     .Then(Kesto2D::K2DLtTranslate((next.a - box.origin).dx * i + (next.b - box.origin).dx * j,

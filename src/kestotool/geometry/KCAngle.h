@@ -30,10 +30,9 @@ public:
     // Radians in the same anticlockwise-on-screen sense, rounded to the nearest hundredth.
     static KCAngle FromRadians(double radians);
     double ToRadians() const;
-    // The one conversion from and to radians measured clockwise on screen, as atan2(dy, dx)
-    // gives them in document coordinates.
+    // The one conversion from radians measured clockwise on screen, as atan2(dy, dx) gives them
+    // in document coordinates.
     static KCAngle FromScreenRadians(double clockwise) { return FromRadians(-clockwise); }
-    double ToScreenRadians() const { return -ToRadians(); }
 
     // The same angle in [0, 36000).
     [[nodiscard]] constexpr KCAngle Normalized() const
