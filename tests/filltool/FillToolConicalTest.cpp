@@ -3,6 +3,7 @@
 #include "kestotool/gdi/CFillConical.h"
 #include "kestotool/gdi/CFillLinear.h"
 #include "kestotool/gdi/CRGBColour.h"
+#include "kestotool/gdi/CRecordingRenderTarget.h"
 #include "kestotool/gdi/CTransparencyConical.h"
 #include "kestotool/kernel/VerifyReporter.h"
 #include "kestotool/tool/Module.h"
@@ -74,6 +75,16 @@ TEST_F(ConicalTest, HandlesRunFromRRoundTheHalfCircleToTheOppositePointThenTheCe
         EXPECT_TRUE(tool->IsPointOnLine(handles.GetAt(i + 1), -1)) << positions[i];
         EXPECT_NEAR(tool->GetPercentageFromPoint(handles.GetAt(i + 1)), positions[i], 30) << positions[i];
     }
+}
+
+TEST_F(ConicalTest, TheFirstStopsHandleIsDrawnAgainLastOnTop)
+{
+    auto tool = Tool(Sweep({100, 100}, {200, 100}, {5000}));
+    KestoGDI::CRecordingRenderTarget target;
+    tool->Draw(&target, false, K2DLtGeneral());
+    // The last record is the first stop's handle (the current one), at R.
+    ASSERT_FALSE(target.Log().empty());
+    EXPECT_NE(target.Log().back().find(" (200,100) "), std::string::npos) << target.Log().back();
 }
 
 TEST_F(ConicalTest, TheTwoHalvesFoldOntoOnePositionButOnlyOneIsTheLine)

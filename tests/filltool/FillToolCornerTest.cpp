@@ -4,6 +4,7 @@
 #include "kestotool/gdi/CFillFourColour.h"
 #include "kestotool/gdi/CFillThreeColour.h"
 #include "kestotool/gdi/CRGBColour.h"
+#include "kestotool/gdi/CRecordingRenderContext.h"
 #include "kestotool/gdi/CRecordingRenderTarget.h"
 #include "kestotool/kernel/VerifyReporter.h"
 #include "support/TestToolSite.h"
@@ -82,6 +83,22 @@ TEST_F(CornerTest, ThreeColourArmsTurnTheOtherArmOrMoveItByThePerpendicularWithC
     auto ctrl = Make<FillToolThreeColour>(kSquareArms);
     site.Drag(*ctrl, {100, 0}, {{150, 0}}, DragFlagCtrl);
     EXPECT_EQ(Last(), (P{{0, 0}, {150, 0}, {0, 150}}));
+}
+
+TEST_F(CornerTest, TheOutlineWidensItsHaloUnderADraggedColourOnBothRenderPaths)
+{
+    auto tool = Make<FillToolThreeColour>(kSquareArms);
+    CPoint over(50, 50);
+    const KestoGDI::CRGBColour red(KestoPlatform::RGB(255, 0, 0));
+    tool->SetGhostNode(over, &red);
+    KestoGDI::CRecordingRenderTarget target;
+    tool->Draw(&target, false, K2DLtGeneral());
+    KestoGDI::CRecordingRenderContext context(1.0);
+    tool->Draw(&context);
+    ASSERT_FALSE(target.Log().empty());
+    ASSERT_FALSE(context.Log().empty());
+    EXPECT_NE(target.Log()[0].find("pen=FFFFFF/192/6"), std::string::npos) << target.Log()[0];
+    EXPECT_NE(context.Log()[0].find("pen=FFFFFF/192/6"), std::string::npos) << context.Log()[0];
 }
 
 TEST_F(CornerTest, ThreeColourShiftSeesTheOriginFromP1AndTheArmsFromP0)

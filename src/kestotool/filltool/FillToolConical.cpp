@@ -91,6 +91,9 @@ void FillToolConical::BuildHandleScene(HandleScene& scene) const
     const KestoGDI::ColourIntPairs& stops = GetGradientNodes();
     for (int i = 0; i < stops.GetSize(); ++i)
         scene.AddHandle(StopPoint(c, r, stops.GetAt(i)->GetValue()), &stops.GetAt(i)->GetColour(), i);
+    // The first stop's handle once more, last, so that it shows on top.
+    if (stops.GetSize() > 0)
+        scene.AddHandle(StopPoint(c, r, stops.GetAt(0)->GetValue()), &stops.GetAt(0)->GetColour(), 0);
 }
 
 CRect FillToolConical::GetFillRect(const CFill* fill)

@@ -138,7 +138,7 @@ void FillTool::Draw(CRenderContext* context) const
         std::visit(Overloaded{
                        [&](const HandleScene::Line& l) { DrawControlLine(context, l.a, l.b, false); },
                        [&](const HandleScene::Curve& c) { DrawControlLine(context, K2DCurve(c.curve), false); },
-                       [&](const HandleScene::Polyline& p) { DrawControlLine(context, p.points, false); },
+                       [&](const HandleScene::Polyline& p) { DrawControlLine(context, p.points, p.contextHighlight); },
                        [&](const HandleScene::Handle& h) { DrawBoxControl(context, h.at, h.colour, h.index); },
                    },
                    item);

@@ -547,17 +547,18 @@ void FillToolGradient::AddControlBoxes(HandleScene& scene) const
     }
 }
 
-void FillToolGradient::AddHandleOutline(HandleScene& scene) const
+void FillToolGradient::AddHandleOutline(HandleScene& scene, bool onContextToo) const
 {
     K2DArrayPoint handles;
     BaseGetHandles(&handles);
     handles.AddClose(0);
-    scene.AddPolyline(std::move(handles), true);
+    scene.AddPolyline(std::move(handles), true, onContextToo);
 }
 
 void FillToolGradient::AddCorners(HandleScene& scene) const
 {
-    AddHandleOutline(scene);
+    // The corner kinds highlight their outline on both render paths.
+    AddHandleOutline(scene, true);
     K2DArrayPoint handles;
     BaseGetHandles(&handles);
     const ColourIntPairs& nodes = GetGradientNodes();

@@ -60,8 +60,9 @@ public:
     void DeleteCurrentNode() { DeleteGradientNode(GetCurrentNode()); }
     // A box per handle that shows a stop, in the stop's colour.
     void AddControlBoxes(HandleScene& scene) const;
-    // A closed control line through the handles in handle order.
-    void AddHandleOutline(HandleScene& scene) const;
+    // A closed control line through the handles in handle order, highlighted on the render
+    // target (and with onContextToo on the render context as well).
+    void AddHandleOutline(HandleScene& scene, bool onContextToo = false) const;
     // The corner tools' handles: the closed line through them, then a box per node-list entry i
     // at handle i in entry i's colour (their node list holds one colour per corner).
     void AddCorners(HandleScene& scene) const;
