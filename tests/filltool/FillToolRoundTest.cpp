@@ -13,6 +13,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include <cmath>
 
 using namespace KestoTool;
@@ -183,6 +185,46 @@ TEST_F(RoundTest, EllipticalCentreSnapsAloneAndTheAxesKeepTheOffset)
     auto tool = Make<FillToolElliptical>(Ellipse({100, 100}, {200, 100}, {100, 50}));
     site.Drag(*tool, {100, 100}, {{113, 104}});
     EXPECT_EQ(Last(), (P{{110, 100}, {213, 104}, {113, 54}}));
+}
+
+TEST_F(RoundTest, ShiftPutsTheDraggedEndOnAnAngleStepFromTheCentreWhereverItWasPressed)
+{
+    // Pressed 3 right and 2 down of the handle: with Shift the end goes where the constrained
+    // pointer is, not by the pointer's move from the press.
+    site.angleStep = 4500;
+    struct Case {
+        const char* name;
+        std::function<std::unique_ptr<FillTool>()> make;
+        CPoint handle;
+        int control;
+    } cases[] = {
+        {"radial rim",
+         [&] {
+             return std::unique_ptr<FillTool>(Make<FillToolRadial>(Circle({100, 100}, {200, 100})));
+         },
+         {200, 100},
+         1},
+        {"elliptical rim",
+         [&] {
+             return std::unique_ptr<FillTool>(Make<FillToolElliptical>(Ellipse({100, 100}, {200, 100}, {100, 50})));
+         },
+         {200, 100},
+         1},
+        {"elliptical shape",
+         [&] {
+             return std::unique_ptr<FillTool>(Make<FillToolElliptical>(Ellipse({100, 100}, {200, 100}, {100, 50})));
+         },
+         {100, 50},
+         2},
+    };
+    for (const Case& c : cases) {
+        auto tool = c.make();
+        site.Drag(*tool, Kesto2D::OffsetPoint(c.handle, 3, 2), {{190, 187}}, DragFlagShift); // 2 off the diagonal
+        const CPoint end = Last()[static_cast<std::size_t>(c.control)];
+        const long long dx = end.x - 100LL, dy = end.y - 100LL;
+        EXPECT_TRUE(dx == 0 || dy == 0 || dx == dy || dx == -dy) << c.name << ": " << end.x << "," << end.y;
+        EXPECT_EQ(Last()[0], CPoint(100, 100)) << c.name;
+    }
 }
 
 TEST_F(RoundTest, EllipticalRimTurnsTheShapeHandleOrWithCtrlKeepsTheAspectRatio)

@@ -110,6 +110,9 @@ TEST_F(TileTest, BitmapWithoutStopsHasItsThreeHandlesAndCtrlKeepsTheTileSquare)
     EXPECT_EQ(Last(), (P{{0, 0}, {150, 0}, {0, 150}}));
     site.Drag(*tool, {0, 150}, {{-150, 0}}); // P2 a quarter turn: P1 turns with it
     EXPECT_EQ(Last(), (P{{0, 0}, {0, 150}, {-150, 0}}));
+    auto plain = Make<FillToolBitmap>(Tile());
+    site.Drag(*plain, {100, 0}, {{0, 100}}); // P1 a quarter turn: P2 turns with it
+    EXPECT_EQ(Last(), (P{{0, 0}, {0, 100}, {-100, 0}}));
 }
 
 TEST_F(TileTest, BitmapShiftOnP1CountsOnlyWithCtrl)
