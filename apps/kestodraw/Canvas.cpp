@@ -409,7 +409,8 @@ void Canvas::paintEvent(QPaintEvent*)
         for (double y = 0; y <= m_document.height; y += grid)
             painter.drawLine(view.map(QLineF(0, y, m_document.width, y)));
     }
-    m_painter.Paint(painter, m_document, view, rect());
+    // The selection as the tool shapes it while a gesture lasts.
+    m_painter.Paint(painter, m_document, view, rect(), {Selected(), EditsTransparency(), m_host.LiveFill()});
     if (Selected() >= 0) {
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(QPen(QColor(40, 40, 40), 1, Qt::DashLine));

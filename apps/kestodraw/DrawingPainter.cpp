@@ -13,12 +13,18 @@ namespace KestoDraw {
 
 using namespace KestoRaster;
 
-void DrawingPainter::Paint(QPainter& painter, const Document& document, const QTransform& view, const QRect& deviceClip)
+void DrawingPainter::Paint(QPainter& painter, const Document& document, const QTransform& view, const QRect& deviceClip,
+                           const LiveFill& live)
 {
     for (Cached& c : m_cache)
         c.used = false;
-    for (const Shape& shape : document.shapes)
-        PaintShape(painter, shape, view, deviceClip);
+    for (std::size_t i = 0; i < document.shapes.size(); ++i) {
+        const Shape& shape = document.shapes[i];
+        const bool shown = live.fill && live.shape == static_cast<int>(i);
+        const KestoGDI::CFill& fill = shown && !live.transparency ? *live.fill : *shape.fill;
+        const KestoGDI::CFill* transparency = shown && live.transparency ? live.fill : shape.transparency.get();
+        PaintShape(painter, shape, view, deviceClip, fill, transparency);
+    }
     std::erase_if(m_cache, [](const Cached& c) { return !c.used; });
 }
 
@@ -35,7 +41,8 @@ const std::optional<Paint>& DrawingPainter::PaintOf(const KestoGDI::CFill& fill,
     return it->paint;
 }
 
-void DrawingPainter::PaintShape(QPainter& painter, const Shape& shape, const QTransform& view, const QRect& deviceClip)
+void DrawingPainter::PaintShape(QPainter& painter, const Shape& shape, const QTransform& view, const QRect& deviceClip,
+                                const KestoGDI::CFill& fillShown, const KestoGDI::CFill* transparency)
 {
     const QPainterPath outline = view.map(shape.Outline());
     const QRect area = outline.boundingRect().toAlignedRect().adjusted(-1, -1, 1, 1) & deviceClip;
@@ -51,14 +58,14 @@ void DrawingPainter::PaintShape(QPainter& painter, const Shape& shape, const QTr
     QImage fill(w, h, QImage::Format_ARGB32_Premultiplied);
     fill.fill(Qt::transparent);
     const Target fillTarget{fill.bits(), w, h, fill.bytesPerLine(), Output::Argb32};
-    if (const std::optional<KestoRaster::Paint>& paint = PaintOf(*shape.fill, scale))
+    if (const std::optional<KestoRaster::Paint>& paint = PaintOf(fillShown, scale))
         Render(PreparedPaint(*paint, toLayer, Output::Argb32), fillTarget, all);
     else
         fill.fill(QColor(200, 200, 200)); // a kind the renderer does not paint shows as plain grey
 
     QImage shown = fill;
-    if (shape.transparency) {
-        if (const std::optional<KestoRaster::Paint>& mask = PaintOf(*shape.transparency, scale)) {
+    if (transparency) {
+        if (const std::optional<KestoRaster::Paint>& mask = PaintOf(*transparency, scale)) {
             std::vector<std::uint8_t> levels(static_cast<std::size_t>(w) * h, 0);
             const Target maskTarget{levels.data(), w, h, w, Output::Mask8};
             Render(PreparedPaint(*mask, toLayer, Output::Mask8), maskTarget, all);

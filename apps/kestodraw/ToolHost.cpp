@@ -55,6 +55,11 @@ RefPtr<CFill> StarterFill(const CFill* current, bool transparency, const KestoPl
 ToolHost::ToolHost(Document& document, QUndoStack& undo, QWidget& view)
     : m_document(document), m_undo(undo), m_view(view), m_bars(std::make_unique<KestoPlatform::CXTPCommandBars>())
 {
+    // A copy: the tool goes on reshaping its own fill, and the painter keeps paints by fill.
+    m_gesture.SetShowNow([this](const CFill& working) {
+        m_live = working.Clone();
+        emit Changed();
+    });
 }
 
 ToolHost::~ToolHost()
@@ -165,6 +170,7 @@ void ToolHost::RebuildTool()
     m_rebuildPending = false;
     emit ToolAboutToChange();
     m_gesture.Cancel();
+    m_live = nullptr;
     m_tool.reset();
     // One set of bars for the host's life: the tools register their images with it once.
     m_bars->RemoveAll();
@@ -252,6 +258,7 @@ bool ToolHost::StartGesture(CPoint at, unsigned flags, bool create)
 void ToolHost::EndGesture(CPoint at, unsigned flags)
 {
     const std::optional<KestoTool::ToolGesture::Step> step = m_gesture.Release(at, flags);
+    m_live = nullptr;
     Shape* shape = SelectedShape();
     if (!shape || !step) {
         if (!m_before.empty())

@@ -45,6 +45,9 @@ public:
 
     // The running tool; null without a selection or for a kind without a tool.
     KestoTool::FillTool* Tool() const { return m_tool.get(); }
+    // While a gesture lasts, the selection's fill (or transparency) as the tool shapes it, to be
+    // painted in place of the document's; null otherwise.
+    const KestoGDI::CFill* LiveFill() const { return m_live.get(); }
     KestoPlatform::CXTPCommandBars* ContextBars() const { return m_bars.get(); }
 
     // Document units per screen pixel come from the view's zoom (document pixels per unit).
@@ -154,6 +157,7 @@ private:
 
     KestoTool::ToolGesture m_gesture;
     std::vector<Shape> m_before; // the shapes at the gesture's press
+    KestoKernel::RefPtr<const KestoGDI::CFill> m_live;
 };
 
 } // namespace KestoDraw

@@ -69,6 +69,18 @@ TEST_F(ToolGestureTest, ADragIsOneStepFromThePressFillToACopyOfTheEndFill)
     EXPECT_EQ(MiddleStop(*tool.GetFill()), 3000);
 }
 
+TEST_F(ToolGestureTest, ShowNowHandsTheWorkingFillAfterThePressAndEveryMove)
+{
+    std::vector<int> shown;
+    site.gesture.SetShowNow([&](const CFill& working) { shown.push_back(MiddleStop(working)); });
+    site.gesture.Press(tool, {500, 0}, 0);
+    site.gesture.Move({600, 0}, 0);
+    site.gesture.Move({700, 0}, 0);
+    ASSERT_TRUE(site.gesture.Release({700, 0}, 0));
+    site.gesture.Move({800, 0}, 0); // after the gesture: nothing to show
+    EXPECT_EQ(shown, (std::vector<int>{5000, 6000, 7000}));
+}
+
 TEST_F(ToolGestureTest, AGestureThatChangesNothingMakesNoStep)
 {
     site.gesture.Press(tool, {500, 0}, 0);

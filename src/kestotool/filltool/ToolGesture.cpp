@@ -11,12 +11,21 @@ void ToolGesture::Press(FillTool& tool, CPoint at, unsigned flags, bool create)
     m_create = create;
     m_tool = &tool;
     tool.OnDragStart(at, flags);
+    Show();
 }
 
 void ToolGesture::Move(CPoint at, unsigned flags)
 {
-    if (m_tool)
-        m_tool->OnDragChange(at, flags);
+    if (!m_tool)
+        return;
+    m_tool->OnDragChange(at, flags);
+    Show();
+}
+
+void ToolGesture::Show() const
+{
+    if (m_showNow && m_tool && m_tool->GetFill())
+        m_showNow(*m_tool->GetFill());
 }
 
 std::optional<ToolGesture::Step> ToolGesture::Release(CPoint at, unsigned flags)

@@ -3,6 +3,7 @@
 #include "kestotool/filltool/FillTool.h"
 #include "kestotool/platform/Export.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -16,7 +17,9 @@ namespace KestoTool {
 //   Release    ends the tool's drag and answers the one step to record, or nothing when the
 //              fill is the one the gesture started with.
 // The host's IToolSite::IsInDrag and IsCreate answer InDrag() and IsCreate(). A tool that goes
-// away mid-gesture (its fill changed kind) is let go with Cancel first.
+// away mid-gesture (its fill changed kind) is let go with Cancel first. So that the artwork follows
+// the hand, the show-now callback hands the host the tool's working fill after the press and after
+// every move; the host paints it in place of the document's fill until the gesture ends.
 class KESTO_API ToolGesture {
 public:
     struct Step {
@@ -24,6 +27,11 @@ public:
         RefPtr<const CFill> after;  // a copy of the fill the tool holds at the end
         std::wstring undoName;      // the last name the tool committed with; empty: the host names it
     };
+
+    // Called with the tool's working fill while the gesture lasts (it is the tool's own object,
+    // reshaped in place: copy it to keep it).
+    using ShowNow = std::function<void(const CFill& working)>;
+    void SetShowNow(ShowNow show) { m_showNow = std::move(show); }
 
     // Starts a gesture at a document point; create tells the tool the drag draws a new fill.
     void Press(FillTool& tool, CPoint at, unsigned flags, bool create = false);
@@ -42,10 +50,13 @@ public:
     const CFill* PressFill() const { return m_before.get(); }
 
 private:
+    void Show() const;
+
     FillTool* m_tool = nullptr;
     RefPtr<const CFill> m_before;
     std::wstring m_undoName;
     bool m_create = false;
+    ShowNow m_showNow;
 };
 
 } // namespace KestoTool

@@ -19,6 +19,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QTemporaryDir>
 #include <QUndoStack>
 
@@ -139,6 +140,31 @@ TEST_F(KestoDrawWindow, GesturesDropsKeysAndTheTypeBoxEachMakeOneUndoStep)
 
 // Edit Fill opens the gradient editor on the selected shape's fill: OK with a stop deleted is
 // one step; Cancel leaves the drawing as it was.
+TEST_F(KestoDrawWindow, TheFillFollowsTheHandWhileAHandleIsDragged)
+{
+    Step("click 550 525");
+    KestoDraw::Canvas& canvas = window->GetCanvas();
+    Kesto2D::K2DArrayPoint handles;
+    canvas.Tool()->GetHandles(&handles);
+    const CPoint start = handles.GetAt(0), end = handles.GetAt(handles.GetSize() - 1);
+    const CPoint half((start.x + end.x) / 2, (start.y + end.y) / 2);
+    const auto send = [&](QEvent::Type type, CPoint at, Qt::MouseButton button, Qt::MouseButtons buttons) {
+        const QPointF local = canvas.View().map(QPointF(at.x, at.y));
+        QMouseEvent event(type, local, canvas.mapToGlobal(local), button, buttons, Qt::NoModifier);
+        QApplication::sendEvent(&canvas, &event);
+    };
+    const QImage before = canvas.grab().toImage();
+    send(QEvent::MouseButtonPress, end, Qt::LeftButton, Qt::LeftButton);
+    send(QEvent::MouseMove, half, Qt::NoButton, Qt::LeftButton);
+    const QImage during = canvas.grab().toImage();
+    send(QEvent::MouseButtonRelease, half, Qt::LeftButton, Qt::NoButton);
+    const QImage after = canvas.grab().toImage();
+    // Halfway through the drag the page already shows what the release leaves.
+    EXPECT_NE(during, before);
+    EXPECT_EQ(during, after);
+    EXPECT_EQ(window->Undo().count(), 1);
+}
+
 TEST_F(KestoDrawWindow, EditFillOpensTheEditorAndOnlyOKChangesTheDrawing)
 {
     Step("click 550 525");
