@@ -20,7 +20,11 @@
 #include <QMessageBox>
 #include <QRegularExpression>
 #include <QStatusBar>
+#include <QStyle>
 #include <QToolBar>
+#include <QToolButton>
+
+#include <algorithm>
 
 namespace KestoDraw {
 
@@ -165,6 +169,21 @@ void MainWindow::BuildToolBars()
         m_canvas->SetKind(m_kindBox->itemData(index).toInt());
         UpdateKindBox();
     });
+
+    // One height for the context row whatever the selection puts on it (nothing, a tool's
+    // controls, the kind box), so that the canvas below never moves: the tallest control a tool
+    // shows (a combo box, an icon with its caption) and the toolbar's margins.
+    QToolButton probe;
+    probe.setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    probe.setIconSize(m_context->iconSize());
+    probe.setText(tr("Edit Transparency"));
+    probe.setIcon(QIcon(QPixmap(m_context->iconSize())));
+    const int margins = 2 * (m_context->style()->pixelMetric(QStyle::PM_ToolBarItemMargin, nullptr, m_context) +
+                             m_context->style()->pixelMetric(QStyle::PM_ToolBarFrameWidth, nullptr, m_context)) +
+                        m_context->contentsMargins().top() + m_context->contentsMargins().bottom();
+    const int row = std::max(QComboBox().sizeHint().height(), probe.sizeHint().height()) + margins;
+    m_context->setFixedHeight(row);
+    m_kindBar->setFixedHeight(row);
 
     QToolBar* palette = new QToolBar(tr("Palette"), this);
     palette->setObjectName("palette");

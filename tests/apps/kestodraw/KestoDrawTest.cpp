@@ -165,6 +165,22 @@ TEST_F(KestoDrawWindow, TheFillFollowsTheHandWhileAHandleIsDragged)
     EXPECT_EQ(window->Undo().count(), 1);
 }
 
+TEST_F(KestoDrawWindow, TheCanvasStaysWhereItIsWhateverTheSelectionPutsOnTheContextRow)
+{
+    // The sample's first shape has a linear fill, its last a plain colour.
+    const auto canvasTop = [&] {
+        QApplication::processEvents();
+        return window->GetCanvas().mapTo(window.get(), QPoint(0, 0)).y();
+    };
+    const int nothing = canvasTop();
+    Step("click 550 525");
+    const int gradient = canvasTop();
+    window->GetCanvas().Select(static_cast<int>(window->GetDocument().shapes.size()) - 1);
+    const int solid = canvasTop();
+    EXPECT_EQ(gradient, nothing);
+    EXPECT_EQ(solid, nothing);
+}
+
 TEST_F(KestoDrawWindow, EditFillOpensTheEditorAndOnlyOKChangesTheDrawing)
 {
     Step("click 550 525");
