@@ -71,11 +71,15 @@ void Canvas::SetZoom(double pixelsPerUnit)
 
 void Canvas::ZoomBy(double factor)
 {
-    // About the middle of the widget: what is there stays there.
-    const QPointF middle(width() / 2.0, height() / 2.0);
-    const QPointF at = (middle - m_pan) / m_zoom;
+    ZoomAbout(factor, QPointF(width() / 2.0, height() / 2.0));
+}
+
+void Canvas::ZoomAbout(double factor, QPointF device)
+{
+    // What is at the device point stays there.
+    const QPointF at = (device - m_pan) / m_zoom;
     SetZoom(m_zoom * factor);
-    m_pan = middle - at * m_zoom;
+    m_pan = device - at * m_zoom;
     update();
 }
 
@@ -278,7 +282,7 @@ void Canvas::mouseReleaseEvent(QMouseEvent* event)
 void Canvas::wheelEvent(QWheelEvent* event)
 {
     if (event->modifiers() & Qt::ControlModifier) {
-        ZoomBy(event->angleDelta().y() > 0 ? 1.25 : 0.8);
+        ZoomAbout(event->angleDelta().y() > 0 ? 1.25 : 0.8, event->position());
     } else {
         m_pan += QPointF(event->angleDelta()) / 4;
         m_fitOnResize = false;

@@ -45,7 +45,9 @@ public:
     // Document pixels per unit on screen, and where the page's origin lies on the widget.
     double Zoom() const { return m_zoom; }
     void SetZoom(double pixelsPerUnit);
+    // About the middle of the canvas, or about a point of it (the wheel's: under the pointer).
     void ZoomBy(double factor);
+    void ZoomAbout(double factor, QPointF device);
     void FitPage();
     QTransform View() const;
 

@@ -22,6 +22,7 @@
 #include <QMouseEvent>
 #include <QTemporaryDir>
 #include <QUndoStack>
+#include <QWheelEvent>
 
 #include <gtest/gtest.h>
 
@@ -179,6 +180,21 @@ TEST_F(KestoDrawWindow, TheCanvasStaysWhereItIsWhateverTheSelectionPutsOnTheCont
     const int solid = canvasTop();
     EXPECT_EQ(gradient, nothing);
     EXPECT_EQ(solid, nothing);
+}
+
+TEST_F(KestoDrawWindow, AWheelZoomKeepsThePointUnderThePointer)
+{
+    KestoDraw::Canvas& canvas = window->GetCanvas();
+    const QPointF pointer(200, 150);
+    const QPointF under = canvas.View().inverted().map(pointer);
+    const double zoom = canvas.Zoom();
+    QWheelEvent wheel(pointer, canvas.mapToGlobal(pointer), {}, QPoint(0, 120), Qt::NoButton, Qt::ControlModifier,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&canvas, &wheel);
+    EXPECT_DOUBLE_EQ(canvas.Zoom(), zoom * 1.25);
+    const QPointF after = canvas.View().inverted().map(pointer);
+    EXPECT_NEAR(after.x(), under.x(), 0.01);
+    EXPECT_NEAR(after.y(), under.y(), 0.01);
 }
 
 TEST_F(KestoDrawWindow, EditFillOpensTheEditorAndOnlyOKChangesTheDrawing)
