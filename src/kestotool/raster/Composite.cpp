@@ -6,20 +6,32 @@ namespace KestoRaster {
 
 namespace {
 
-// x * y / 255, rounded, for 8-bit x and y.
-std::uint32_t Mul255(std::uint32_t x, std::uint32_t y)
-{
-    const std::uint32_t t = x * y + 128;
-    return (t + (t >> 8)) >> 8;
-}
-
-// Each channel of a premultiplied word scaled by an 8-bit factor.
+// Each channel of a premultiplied word scaled by an 8-bit factor: c * factor / 255, rounded.
+// Two channels at a time, each in 16 bits: c * factor + 128 + (that >> 8) stays below 65,536.
 std::uint32_t Scale(std::uint32_t argb, std::uint32_t factor)
 {
-    std::uint32_t out = 0;
-    for (int shift = 0; shift < 32; shift += 8)
-        out |= Mul255((argb >> shift) & 0xFF, factor) << shift;
-    return out;
+    const auto half = [factor](std::uint32_t lanes) {
+        std::uint32_t t = lanes * factor + 0x00800080u;
+        t += (t >> 8) & 0x00FF00FFu;
+        return (t >> 8) & 0x00FF00FFu;
+    };
+    return half(argb & 0x00FF00FFu) | half((argb >> 8) & 0x00FF00FFu) << 8;
+}
+
+// One row, without branches so that the compiler can process several pixels at once.
+void OverRow(std::uint32_t* __restrict dst, const std::uint32_t* __restrict src, const unsigned char* __restrict cover,
+             int count)
+{
+    for (int x = 0; x < count; ++x) {
+        const std::uint32_t s = Scale(src[x], cover[x]);
+        dst[x] = s + Scale(dst[x], 255 - (s >> 24));
+    }
+}
+
+void OverRow(std::uint32_t* __restrict dst, const std::uint32_t* __restrict src, int count)
+{
+    for (int x = 0; x < count; ++x)
+        dst[x] = src[x] + Scale(dst[x], 255 - (src[x] >> 24));
 }
 
 const unsigned char* Row(const Target& t, int y)
@@ -38,10 +50,13 @@ void CompositeOver(const Target& destination, const Target& fill, const Target* 
             reinterpret_cast<std::uint32_t*>(static_cast<unsigned char*>(destination.pixels) + y * destination.stride);
         const auto* src = reinterpret_cast<const std::uint32_t*>(Row(fill, y));
         const unsigned char* cover = mask ? Row(*mask, y) : nullptr;
-        for (int x = std::max(clip.x0, 0); x < x1; ++x) {
-            const std::uint32_t s = cover ? Scale(src[x], cover[x]) : src[x];
-            dst[x] = s + Scale(dst[x], 255 - (s >> 24));
-        }
+        const int x0 = std::max(clip.x0, 0);
+        if (x0 >= x1)
+            continue;
+        if (cover)
+            OverRow(dst + x0, src + x0, cover + x0, x1 - x0);
+        else
+            OverRow(dst + x0, src + x0, x1 - x0);
     }
 }
 
