@@ -13,7 +13,7 @@ set(public_KestoPlatform
   WindowPeer Backend SetBackend ScreenMetrics)
 set(public_Kesto2D K2DDblPoint K2DArrayPoint K2DCurve K2DLtGeneral KCAngle RoundHalfAwayFromZero MulDiv
   SaturateToRange RoundToRange)
-set(public_KestoRaster Path PreparedPaint Render CompositeOver)
+set(public_KestoRaster Path PreparedPaint Render RenderCoverage CompositeOver)
 # A few that a host must find.
 set(required KestoTool::Version KestoTool::FillToolFactory::Create KestoTool::Init KestoPlatform::CWnd
   KestoGDI::CFillLinear KestoKernel::SetVerifyHandler)

@@ -46,6 +46,6 @@ private:
 // rule, so edges are anti-aliased without sampling. Pieces that wind the same way over a pixel
 // add up and clamp at full; pieces winding against each other cancel. Nothing outside the clip
 // is written.
-void RenderCoverage(const Path& path, const Affine& toDevice, const Target& mask, const Clip& clip);
+KESTO_API void RenderCoverage(const Path& path, const Affine& toDevice, const Target& mask, const Clip& clip);
 
 } // namespace KestoRaster
