@@ -7,7 +7,8 @@ class QPainter;
 namespace KestoToolQt {
 
 // The tools' drawing path over a QPainter, anti-aliased: handles and control lines onto a
-// widget, a QImage or any other paint device. Points are in the painter's coordinates.
+// widget, a QImage or any other paint device. Points are in the painter's coordinates. On a
+// device of two or more device pixels per pixel, lines are drawn aliased (handles are not).
 class QtRenderTarget : public KestoGDI::IRenderTarget {
 public:
     // pixelScale: painter units per device pixel.
@@ -23,8 +24,11 @@ public:
     void DrawCurve(const Kesto2D::K2DCurve& curve, const KestoGDI::RenderPen& pen) override;
 
 private:
+    void SetLinePen(const KestoGDI::RenderPen& pen);
+
     QPainter& m_painter;
     double m_scale;
+    bool m_highDensity;
 };
 
 } // namespace KestoToolQt
