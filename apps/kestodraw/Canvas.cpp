@@ -3,6 +3,7 @@
 #include "FillJson.h"
 #include "JsonRead.h"
 
+#include <kestotool/gdi/BoundsRenderTarget.h>
 #include <kestotool/gdi/CFillSolid.h>
 #include <kestotool/gdi/CRGBColour.h>
 #include <kestotool/geometry/CoordinateRange.h>
@@ -13,6 +14,7 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QWheelEvent>
 
@@ -44,12 +46,13 @@ Canvas::Canvas(Document& document, QUndoStack& undo, QWidget* parent)
     setAcceptDrops(true);
     setMouseTracking(true);
     setMinimumSize(320, 240);
+    setAttribute(Qt::WA_OpaquePaintEvent); // every pixel is painted: Qt need not clear first
     m_host.SetZoom(m_zoom);
     connect(&m_host, &ToolHost::ToolAboutToChange, this, &Canvas::ToolAboutToChange);
     connect(&m_host, &ToolHost::ToolChanged, this, &Canvas::ToolChanged);
     connect(&m_host, &ToolHost::SelectionChanged, this, &Canvas::SelectionChanged);
     connect(&m_host, &ToolHost::HintChanged, this, &Canvas::HintChanged);
-    connect(&m_host, &ToolHost::Changed, this, qOverload<>(&QWidget::update));
+    connect(&m_host, &ToolHost::Changed, this, &Canvas::Refresh);
 }
 
 Canvas::~Canvas() = default;
@@ -231,7 +234,10 @@ void Canvas::mouseMoveEvent(QMouseEvent* event)
     }
     m_lastPoint = p;
     emit HintChanged();
-    update();
+    if (m_press == Press::Shape || m_press == Press::Pan)
+        update();
+    else
+        Refresh();
 }
 
 void Canvas::mouseReleaseEvent(QMouseEvent* event)
@@ -358,7 +364,7 @@ void Canvas::dragMoveEvent(QDragMoveEvent* event)
     if (Tool()) {
         CPoint p = ToDocument(event->position());
         Tool()->SetGhostNode(p, colour.get());
-        update();
+        Refresh();
     }
     event->acceptProposedAction();
 }
@@ -398,36 +404,86 @@ void Canvas::dropEvent(QDropEvent* event)
 
 // --- painting ---
 
-void Canvas::paintEvent(QPaintEvent*)
+PageLayers::Scene Canvas::Scene() const
 {
-    QPainter painter(this);
-    painter.fillRect(rect(), QColor(150, 150, 150));
-    const QTransform view = View();
-    const QRectF page = view.mapRect(QRectF(0, 0, m_document.width, m_document.height));
-    painter.fillRect(page.translated(3, 3), QColor(90, 90, 90));
-    painter.fillRect(page, Qt::white);
-    if (const int grid = Grid(); grid > 0 && grid * m_zoom >= 6) {
-        painter.setPen(QColor(225, 225, 235));
-        for (double x = 0; x <= m_document.width; x += grid)
-            painter.drawLine(view.map(QLineF(x, 0, x, m_document.height)));
-        for (double y = 0; y <= m_document.height; y += grid)
-            painter.drawLine(view.map(QLineF(0, y, m_document.width, y)));
-    }
-    // The selection as the tool shapes it while a gesture lasts.
-    m_painter.Paint(painter, m_document, view, rect(), {Selected(), EditsTransparency(), m_host.LiveFill()});
-    if (Selected() >= 0) {
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(QColor(40, 40, 40), 1, Qt::DashLine));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawPath(view.map(m_document.shapes[Selected()].Outline()));
-    }
-    if (Tool()) {
-        KestoToolQt::QtRenderTarget target(painter);
+    const double ratio = devicePixelRatioF();
+    return {&m_document, Selected(), View() * QTransform::fromScale(ratio, ratio), (QSizeF(size()) * ratio).toSize(),
+            ratio,       Grid()};
+}
+
+void Canvas::DrawOverlay(KestoGDI::IRenderTarget& target) const
+{
+    if (Tool())
         Tool()->Draw(&target, false, Kesto2D::K2DLtGeneral(m_zoom, 0, 0, m_zoom, m_pan.x(), m_pan.y()));
+}
+
+QRect Canvas::SelectionBounds() const
+{
+    KestoGDI::BoundsRenderTarget overlay;
+    DrawOverlay(overlay);
+    const KestoPlatform::CRect& marked = overlay.Bounds();
+    QRect bounds = marked.IsRectEmpty() ? QRect() : QRect(marked.left, marked.top, marked.Width(), marked.Height());
+    if (Selected() >= 0)
+        bounds |= View()
+                      .mapRect(m_document.shapes[Selected()].Outline().boundingRect())
+                      .toAlignedRect()
+                      .adjusted(-2, -2, 2, 2);
+    return bounds;
+}
+
+void Canvas::Refresh()
+{
+    if (!m_layers.Shows(Scene())) {
+        update();
+        return;
     }
+    update(m_shownSelection | SelectionBounds());
+}
+
+void Canvas::paintEvent(QPaintEvent* event)
+{
+    const PageLayers::Scene scene = Scene();
+    m_layers.Prepare(scene, m_painter);
+    QPainter painter(this);
+    {
+        // The page in device pixels: what does not change from the layers, the selection's fill
+        // (as the tool shapes it while a gesture lasts) rendered for the part repainted.
+        const QRect dirty =
+            QRectF(QRectF(event->rect()).topLeft() * scene.pixelRatio, QRectF(event->rect()).size() * scene.pixelRatio)
+                .toAlignedRect() &
+            QRect(QPoint(0, 0), scene.deviceSize);
+        painter.save();
+        painter.setWorldTransform(QTransform::fromScale(1 / scene.pixelRatio, 1 / scene.pixelRatio));
+        painter.drawImage(dirty.topLeft(), m_layers.Below(), dirty);
+        if (const int selected = Selected(); selected >= 0) {
+            const Shape& shape = m_document.shapes[selected];
+            const KestoGDI::CFill* live = m_host.LiveFill();
+            const bool transparency = EditsTransparency();
+            m_painter.PaintShape(painter, shape, scene.view, dirty, live && !transparency ? *live : *shape.fill,
+                                 live && transparency ? live : shape.transparency.get());
+        }
+        if (const QImage* above = m_layers.Above(); above && m_layers.AboveBounds().intersects(dirty))
+            painter.drawImage(dirty.topLeft(), *above, dirty);
+        painter.restore();
+    }
+    if (Selected() >= 0) {
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing);
+        // A hairline of one device pixel: Qt dashes wider lines far more slowly.
+        painter.setPen(QPen(QColor(40, 40, 40), 0, Qt::DashLine));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawPath(View().map(m_document.shapes[Selected()].Outline()));
+        painter.restore();
+    }
+    {
+        KestoToolQt::QtRenderTarget overlay(painter);
+        DrawOverlay(overlay);
+    }
+    m_shownSelection = SelectionBounds();
     if (m_press == Press::Shape) {
         painter.setPen(QPen(QColor(0, 90, 200), 1, Qt::DashLine));
         painter.setBrush(Qt::NoBrush);
+        const QTransform view = View();
         const QRectF band = view.mapRect(
             QRectF(QPointF(m_pressPoint.x, m_pressPoint.y), QPointF(m_lastPoint.x, m_lastPoint.y)).normalized());
         if (m_mode == Mode::Ellipse)

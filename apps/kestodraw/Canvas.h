@@ -2,6 +2,7 @@
 
 #include "Document.h"
 #include "DrawingPainter.h"
+#include "PageLayers.h"
 #include "ToolHost.h"
 
 #include <QWidget>
@@ -10,6 +11,10 @@
 #include <vector>
 
 class QMimeData;
+
+namespace KestoGDI {
+class IRenderTarget;
+}
 class QUndoStack;
 
 namespace KestoDraw {
@@ -98,12 +103,22 @@ private:
     enum class Press { None, Tool, PendingCreate, Shape, Move, Pan };
 
     KestoPlatform::CPoint ToDocument(const QPointF& device) const;
+    PageLayers::Scene Scene() const;
+    // The tool's handles and lines over the canvas.
+    void DrawOverlay(KestoGDI::IRenderTarget& target) const;
+    // What the selection covers on the canvas: its shape and the tool's overlay.
+    QRect SelectionBounds() const;
+    // Repaints what changed: when only the selection did, the part of the canvas it covered and
+    // covers now; otherwise everything.
+    void Refresh();
     std::unique_ptr<KestoGDI::CColour> DroppedColour(const QMimeData* mime) const;
     static unsigned DragFlags(Qt::KeyboardModifiers modifiers);
 
     Document& m_document;
     ToolHost m_host;
     DrawingPainter m_painter;
+    PageLayers m_layers;
+    QRect m_shownSelection; // SelectionBounds at the last paint
     Mode m_mode = Mode::Select;
 
     double m_zoom = 0.2;

@@ -2,6 +2,7 @@
 
 #include <kestotool/gdi/FillPaint.h>
 #include <kestotool/raster/Composite.h>
+#include <kestotool/raster/Path.h>
 #include <kestotool/raster/PreparedPaint.h>
 
 #include <QImage>
@@ -13,36 +14,74 @@ namespace KestoDraw {
 
 using namespace KestoRaster;
 
-void DrawingPainter::Paint(QPainter& painter, const Document& document, const QTransform& view, const QRect& deviceClip,
-                           const LiveFill& live)
+namespace {
+
+// The outline as the renderer takes it (a QPainterPath keeps a cubic as its end point's
+// element followed by two data elements).
+Path ToRasterPath(const QPainterPath& outline)
 {
-    for (Cached& c : m_cache)
-        c.used = false;
-    for (std::size_t i = 0; i < document.shapes.size(); ++i) {
-        const Shape& shape = document.shapes[i];
-        const bool shown = live.fill && live.shape == static_cast<int>(i);
-        const KestoGDI::CFill& fill = shown && !live.transparency ? *live.fill : *shape.fill;
-        const KestoGDI::CFill* transparency = shown && live.transparency ? live.fill : shape.transparency.get();
-        PaintShape(painter, shape, view, deviceClip, fill, transparency);
+    Path path;
+    for (int i = 0; i < outline.elementCount(); ++i) {
+        const QPainterPath::Element e = outline.elementAt(i);
+        switch (e.type) {
+        case QPainterPath::MoveToElement: path.MoveTo({e.x, e.y}); break;
+        case QPainterPath::LineToElement: path.LineTo({e.x, e.y}); break;
+        case QPainterPath::CurveToElement: {
+            const QPainterPath::Element c2 = outline.elementAt(i + 1), end = outline.elementAt(i + 2);
+            path.CubicTo({e.x, e.y}, {c2.x, c2.y}, {end.x, end.y});
+            i += 2;
+            break;
+        }
+        case QPainterPath::CurveToDataElement: break;
+        }
     }
-    std::erase_if(m_cache, [](const Cached& c) { return !c.used; });
+    return path;
+}
+
+// The top left w x h of a buffer as a colour target, the buffer grown to hold it.
+Target Scratch(QImage& buffer, int w, int h)
+{
+    if (buffer.width() < w || buffer.height() < h)
+        buffer = QImage(std::max(w, buffer.width()), std::max(h, buffer.height()), QImage::Format_ARGB32_Premultiplied);
+    return {buffer.bits(), w, h, buffer.bytesPerLine(), Output::Argb32};
+}
+
+void Fill(const Target& target, std::uint32_t argb)
+{
+    for (int y = 0; y < target.height; ++y) {
+        auto* row = reinterpret_cast<std::uint32_t*>(static_cast<unsigned char*>(target.pixels) + y * target.stride);
+        std::fill(row, row + target.width, argb);
+    }
+}
+
+} // namespace
+
+void DrawingPainter::Paint(QPainter& painter, const Document& document, const QTransform& view, const QRect& deviceClip,
+                           std::size_t first, std::size_t last)
+{
+    for (std::size_t i = first; i < std::min(last, document.shapes.size()); ++i) {
+        const Shape& shape = document.shapes[i];
+        PaintShape(painter, shape, view, deviceClip, *shape.fill, shape.transparency.get());
+    }
 }
 
 const std::optional<Paint>& DrawingPainter::PaintOf(const KestoGDI::CFill& fill, double pixelsPerUnit)
 {
-    auto it = std::find_if(m_cache.begin(), m_cache.end(),
-                           [&](const Cached& c) { return c.fill.get() == &fill && c.pixelsPerUnit == pixelsPerUnit; });
+    // A fill only the cache holds can never be asked for again (fills are found by address, and
+    // nobody else has this one); a paint at another scale belongs to another zoom.
+    std::erase_if(m_cache,
+                  [&](const Cached& c) { return c.fill->GetRefCount() == 1 || c.pixelsPerUnit != pixelsPerUnit; });
+    auto it = std::find_if(m_cache.begin(), m_cache.end(), [&](const Cached& c) { return c.fill.get() == &fill; });
     if (it == m_cache.end()) {
         m_cache.push_back({KestoKernel::RefPtr<const KestoGDI::CFill>(&fill), pixelsPerUnit,
-                           KestoGDI::FillPaint::From(fill, pixelsPerUnit), true});
+                           KestoGDI::FillPaint::From(fill, pixelsPerUnit)});
         return m_cache.back().paint;
     }
-    it->used = true;
     return it->paint;
 }
 
 void DrawingPainter::PaintShape(QPainter& painter, const Shape& shape, const QTransform& view, const QRect& deviceClip,
-                                const KestoGDI::CFill& fillShown, const KestoGDI::CFill* transparency)
+                                const KestoGDI::CFill& fill, const KestoGDI::CFill* transparency)
 {
     const QPainterPath outline = view.map(shape.Outline());
     const QRect area = outline.boundingRect().toAlignedRect().adjusted(-1, -1, 1, 1) & deviceClip;
@@ -55,33 +94,35 @@ void DrawingPainter::PaintShape(QPainter& painter, const Shape& shape, const QTr
     const Affine toLayer{scale, 0, 0, view.m22(), view.dx() - area.x(), view.dy() - area.y()};
     const Clip all{0, 0, w, h};
 
-    QImage fill(w, h, QImage::Format_ARGB32_Premultiplied);
-    fill.fill(Qt::transparent);
-    const Target fillTarget{fill.bits(), w, h, fill.bytesPerLine(), Output::Argb32};
-    if (const std::optional<KestoRaster::Paint>& paint = PaintOf(fillShown, scale))
-        Render(PreparedPaint(*paint, toLayer, Output::Argb32), fillTarget, all);
+    // The buffers are kept from frame to frame: fresh ones of a large shape's size would cost
+    // as much in page faults as the rendering itself.
+    const auto colours = Scratch(m_colours, w, h);
+    if (const std::optional<KestoRaster::Paint>& paint = PaintOf(fill, scale))
+        Render(PreparedPaint(*paint, toLayer, Output::Argb32), colours, all);
     else
-        fill.fill(QColor(200, 200, 200)); // a kind the renderer does not paint shows as plain grey
+        Fill(colours, 0xFFC8C8C8); // a kind the renderer does not paint shows as plain grey
 
-    QImage shown = fill;
+    // What of each pixel the outline covers, times the transparency's level there. The renderer
+    // finds the coverage far faster than QPainter's anti-aliased fill of a large ellipse.
+    m_coverage.resize(static_cast<std::size_t>(w) * h);
+    const Target coverage{m_coverage.data(), w, h, w, Output::Mask8};
+    RenderCoverage(ToRasterPath(shape.Outline()), toLayer, coverage, all);
     if (transparency) {
         if (const std::optional<KestoRaster::Paint>& mask = PaintOf(*transparency, scale)) {
-            std::vector<std::uint8_t> levels(static_cast<std::size_t>(w) * h, 0);
-            const Target maskTarget{levels.data(), w, h, w, Output::Mask8};
-            Render(PreparedPaint(*mask, toLayer, Output::Mask8), maskTarget, all);
-            shown = QImage(w, h, QImage::Format_ARGB32_Premultiplied);
-            shown.fill(Qt::transparent);
-            CompositeOver({shown.bits(), w, h, shown.bytesPerLine(), Output::Argb32}, fillTarget, &maskTarget, all);
+            m_levels.resize(m_coverage.size());
+            Render(PreparedPaint(*mask, toLayer, Output::Mask8), {m_levels.data(), w, h, w, Output::Mask8}, all);
+            for (std::size_t i = 0; i < m_coverage.size(); ++i)
+                m_coverage[i] = static_cast<std::uint8_t>((m_coverage[i] * m_levels[i] + 127) / 255);
         }
     }
+    const auto shown = Scratch(m_shown, w, h);
+    Fill(shown, 0);
+    CompositeOver(shown, colours, &coverage, all);
 
+    painter.drawImage(area.topLeft(), m_shown, QRect(0, 0, w, h));
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    QBrush brush(shown);
-    brush.setTransform(QTransform::fromTranslate(area.x(), area.y()));
-    painter.setBrush(brush);
-    painter.setPen(QPen(QColor(70, 70, 70), 1.0));
-    painter.drawPath(outline);
+    painter.strokePath(outline, QPen(QColor(70, 70, 70), 1.0));
     painter.restore();
 }
 

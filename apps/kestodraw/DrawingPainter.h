@@ -4,6 +4,7 @@
 
 #include <kestotool/raster/Paint.h>
 
+#include <QImage>
 #include <QTransform>
 
 #include <optional>
@@ -13,35 +14,35 @@ class QPainter;
 
 namespace KestoDraw {
 
-// A fill shown in place of one shape's fill or transparency (a drag under way).
-struct LiveFill {
-    int shape = -1;
-    bool transparency = false;
-    const KestoGDI::CFill* fill = nullptr;
-};
-
-// Paints a drawing's shapes: each one's fill, times its transparency's mask, rendered for the
-// shape's box on the device and clipped to its anti-aliased outline by QPainter, then a hairline
-// outline. Paints are kept from one frame to the next while their fills are shown at the same
-// scale, so a repaint that only moves the view or one shape prepares nothing new.
+// Paints a drawing's shapes: each one's fill, times its transparency's mask and the coverage of
+// its outline, all rendered by the renderer for the shape's box on the device, then a hairline
+// outline. The painter's coordinates are the device's pixels, so that fills are rendered at the
+// device's resolution. Paints are kept from one frame to the next while their fills are held by
+// someone and shown at the same scale, so a repaint that only moves the view or one shape
+// prepares nothing new.
 class DrawingPainter {
 public:
-    // view maps document units to the painter's device pixels (a scale and a translation).
+    // view maps document units to device pixels (a scale and a translation); shapes [first,
+    // last) are painted, bottom to top.
     void Paint(QPainter& painter, const Document& document, const QTransform& view, const QRect& deviceClip,
-               const LiveFill& live = {});
+               std::size_t first = 0, std::size_t last = SIZE_MAX);
+    // One shape with the fill and transparency given (a shape's own, or a gesture's working fill).
+    void PaintShape(QPainter& painter, const Shape& shape, const QTransform& view, const QRect& deviceClip,
+                    const KestoGDI::CFill& fill, const KestoGDI::CFill* transparency);
 
 private:
     struct Cached {
         KestoKernel::RefPtr<const KestoGDI::CFill> fill;
         double pixelsPerUnit;
         std::optional<KestoRaster::Paint> paint;
-        bool used;
     };
     const std::optional<KestoRaster::Paint>& PaintOf(const KestoGDI::CFill& fill, double pixelsPerUnit);
-    void PaintShape(QPainter& painter, const Shape& shape, const QTransform& view, const QRect& deviceClip,
-                    const KestoGDI::CFill& fill, const KestoGDI::CFill* transparency);
 
     std::vector<Cached> m_cache;
+    QImage m_colours;
+    QImage m_shown;
+    std::vector<std::uint8_t> m_coverage;
+    std::vector<std::uint8_t> m_levels;
 };
 
 } // namespace KestoDraw

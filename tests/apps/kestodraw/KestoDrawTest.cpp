@@ -20,6 +20,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QUndoStack>
 #include <QWheelEvent>
@@ -164,6 +165,35 @@ TEST_F(KestoDrawWindow, TheFillFollowsTheHandWhileAHandleIsDragged)
     EXPECT_NE(during, before);
     EXPECT_EQ(during, after);
     EXPECT_EQ(window->Undo().count(), 1);
+}
+
+TEST_F(KestoDrawWindow, RepaintingOnlyWhatADragChangesLeavesThePictureAFullRepaintWould)
+{
+    Step("click 550 525");
+    KestoDraw::Canvas& canvas = window->GetCanvas();
+    Kesto2D::K2DArrayPoint handles;
+    canvas.Tool()->GetHandles(&handles);
+    const CPoint end = handles.GetAt(handles.GetSize() - 1);
+    const QPointF from = canvas.View().map(QPointF(end.x, end.y));
+    const auto send = [&](QEvent::Type type, QPointF at, Qt::MouseButton button, Qt::MouseButtons buttons) {
+        QMouseEvent event(type, at, canvas.mapToGlobal(at), button, buttons, Qt::NoModifier);
+        QApplication::sendEvent(&canvas, &event);
+        QApplication::processEvents(); // the repaint the move asked for, of what it changed
+    };
+    // What the window shows (its backing store) against the canvas painted whole.
+    const auto onScreen = [&] {
+        const QPoint at = canvas.mapTo(window.get(), QPoint(0, 0));
+        return window->screen()->grabWindow(window->winId(), at.x(), at.y(), canvas.width(), canvas.height()).toImage();
+    };
+    send(QEvent::MouseButtonPress, from, Qt::LeftButton, Qt::LeftButton);
+    // Out past the shape and back in, so that handles and fill leave places they covered.
+    for (const QPointF step : {QPointF(90, 40), QPointF(160, 120), QPointF(40, -60), QPointF(-50, -30)})
+        send(QEvent::MouseMove, from + step, Qt::NoButton, Qt::LeftButton);
+    EXPECT_EQ(onScreen().convertToFormat(QImage::Format_RGB32),
+              canvas.grab().toImage().convertToFormat(QImage::Format_RGB32));
+    send(QEvent::MouseButtonRelease, from + QPointF(-50, -30), Qt::LeftButton, Qt::NoButton);
+    EXPECT_EQ(onScreen().convertToFormat(QImage::Format_RGB32),
+              canvas.grab().toImage().convertToFormat(QImage::Format_RGB32));
 }
 
 TEST_F(KestoDrawWindow, TheCanvasStaysWhereItIsWhateverTheSelectionPutsOnTheContextRow)
