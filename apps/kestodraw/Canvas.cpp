@@ -16,6 +16,7 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QResizeEvent>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -34,6 +35,9 @@ namespace {
 constexpr double kDragThreshold = 4;
 // Handles and the fill line are hit within this many screen pixels.
 constexpr int kLineTolerance = 4;
+// A press this near a handle's centre (screen pixels at 96 dpi, more on denser screens) grabs
+// the handle, even off its drawn disc: a hand is seldom more exact.
+constexpr double kGrabPixels = 8;
 constexpr double kMinZoom = 0.005;
 constexpr double kMaxZoom = 20;
 
@@ -86,10 +90,14 @@ void Canvas::ZoomAbout(double factor, QPointF device)
     update();
 }
 
-void Canvas::resizeEvent(QResizeEvent*)
+void Canvas::resizeEvent(QResizeEvent* event)
 {
     if (m_fitOnResize)
         FitPage();
+    else if (event->oldSize().isValid())
+        m_pan += QPointF(event->size().width() - event->oldSize().width(),
+                         event->size().height() - event->oldSize().height()) /
+                 2; // the centre stays put
 }
 
 void Canvas::FitPage()
@@ -159,9 +167,10 @@ void Canvas::mousePressEvent(QMouseEvent* event)
         return;
     m_pressDevice = event->position();
     m_pressPoint = m_lastPoint = ToDocument(event->position());
-    if (event->button() == Qt::MiddleButton) {
+    if (event->button() == Qt::MiddleButton || (event->button() == Qt::LeftButton && m_spaceHeld)) {
         m_press = Press::Pan;
         m_panFrom = m_pan;
+        setCursor(Qt::ClosedHandCursor);
         return;
     }
     if (event->button() != Qt::LeftButton)
@@ -178,10 +187,22 @@ void Canvas::mousePressEvent(QMouseEvent* event)
     KestoPlatform::SIZE tolerance{kLineTolerance, kLineTolerance};
     m_host.ClientToPaper(&tolerance);
     KestoTool::FillTool* tool = Tool();
-    if (tool && (tool->IndexFromPoint(m_pressPoint) != -1 || tool->IsPointOnLine(m_pressPoint, tolerance.cx))) {
-        m_host.StartGesture(m_pressPoint, DragFlags(event->modifiers()), false);
+    // Beside a handle, the press is taken to its centre and the drag keeps that shift.
+    m_grabShift = {};
+    if (tool && tool->IndexFromPoint(m_pressPoint) == -1) {
+        if (const int near = HandleNear(m_pressDevice); near >= 0) {
+            Kesto2D::K2DArrayPoint handles;
+            tool->GetHandles(&handles);
+            const CPoint at = handles.GetAt(near);
+            m_grabShift = View().map(QPointF(at.x, at.y)) - m_pressDevice;
+        }
+    }
+    const CPoint grabbed = ToDocument(m_pressDevice + m_grabShift);
+    if (tool && (tool->IndexFromPoint(grabbed) != -1 || tool->IsPointOnLine(grabbed, tolerance.cx))) {
+        m_host.StartGesture(grabbed, DragFlags(event->modifiers()), false);
         m_press = Press::Tool;
-        update();
+        m_hoverHandle = -1;
+        Refresh();
         return;
     }
     const int under = m_document.ShapeAt(m_pressPoint);
@@ -200,12 +221,12 @@ void Canvas::mouseMoveEvent(QMouseEvent* event)
     const unsigned flags = DragFlags(event->modifiers());
     const bool moved = (event->position() - m_pressDevice).manhattanLength() >= kDragThreshold;
     switch (m_press) {
-    case Press::None: return;
+    case Press::None: Hover(event->position()); return;
     case Press::Pan:
         m_pan = m_panFrom + (event->position() - m_pressDevice);
         m_fitOnResize = false;
         break;
-    case Press::Tool: m_host.MoveGesture(p, flags); break;
+    case Press::Tool: m_host.MoveGesture(ToDocument(event->position() + m_grabShift), flags); break;
     case Press::PendingCreate:
         if (!moved)
             return;
@@ -248,7 +269,9 @@ void Canvas::mouseReleaseEvent(QMouseEvent* event)
     switch (press) {
     case Press::None:
     case Press::Pan: break;
-    case Press::Tool: m_host.EndGesture(p, DragFlags(event->modifiers())); break;
+    case Press::Tool:
+        m_host.EndGesture(ToDocument(event->position() + m_grabShift), DragFlags(event->modifiers()));
+        break;
     case Press::PendingCreate:
         // A click off the handles selects what is under it.
         Select(m_document.ShapeAt(p));
@@ -283,6 +306,7 @@ void Canvas::mouseReleaseEvent(QMouseEvent* event)
     m_pathPoints.clear();
     emit HintChanged();
     update();
+    Hover(event->position());
 }
 
 void Canvas::wheelEvent(QWheelEvent* event)
@@ -300,6 +324,13 @@ void Canvas::keyPressEvent(QKeyEvent* event)
 {
     if (m_press != Press::None) {
         event->ignore();
+        return;
+    }
+    if (event->key() == Qt::Key_Space) {
+        if (!event->isAutoRepeat()) {
+            m_spaceHeld = true;
+            setCursor(Qt::OpenHandCursor);
+        }
         return;
     }
     const int step = event->modifiers() & Qt::ShiftModifier ? 10 : 1;
@@ -337,6 +368,76 @@ void Canvas::keyPressEvent(QKeyEvent* event)
         }
     }
     QWidget::keyPressEvent(event);
+}
+
+void Canvas::keyReleaseEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Space || event->isAutoRepeat()) {
+        QWidget::keyReleaseEvent(event);
+        return;
+    }
+    m_spaceHeld = false;
+    if (m_press != Press::Pan)
+        Hover(mapFromGlobal(QCursor::pos()));
+}
+
+void Canvas::leaveEvent(QEvent*)
+{
+    if (m_hoverHandle != -1) {
+        m_hoverHandle = -1;
+        Refresh();
+    }
+}
+
+int Canvas::HandleNear(QPointF device) const
+{
+    if (!Tool())
+        return -1;
+    Kesto2D::K2DArrayPoint handles;
+    Tool()->GetHandles(&handles);
+    const double reach = kGrabPixels * logicalDpiX() / 96.0;
+    int nearest = -1;
+    double best = reach * reach;
+    for (int i = 0; i < handles.GetSize(); ++i) {
+        const CPoint h = handles.GetAt(i);
+        const QPointF d = View().map(QPointF(h.x, h.y)) - device;
+        if (const double distance = d.x() * d.x() + d.y() * d.y(); distance <= best) {
+            best = distance; // a tie goes to the later handle, which is drawn on top
+            nearest = i;
+        }
+    }
+    return nearest;
+}
+
+Qt::CursorShape Canvas::CursorAt(QPointF device)
+{
+    if (m_press == Press::Pan)
+        return Qt::ClosedHandCursor;
+    if (m_spaceHeld)
+        return Qt::OpenHandCursor;
+    if (m_mode != Mode::Select)
+        return Qt::CrossCursor;
+    if (m_press == Press::Tool || HandleNear(device) >= 0)
+        return Qt::SizeAllCursor; // moves the handle
+    const CPoint p = ToDocument(device);
+    KestoPlatform::SIZE tolerance{kLineTolerance, kLineTolerance};
+    m_host.ClientToPaper(&tolerance);
+    if (Tool() && Tool()->IsPointOnLine(p, tolerance.cx))
+        return Qt::DragCopyCursor; // adds a stop, or moves the line
+    const int under = m_document.ShapeAt(p);
+    if (under != -1 && under == Selected())
+        return Qt::CrossCursor;                                    // draws a new fill line
+    return under != -1 ? Qt::PointingHandCursor : Qt::ArrowCursor; // selects
+}
+
+void Canvas::Hover(QPointF device)
+{
+    setCursor(CursorAt(device));
+    const int near = m_mode == Mode::Select && !m_spaceHeld ? HandleNear(device) : -1;
+    if (near != m_hoverHandle) {
+        m_hoverHandle = near;
+        Refresh();
+    }
 }
 
 std::unique_ptr<KestoGDI::CColour> Canvas::DroppedColour(const QMimeData* mime) const
@@ -396,9 +497,9 @@ void Canvas::dropEvent(QDropEvent* event)
         return;
     std::vector<Shape> before = m_document.shapes;
     m_document.shapes[under].fill = RefPtr<const CFill>(new KestoGDI::CFillSolid(*colour, false));
-    m_host.PushStep(tr("Drop Colour"), std::move(before));
     Select(under);
     m_host.SyncTool();
+    m_host.PushStep(tr("Drop Colour"), std::move(before)); // undo and redo show the shape selected
     update();
 }
 
@@ -413,8 +514,18 @@ PageLayers::Scene Canvas::Scene() const
 
 void Canvas::DrawOverlay(KestoGDI::IRenderTarget& target) const
 {
-    if (Tool())
-        Tool()->Draw(&target, false, Kesto2D::K2DLtGeneral(m_zoom, 0, 0, m_zoom, m_pan.x(), m_pan.y()));
+    if (!Tool())
+        return;
+    Tool()->Draw(&target, false, Kesto2D::K2DLtGeneral(m_zoom, 0, 0, m_zoom, m_pan.x(), m_pan.y()));
+    Kesto2D::K2DArrayPoint handles;
+    Tool()->GetHandles(&handles);
+    if (m_hoverHandle >= 0 && m_hoverHandle < handles.GetSize() && m_press == Press::None) {
+        // The handle a press would grab, ringed in the tool's colour.
+        const CPoint h = handles.GetAt(m_hoverHandle);
+        const QPointF at = View().map(QPointF(h.x, h.y));
+        target.DrawCircle(CPoint(static_cast<int>(std::lround(at.x())), static_cast<int>(std::lround(at.y()))),
+                          KestoTool::FillTool::s_nHandleSize / 2 + 6, {ToolHost::kToolColour, 255, 2});
+    }
 }
 
 QRect Canvas::SelectionBounds() const

@@ -93,6 +93,8 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void leaveEvent(QEvent* event) override;
     bool focusNextPrevChild(bool) override { return false; } // Tab cycles handles here
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
@@ -103,6 +105,12 @@ private:
     enum class Press { None, Tool, PendingCreate, Shape, Move, Pan };
 
     KestoPlatform::CPoint ToDocument(const QPointF& device) const;
+    // The tool's handle nearest the point within reach of a press (see kGrabPixels); -1: none.
+    int HandleNear(QPointF device) const;
+    // What a press at the point would do, as a cursor.
+    Qt::CursorShape CursorAt(QPointF device);
+    // The pointer is at the point with no button down: its cursor and the handle it would grab.
+    void Hover(QPointF device);
     PageLayers::Scene Scene() const;
     // The tool's handles and lines over the canvas.
     void DrawOverlay(KestoGDI::IRenderTarget& target) const;
@@ -125,8 +133,12 @@ private:
     QPointF m_pan{20, 20};
     bool m_fitOnResize = true; // until the user zooms or pans, the page fits the window
 
+    bool m_spaceHeld = false; // Space held down: a drag pans
+    int m_hoverHandle = -1;   // the handle a press would grab, ringed
+
     // The press under way.
     Press m_press = Press::None;
+    QPointF m_grabShift; // from the press to the handle it grabbed beside it, kept while it drags
     QPointF m_pressDevice;
     KestoPlatform::CPoint m_pressPoint;
     KestoPlatform::CPoint m_lastPoint;

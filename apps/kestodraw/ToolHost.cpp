@@ -113,11 +113,13 @@ void ToolHost::DocumentReplaced()
     emit SelectionChanged();
 }
 
-void ToolHost::ApplyShapes(const std::vector<Shape>& shapes)
+void ToolHost::ApplyShapes(const std::vector<Shape>& shapes, int selected)
 {
     m_document.shapes = shapes;
-    if (m_selected >= static_cast<int>(shapes.size())) {
-        m_selected = -1;
+    if (selected < -1 || selected >= static_cast<int>(shapes.size()))
+        selected = -1;
+    if (selected != m_selected) {
+        m_selected = selected;
         emit SelectionChanged();
     }
     SyncTool();
@@ -127,9 +129,10 @@ void ToolHost::ApplyShapes(const std::vector<Shape>& shapes)
 void ToolHost::AddShape(Shape shape, const QString& stepName)
 {
     std::vector<Shape> before = m_document.shapes;
+    const int selectedBefore = m_selected;
     m_document.shapes.push_back(std::move(shape));
-    PushStep(stepName, std::move(before));
     Select(static_cast<int>(m_document.shapes.size()) - 1);
+    PushStep(stepName, std::move(before), selectedBefore);
 }
 
 void ToolHost::DeleteSelected()
@@ -137,17 +140,19 @@ void ToolHost::DeleteSelected()
     if (m_selected < 0)
         return;
     std::vector<Shape> before = m_document.shapes;
+    const int selectedBefore = m_selected;
     m_document.shapes.erase(m_document.shapes.begin() + m_selected);
     m_selected = -1;
-    PushStep(tr("Delete Shape"), std::move(before));
+    PushStep(tr("Delete Shape"), std::move(before), selectedBefore);
     RebuildTool();
     emit SelectionChanged();
 }
 
-void ToolHost::PushStep(const QString& name, std::vector<Shape> before)
+void ToolHost::PushStep(const QString& name, std::vector<Shape> before, std::optional<int> selectedBefore)
 {
-    m_undo.push(new ShapesEdit(name, std::move(before), m_document.shapes,
-                               [this](const std::vector<Shape>& shapes) { ApplyShapes(shapes); }));
+    m_undo.push(
+        new ShapesEdit(name, {std::move(before), selectedBefore.value_or(m_selected)}, {m_document.shapes, m_selected},
+                       [this](const std::vector<Shape>& shapes, int selected) { ApplyShapes(shapes, selected); }));
 }
 
 void ToolHost::SetKind(int fillType)

@@ -13,6 +13,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 class QUndoStack;
@@ -60,13 +61,14 @@ public:
     // The document was replaced or changed outside the host (open, new): selection cleared,
     // tool rebuilt.
     void DocumentReplaced();
-    // Applies a step's shapes (undo and redo come here).
-    void ApplyShapes(const std::vector<Shape>& shapes);
+    // Applies a step's shapes and selection (undo and redo come here).
+    void ApplyShapes(const std::vector<Shape>& shapes, int selected);
     // Adds a shape as one step and selects it.
     void AddShape(Shape shape, const QString& stepName);
     void DeleteSelected();
-    // Records the document's change since before as one step.
-    void PushStep(const QString& name, std::vector<Shape> before);
+    // Records the document's change since before as one step; undo selects what was selected
+    // before it (by default what is selected now), redo what is selected now.
+    void PushStep(const QString& name, std::vector<Shape> before, std::optional<int> selectedBefore = {});
     // The selection's fill or transparency as type number, as the type combos offer them.
     void SetKind(int fillType);
     // The rebuild a kind change asked for, done now (it normally waits for the event loop, so
@@ -87,7 +89,8 @@ public:
     void CycleHandle(int step);
 
     // IToolSite
-    unsigned long GetToolColour() override { return 0xD77800; }
+    static constexpr unsigned long kToolColour = 0xD77800; // the handles' and lines' colour
+    unsigned long GetToolColour() override { return kToolColour; }
     Kesto2D::K2DLtGeneral GetObjectToSpreadTransform() override { return {}; }
     Kesto2D::K2DLtGeneral GetAppObjectToSpreadTransform() override { return {}; }
     void ClientToPaper(KestoPlatform::SIZE* size) override;

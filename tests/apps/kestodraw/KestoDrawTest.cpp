@@ -160,6 +160,7 @@ TEST_F(KestoDrawWindow, TheFillFollowsTheHandWhileAHandleIsDragged)
     send(QEvent::MouseMove, half, Qt::NoButton, Qt::LeftButton);
     const QImage during = canvas.grab().toImage();
     send(QEvent::MouseButtonRelease, half, Qt::LeftButton, Qt::NoButton);
+    send(QEvent::MouseMove, CPoint(0, 0), Qt::NoButton, Qt::NoButton); // off the handle it would ring
     const QImage after = canvas.grab().toImage();
     // Halfway through the drag the page already shows what the release leaves.
     EXPECT_NE(during, before);
@@ -194,6 +195,73 @@ TEST_F(KestoDrawWindow, RepaintingOnlyWhatADragChangesLeavesThePictureAFullRepai
     send(QEvent::MouseButtonRelease, from + QPointF(-50, -30), Qt::LeftButton, Qt::NoButton);
     EXPECT_EQ(onScreen().convertToFormat(QImage::Format_RGB32),
               canvas.grab().toImage().convertToFormat(QImage::Format_RGB32));
+}
+
+// The sample's first shape: a linear fill whose line runs across the middle, four stop handles.
+class KestoDrawHand : public KestoDrawWindow {
+protected:
+    void SetUp() override
+    {
+        KestoDrawWindow::SetUp();
+        Step("click 550 525");
+    }
+    KestoDraw::Canvas& Canvas() { return window->GetCanvas(); }
+    QPointF Handle(int index)
+    {
+        Kesto2D::K2DArrayPoint handles;
+        Canvas().Tool()->GetHandles(&handles);
+        const CPoint at = handles.GetAt(index < 0 ? handles.GetSize() + index : index);
+        return Canvas().View().map(QPointF(at.x, at.y));
+    }
+    void Send(QEvent::Type type, QPointF at, Qt::MouseButton button, Qt::MouseButtons buttons)
+    {
+        QMouseEvent event(type, at, Canvas().mapToGlobal(at), button, buttons, Qt::NoModifier);
+        QApplication::sendEvent(&Canvas(), &event);
+    }
+};
+
+TEST_F(KestoDrawHand, APressBesideAHandleDragsThatHandleAndUndoKeepsTheShapeSelected)
+{
+    // 3 px from the handle's centre, and 6 px (off its disc, where a press used to start a new
+    // line).
+    for (const QPointF beside : {QPointF(3, 0), QPointF(5, 3)}) {
+        const QPointF start = Handle(0), end = Handle(-1);
+        Send(QEvent::MouseButtonPress, end + beside, Qt::LeftButton, Qt::LeftButton);
+        Send(QEvent::MouseMove, end + beside + QPointF(40, 30), Qt::NoButton, Qt::LeftButton);
+        Send(QEvent::MouseButtonRelease, end + beside + QPointF(40, 30), Qt::LeftButton, Qt::NoButton);
+        // The handle moved as the hand did, and no new line was drawn from the press.
+        EXPECT_NEAR(Handle(-1).x(), end.x() + 40, 1);
+        EXPECT_NEAR(Handle(-1).y(), end.y() + 30, 1);
+        EXPECT_NEAR(Handle(0).x(), start.x(), 1);
+        EXPECT_NEAR(Handle(0).y(), start.y(), 1);
+    }
+    ASSERT_EQ(window->Undo().count(), 2);
+
+    Canvas().Select(3);
+    window->Undo().undo();
+    EXPECT_EQ(Canvas().Selected(), 0);
+    Canvas().Select(-1);
+    window->Undo().redo();
+    EXPECT_EQ(Canvas().Selected(), 0);
+}
+
+TEST_F(KestoDrawHand, ThePointerShowsWhatAPressWouldDo)
+{
+    const QPointF onLine = (Handle(0) + Handle(1)) / 2;
+    const QPointF onShape = onLine + QPointF(0, 40);
+    const QPointF onAnother = Canvas().View().map(QPointF(1500, 525)); // the second shape's middle
+    const struct {
+        QPointF at;
+        Qt::CursorShape cursor;
+    } cases[] = {{Handle(-1) + QPointF(2, -3), Qt::SizeAllCursor},
+                 {onLine, Qt::DragCopyCursor},
+                 {onShape, Qt::CrossCursor},
+                 {onAnother, Qt::PointingHandCursor},
+                 {QPointF(3, 3), Qt::ArrowCursor}};
+    for (const auto& c : cases) {
+        Send(QEvent::MouseMove, c.at, Qt::NoButton, Qt::NoButton);
+        EXPECT_EQ(Canvas().cursor().shape(), c.cursor) << c.at.x() << "," << c.at.y();
+    }
 }
 
 TEST_F(KestoDrawWindow, TheCanvasStaysWhereItIsWhateverTheSelectionPutsOnTheContextRow)
