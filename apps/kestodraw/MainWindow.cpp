@@ -161,12 +161,14 @@ void MainWindow::BuildToolBars()
     m_context = addToolBar(tr("Fill Tool"));
     m_context->setObjectName("context");
     m_contextBar = std::make_unique<KestoToolQt::QtCommandBar>(*m_context);
+    m_contextBar->SetFocusHome(m_canvas); // the keys go back to the handles after a box's edit
     m_kindBar = addToolBar(tr("Kind"));
     m_kindBar->setObjectName("kind");
     m_kindBox = new QComboBox(m_kindBar);
     m_kindBar->addWidget(m_kindBox);
     connect(m_kindBox, &QComboBox::activated, this, [this](int index) {
         m_canvas->SetKind(m_kindBox->itemData(index).toInt());
+        m_canvas->setFocus(Qt::OtherFocusReason);
         UpdateKindBox();
     });
 

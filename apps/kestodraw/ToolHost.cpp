@@ -236,6 +236,10 @@ void ToolHost::RecordCommit(const CFill* fill, const wchar_t* undoName, bool tra
     Shape* shape = SelectedShape();
     if (!shape || !fill)
         return;
+    // A commit that changes nothing (a box's value taken again as its edit ends) is no step:
+    // an Undo of it would seem to do nothing.
+    if (const RefPtr<const CFill>& current = FieldOf(*shape, transparency); current && current->IsEqual(*fill))
+        return;
     std::vector<Shape> before = m_document.shapes;
     FieldOf(*shape, transparency) = RefPtr<const CFill>(fill);
     PushStep(undoName ? QString::fromWCharArray(undoName) : DefaultStepName(), std::move(before));

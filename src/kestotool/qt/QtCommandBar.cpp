@@ -12,10 +12,12 @@
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QImage>
+#include <QKeyEvent>
 #include <QPixmap>
 #include <QToolBar>
 #include <QToolButton>
 
+#include <functional>
 #include <utility>
 
 namespace KestoToolQt {
@@ -45,6 +47,37 @@ QIcon Swatch(KestoPlatform::COLORREF colour, int side)
     pixmap.fill(ToQColor(colour));
     return QIcon(pixmap);
 }
+
+// Enter and Escape in a box end the edit: Enter after the box has taken its text, Escape
+// instead of it. Owned by the box.
+class EditEnds final : public QObject {
+public:
+    EditEnds(QAbstractSpinBox& box, std::function<void(bool escape)> ended)
+        : QObject(&box), m_box(box), m_ended(std::move(ended))
+    {
+        box.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() != QEvent::KeyPress)
+            return false;
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Escape) {
+            m_ended(true);
+            return true;
+        }
+        if (key != Qt::Key_Return && key != Qt::Key_Enter)
+            return false;
+        m_box.event(event); // the box takes its text and tells that the edit finished
+        m_ended(false);
+        return true;
+    }
+
+private:
+    QAbstractSpinBox& m_box;
+    std::function<void(bool)> m_ended;
+};
 
 } // namespace
 
@@ -102,7 +135,10 @@ QWidget* QtCommandBar::MakeWidget(CXTPControl& control)
             combo->setMaxVisibleItems(items.GetDropDownItemCount());
         QObject::connect(combo, &QComboBox::activated, combo, [this, &items](int index) {
             items.SetCurSel(index);
+            QWidget* home = m_focusHome; // the choice may replace this bar's widgets
             Notify(items, KestoPlatform::XTP_NOTIFY_EXECUTE);
+            if (home)
+                home->setFocus(Qt::OtherFocusReason);
         });
         return combo;
     }
@@ -121,6 +157,15 @@ QWidget* QtCommandBar::MakeWidget(CXTPControl& control)
         QObject::connect(box, &QDoubleSpinBox::editingFinished, box, [this, &edit, box] {
             edit.SetValue(box->value());
             Notify(edit, KestoPlatform::XTP_NOTIFY_COMMIT);
+        });
+        new EditEnds(*box, [this, &edit, box](bool escape) {
+            if (escape) {
+                const bool wasShowing = std::exchange(m_showing, true);
+                box->setValue(edit.GetValue());
+                m_showing = wasShowing;
+            }
+            if (m_focusHome)
+                m_focusHome->setFocus(Qt::ShortcutFocusReason);
         });
         return box;
     }

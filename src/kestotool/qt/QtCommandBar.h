@@ -38,6 +38,9 @@ public:
 
     // The widget that shows the control with that command id; null when none does.
     QWidget* WidgetOf(int id) const;
+    // Where the keyboard goes when Enter or Escape ends an edit in a box (Escape also puts the
+    // box's value back): the canvas, as a rule. Null (the default) leaves the focus in the box.
+    void SetFocusHome(QWidget* home) { m_focusHome = home; }
 
 private:
     struct Shown {
@@ -54,6 +57,7 @@ private:
     KestoPlatform::CCmdTarget* m_target = nullptr;
     std::vector<Shown> m_shown;
     bool m_showing = false; // widgets being set from the model: their signals are not the user's
+    QWidget* m_focusHome = nullptr;
 };
 
 } // namespace KestoToolQt

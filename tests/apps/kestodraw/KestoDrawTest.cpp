@@ -17,11 +17,14 @@
 #include "support/UserInput.h"
 
 #include <QApplication>
+#include <QDoubleSpinBox>
 #include <QFile>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QScreen>
 #include <QTemporaryDir>
+#include <QTest>
+#include <QToolBar>
 #include <QUndoStack>
 #include <QWheelEvent>
 
@@ -262,6 +265,36 @@ TEST_F(KestoDrawHand, ThePointerShowsWhatAPressWouldDo)
         Send(QEvent::MouseMove, c.at, Qt::NoButton, Qt::NoButton);
         EXPECT_EQ(Canvas().cursor().shape(), c.cursor) << c.at.x() << "," << c.at.y();
     }
+}
+
+TEST_F(KestoDrawWindow, EnterInALevelBoxGivesTheKeysBackToTheCanvasAndCtrlZRevertsTheEdit)
+{
+    // The sample's eleventh shape has a linear transparency.
+    window->activateWindow();
+    KestoDraw::Canvas& canvas = window->GetCanvas();
+    canvas.Select(10);
+    canvas.SetEditTransparency(true);
+    canvas.FlushPendingRebuild();
+    QApplication::processEvents();
+    const KestoKernel::RefPtr<const KestoGDI::CFill> original = window->GetDocument().shapes[10].transparency;
+    QDoubleSpinBox* level = nullptr;
+    for (QDoubleSpinBox* box : window->ContextToolBar().findChildren<QDoubleSpinBox*>())
+        if (box->isVisible() && box->isEnabled())
+            level = box;
+    ASSERT_NE(level, nullptr);
+    for (const Qt::Key end : {Qt::Key_Escape, Qt::Key_Return}) {
+        level->setFocus();
+        level->selectAll();
+        QTest::keyClicks(level, QString::number(static_cast<int>(level->value()) == 30 ? 40 : 30));
+        QTest::keyClick(level, end);
+        EXPECT_EQ(QApplication::focusWidget(), &canvas);
+    }
+    // Escape put the value back; Enter made one step.
+    ASSERT_EQ(window->Undo().count(), 1);
+    EXPECT_FALSE(window->GetDocument().shapes[10].transparency->IsEqual(*original));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_TRUE(window->GetDocument().shapes[10].transparency->IsEqual(*original));
+    EXPECT_EQ(canvas.Selected(), 10);
 }
 
 TEST_F(KestoDrawWindow, TheCanvasStaysWhereItIsWhateverTheSelectionPutsOnTheContextRow)
