@@ -130,6 +130,7 @@ QWidget* QtCommandBar::MakeWidget(CXTPControl& control)
     switch (control.GetType()) {
     case XTPControlType::ComboBox: {
         auto* combo = new QComboBox;
+        combo->setSizeAdjustPolicy(QComboBox::AdjustToContents); // every item's name in full
         auto& items = static_cast<KestoPlatform::CXTPControlComboBox&>(control);
         if (items.GetDropDownItemCount() > 0)
             combo->setMaxVisibleItems(items.GetDropDownItemCount());
@@ -247,7 +248,11 @@ void QtCommandBar::ShowState(const Shown& shown)
             }
         }
     } else if (auto* combo = qobject_cast<QComboBox*>(widget)) {
-        ShowListItems(*combo, static_cast<const KestoPlatform::CXTPControlComboBox&>(control));
+        const auto& items = static_cast<const KestoPlatform::CXTPControlComboBox&>(control);
+        ShowListItems(*combo, items);
+        for (int i = 0; m_itemIcons && i < combo->count() && i < items.GetCount(); ++i)
+            if (combo->itemIcon(i).isNull())
+                combo->setItemIcon(i, m_itemIcons(control.GetID(), items.GetItemData(i)));
     } else if (auto* box = qobject_cast<QDoubleSpinBox*>(widget)) {
         const auto& edit = static_cast<const KestoPlatform::CXTPControlEdit&>(control);
         const QString suffix = edit.GetUnit().IsEmpty() ? QString() : QStringLiteral(" ") + ToQString(edit.GetUnit());

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QIcon>
 #include <QObject>
 
+#include <cstdint>
+#include <functional>
 #include <vector>
 
 class QToolBar;
@@ -41,6 +44,10 @@ public:
     // Where the keyboard goes when Enter or Escape ends an edit in a box (Escape also puts the
     // box's value back): the canvas, as a rule. Null (the default) leaves the focus in the box.
     void SetFocusHome(QWidget* home) { m_focusHome = home; }
+    // Pictures for the items of combo boxes: asked for each item shown, with the control's
+    // command id and the item's data; a null icon shows none. The host knows what its items are.
+    using ItemIcons = std::function<QIcon(int id, std::intptr_t data)>;
+    void SetItemIcons(ItemIcons icons) { m_itemIcons = std::move(icons); }
 
 private:
     struct Shown {
@@ -58,6 +65,7 @@ private:
     std::vector<Shown> m_shown;
     bool m_showing = false; // widgets being set from the model: their signals are not the user's
     QWidget* m_focusHome = nullptr;
+    ItemIcons m_itemIcons;
 };
 
 } // namespace KestoToolQt
