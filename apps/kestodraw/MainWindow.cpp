@@ -1,6 +1,7 @@
 #include "MainWindow.h"
 
 #include "DocumentFile.h"
+#include "KindIcon.h"
 #include "Palette.h"
 #include "PreferencesDialog.h"
 
@@ -31,6 +32,8 @@ namespace KestoDraw {
 namespace {
 
 constexpr const char* kFileFilter = "kestodraw drawings (*.kdraw)";
+// The side of a kind's picture in the type boxes, in pixels.
+constexpr int kKindIconSide = 16;
 // Exported pictures are at most this wide or high.
 constexpr double kExportSide = 2000;
 
@@ -162,9 +165,18 @@ void MainWindow::BuildToolBars()
     m_context->setObjectName("context");
     m_contextBar = std::make_unique<KestoToolQt::QtCommandBar>(*m_context);
     m_contextBar->SetFocusHome(m_canvas); // the keys go back to the handles after a box's edit
+    m_contextBar->SetItemIcons([this](int id, std::intptr_t type) {
+        // The tools' command ids exist once the first tool has asked for them: looked up here.
+        const int typeBox =
+            KestoTool::ToolIdMap::GetInstance().MapIDToApp(KestoTool::FillToolKey, KestoTool::FillCmdEditType);
+        return id == typeBox
+                   ? KindIcon(static_cast<int>(type), m_canvas->EditsTransparency(), kKindIconSide, devicePixelRatioF())
+                   : QIcon();
+    });
     m_kindBar = addToolBar(tr("Kind"));
     m_kindBar->setObjectName("kind");
     m_kindBox = new QComboBox(m_kindBar);
+    m_kindBox->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     m_kindBar->addWidget(m_kindBox);
     connect(m_kindBox, &QComboBox::activated, this, [this](int index) {
         m_canvas->SetKind(m_kindBox->itemData(index).toInt());
@@ -216,9 +228,10 @@ void MainWindow::UpdateKindBox()
         transparency ? (shape.transparency ? shape.transparency->GetFillType() : 0) : shape.fill->GetFillType();
     m_kindBox->clear();
     for (const KestoGDI::FillKind& kind : KestoGDI::FillKinds::All()) {
-        if (transparency && !kind.transparencyClass)
+        if ((transparency && !kind.transparencyClass) || !Paintable(kind.type, transparency))
             continue;
-        m_kindBox->addItem(QString::fromWCharArray(transparency ? kind.transparencyName : kind.fillName),
+        m_kindBox->addItem(KindIcon(kind.type, transparency, kKindIconSide, devicePixelRatioF()),
+                           QString::fromWCharArray(transparency ? kind.transparencyName : kind.fillName),
                            static_cast<int>(kind.type));
         if (kind.type == current)
             m_kindBox->setCurrentIndex(m_kindBox->count() - 1);

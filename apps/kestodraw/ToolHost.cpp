@@ -1,5 +1,6 @@
 #include "ToolHost.h"
 
+#include "KindIcon.h"
 #include "ShapesEdit.h"
 
 #include <kestotool/filltool/FillToolFactory.h>
@@ -34,6 +35,23 @@ RefPtr<const CFill>& FieldOf(Shape& shape, bool transparency)
     return transparency ? shape.transparency : shape.fill;
 }
 
+// A new fill with stops takes its colours from the fill it replaces: the old stops where it had
+// some, else a plain colour as the start and white as the end (as a drag on a plain shape does).
+void CarryColours(const CFill* old, CFill& fresh)
+{
+    auto* stops = dynamic_cast<KestoGDI::CFillWithStops*>(&fresh);
+    if (!stops || !old || old->IsTransparency() != fresh.IsTransparency())
+        return;
+    if (const auto* oldStops = dynamic_cast<const KestoGDI::CFillWithStops*>(old)) {
+        stops->SetColourIntPairs(oldStops->GetColourIntPairs());
+    } else if (const auto* solid = dynamic_cast<const KestoGDI::CFillSolid*>(old)) {
+        KestoGDI::ColourIntPairs startToWhite;
+        startToWhite.Add(solid->GetColour(), 0);
+        startToWhite.Add(KestoGDI::CRGBColour(KestoPlatform::RGB(255, 255, 255)), 10000);
+        stops->SetColourIntPairs(startToWhite);
+    }
+}
+
 // The fill a drag on a shape whose fill has no tool starts from: a linear fill from the shape's
 // colour to white, or a linear transparency from opaque to clear.
 RefPtr<CFill> StarterFill(const CFill* current, bool transparency, const KestoPlatform::CRect& box)
@@ -41,12 +59,8 @@ RefPtr<CFill> StarterFill(const CFill* current, bool transparency, const KestoPl
     RefPtr<CFill> fill =
         transparency ? RefPtr<CFill>(new KestoGDI::CTransparencyLinear) : RefPtr<CFill>(new KestoGDI::CFillLinear);
     fill->SetDefaultControls(box);
-    if (const auto* solid = dynamic_cast<const KestoGDI::CFillSolid*>(current); solid && !transparency) {
-        KestoGDI::ColourIntPairs stops;
-        stops.Add(solid->GetColour(), 0);
-        stops.Add(KestoGDI::CRGBColour(KestoPlatform::RGB(255, 255, 255)), 10000);
-        static_cast<KestoGDI::CFillWithStops&>(*fill).SetColourIntPairs(stops);
-    }
+    if (dynamic_cast<const KestoGDI::CFillSolid*>(current))
+        CarryColours(current, *fill);
     return fill;
 }
 
@@ -368,11 +382,7 @@ void ToolHost::SetFillType(const KestoPlatform::CRuntimeClass* fillClass)
     if (!shape || !fresh)
         return;
     fresh->SetDefaultControls(shape->box);
-    // Colours carry over where the new kind can take the old stops.
-    const RefPtr<const CFill>& old = FieldOf(*shape, fresh->IsTransparency());
-    const auto* oldStops = dynamic_cast<const KestoGDI::CFillWithStops*>(old.get());
-    if (auto* stops = dynamic_cast<KestoGDI::CFillWithStops*>(fresh.get()); stops && oldStops)
-        stops->SetColourIntPairs(oldStops->GetColourIntPairs());
+    CarryColours(FieldOf(*shape, fresh->IsTransparency()).get(), *fresh);
     // A step of its own, also when it comes during a drag.
     RecordCommit(fresh.get(), fresh->IsTransparency() ? L"Transparency Type" : L"Fill Type", fresh->IsTransparency());
 }
@@ -380,6 +390,11 @@ void ToolHost::SetFillType(const KestoPlatform::CRuntimeClass* fillClass)
 void ToolHost::SetTransparencyType(const KestoPlatform::CRuntimeClass* transparencyClass)
 {
     SetFillType(transparencyClass);
+}
+
+bool ToolHost::IsFillTypeAvailable(CFill* fill)
+{
+    return fill && Paintable(fill->GetFillType(), fill->IsTransparency());
 }
 
 int ToolHost::CreateColourControl(KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc)

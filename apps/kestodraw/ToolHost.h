@@ -124,8 +124,9 @@ public:
     KestoGDI::CColour* ColourPicker(const KestoGDI::CColour* current, KestoPlatform::CWnd* owner) override;
     KestoGDI::CColour* AskUserForNewColour(const KestoGDI::CColour* current, KestoPlatform::CPoint where,
                                            KestoPlatform::CWnd* owner) override;
-    bool IsFillTypeAvailable(KestoGDI::CFill*) override { return true; }
-    bool IsTransparencyTypeAvailable(KestoGDI::CFill*) override { return true; }
+    // Only the kinds kestodraw can paint (and so edit) are offered.
+    bool IsFillTypeAvailable(KestoGDI::CFill* fill) override;
+    bool IsTransparencyTypeAvailable(KestoGDI::CFill* fill) override { return IsFillTypeAvailable(fill); }
     bool GetDialogSetting() override { return true; }
     bool IsLockRatioAvailable() override { return true; }
 

@@ -7,16 +7,19 @@
 #include "ScriptPlayer.h"
 
 #include "kestotool/dialogs/GradientFillDlg.h"
+#include "kestotool/filltool/FillCommands.h"
 #include "kestotool/filltool/FillToolLinear.h"
 #include "kestotool/filltool/FillToolRadial.h"
 #include "kestotool/gdi/CFillLinear.h"
 #include "kestotool/gdi/CFillRadial.h"
+#include "kestotool/gdi/CFillSolid.h"
 #include "kestotool/gdi/CFillWithStops.h"
 #include "kestotool/tool/ToolIdMap.h"
 #include "support/ReferenceImage.h"
 #include "support/UserInput.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QFile>
 #include <QLabel>
@@ -295,6 +298,35 @@ TEST_F(KestoDrawWindow, EnterInALevelBoxGivesTheKeysBackToTheCanvasAndCtrlZRever
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Z, Qt::ControlModifier);
     EXPECT_TRUE(window->GetDocument().shapes[10].transparency->IsEqual(*original));
     EXPECT_EQ(canvas.Selected(), 10);
+}
+
+TEST_F(KestoDrawWindow, TheTypeBoxOffersPaintableKindsWithPicturesAndAGradientKeepsThePlainColour)
+{
+    // The sample's last shape is plain purple; it has no tool, so kestodraw's own box shows.
+    KestoDraw::Canvas& canvas = window->GetCanvas();
+    const int last = static_cast<int>(window->GetDocument().shapes.size()) - 1;
+    canvas.Select(last);
+    const auto& solid = dynamic_cast<const KestoGDI::CFillSolid&>(FillOf(*window, last));
+    QComboBox& box = window->KindBox();
+    EXPECT_EQ(box.findData(KestoGDI::FillType::DiscreteMesh), -1);
+    EXPECT_NE(box.findData(KestoGDI::FillType::Radial), -1);
+    for (int i = 0; i < box.count(); ++i)
+        EXPECT_FALSE(box.itemIcon(i).isNull()) << box.itemText(i).toStdString();
+
+    Step("kind 5");
+    const auto& radial = dynamic_cast<const KestoGDI::CFillWithStops&>(FillOf(*window, last));
+    EXPECT_EQ(radial.GetFillType(), KestoGDI::FillType::Radial);
+    EXPECT_TRUE(radial.GetColourIntPairs().GetAt(0)->GetColour().IsEqual(solid.GetColour()));
+
+    // The tool's own box, now that the radial fill has a tool, offers the same kinds with pictures.
+    canvas.FlushPendingRebuild();
+    window->ContextBar().UpdateControls();
+    const int id = KestoTool::ToolIdMap::GetInstance().MapIDToApp(KestoTool::FillToolKey, KestoTool::FillCmdEditType);
+    const auto* types = qobject_cast<QComboBox*>(window->ContextBar().WidgetOf(id));
+    ASSERT_NE(types, nullptr);
+    EXPECT_EQ(types->count(), box.count());
+    for (int i = 0; i < types->count(); ++i)
+        EXPECT_FALSE(types->itemIcon(i).isNull()) << types->itemText(i).toStdString();
 }
 
 TEST_F(KestoDrawWindow, TheCanvasStaysWhereItIsWhateverTheSelectionPutsOnTheContextRow)
