@@ -93,12 +93,13 @@ void MainWindow::BuildMenus()
         if (!path.isEmpty())
             SaveAs(path);
     });
-    file->addAction(tr("Save &As..."), QKeySequence::SaveAs, this, [this] {
+    // Spelled out: the standard Save As key is empty where no desktop defines one.
+    file->addAction(tr("Save &As..."), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), this, [this] {
         const QString path = QFileDialog::getSaveFileName(this, tr("Save Drawing"), m_path, tr(kFileFilter));
         if (!path.isEmpty())
             SaveAs(path);
     });
-    file->addAction(tr("&Export PNG..."), this, [this] {
+    file->addAction(tr("&Export PNG..."), QKeySequence(Qt::CTRL | Qt::Key_E), this, [this] {
         const QString path = QFileDialog::getSaveFileName(this, tr("Export PNG"), QString(), tr("PNG images (*.png)"));
         if (!path.isEmpty())
             ExportPng(path);
