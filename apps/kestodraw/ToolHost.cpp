@@ -3,6 +3,7 @@
 #include "KindIcon.h"
 #include "ShapesEdit.h"
 
+#include <kestotool/dialogs/EditorEntryPoints.h>
 #include <kestotool/filltool/FillToolFactory.h>
 #include <kestotool/gdi/CFillLinear.h>
 #include <kestotool/gdi/CFillSolid.h>
@@ -74,10 +75,16 @@ ToolHost::ToolHost(Document& document, QUndoStack& undo, QWidget& view)
         m_live = working.Clone();
         emit Changed();
     });
+    // An open editor's fill shows on the page too, until the editor closes.
+    KestoTool::SetEditorShowNow([this](const CFill* editing) {
+        m_live = editing ? editing->Clone() : nullptr;
+        emit Changed();
+    });
 }
 
 ToolHost::~ToolHost()
 {
+    KestoTool::SetEditorShowNow(nullptr);
     m_tool.reset();
 }
 

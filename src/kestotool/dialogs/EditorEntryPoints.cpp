@@ -33,10 +33,38 @@ using namespace KestoGDI;
 
 namespace {
 
+EditorShowNow& ShowNow()
+{
+    static EditorShowNow show;
+    return show;
+}
+
+// For as long as an editor runs, what its preview shows goes to the host's show-now callback;
+// at the end the host hears that the editor closed.
+class ShowingOnPage {
+public:
+    explicit ShowingOnPage(KestoUI::FillPreview& preview)
+    {
+        if (ShowNow())
+            preview.SetOnShown([](const CFill* fill) {
+                if (ShowNow())
+                    ShowNow()(fill);
+            });
+    }
+    ~ShowingOnPage()
+    {
+        if (ShowNow())
+            ShowNow()(nullptr);
+    }
+    ShowingOnPage(const ShowingOnPage&) = delete;
+    ShowingOnPage& operator=(const ShowingOnPage&) = delete;
+};
+
 // Runs an editor with the helper's setting and hands over its fill after OK.
 RefPtr<CFill> Run(ExpandingFillPreviewDlg&& dialog, bool helperSetting)
 {
     dialog.SetHelperSetting(helperSetting);
+    const ShowingOnPage showing(dialog.GetPreview());
     return dialog.DoModal() == KestoPlatform::IDOK ? dialog.TakeFill() : nullptr;
 }
 
@@ -147,6 +175,7 @@ private:
     {
         // This dialog is made without the parent window and without the helper's setting.
         CSolidTransparencyDlg dialog(flat, nullptr);
+        const ShowingOnPage showing(dialog.GetPreview());
         result = dialog.DoModal() == KestoPlatform::IDOK ? dialog.GetTrans() : nullptr;
     }
     void Gradient(const CFillGradient& fill) override
@@ -203,5 +232,10 @@ namespace {
 }
 
 } // namespace
+
+void SetEditorShowNow(EditorShowNow show)
+{
+    ShowNow() = std::move(show);
+}
 
 } // namespace KestoTool

@@ -6,6 +6,8 @@
 #include "kestotool/tool/KestoToolImports.h"
 #include "kestotool/tool/TypeCombos.h"
 
+#include <functional>
+
 namespace KestoPlatform {
 class CWnd;
 }
@@ -29,5 +31,13 @@ KESTO_API RefPtr<KestoGDI::CFill> EditTransparency(IDocumentEx* document, const 
                                                    KestoPlatform::CWnd* parent);
 KESTO_API RefPtr<KestoGDI::CFill> EditTransparency(IDocumentEx* document, const KestoGDI::CFill* transparency,
                                                    const CRect& objectRect, KestoPlatform::CWnd* parent);
+
+// While an editor that EditFill or EditTransparency opened is up, show is called with the fill
+// as the user has made it so far, each time it changes (the editor's own copy: copy it to keep
+// it), and with null as the editor closes, before the result is handed back. A host paints that
+// fill on the page in place of the document's, so that edits show as they are made and Cancel
+// puts the page back; OK's result then comes as one commit. Null (the default) shows nothing.
+using EditorShowNow = std::function<void(const KestoGDI::CFill* editing)>;
+KESTO_API void SetEditorShowNow(EditorShowNow show);
 
 } // namespace KestoTool

@@ -31,6 +31,7 @@ public:
     static int FromPercentage(int percent);
 
     const KestoUI::FillPreview& GetPreview() const { return m_preview; }
+    KestoUI::FillPreview& GetPreview() { return m_preview; }
     KestoPlatform::CSliderCtrl& GetSlider() { return m_slider; }
     KestoPlatform::CEdit& GetEdit() { return m_edit; }
     KestoPlatform::CSpinButtonCtrl& GetSpin() { return m_spin; }

@@ -360,9 +360,11 @@ TEST_F(KestoDrawWindow, AWheelZoomKeepsThePointUnderThePointer)
     EXPECT_NEAR(after.y(), under.y(), 0.01);
 }
 
-TEST_F(KestoDrawWindow, EditFillOpensTheEditorAndOnlyOKChangesTheDrawing)
+TEST_F(KestoDrawWindow, EditFillOpensTheEditorItsEditsShowOnThePageAndOnlyOKChangesTheDrawing)
 {
     Step("click 550 525");
+    KestoDraw::Canvas& canvas = window->GetCanvas();
+    const QImage page = canvas.grab().toImage();
     KestoTest::UserInput& input = KestoTest::QtUserInput();
     for (const int button : {KestoPlatform::IDCANCEL, KestoPlatform::IDOK}) {
         input.SetModalScript([&](KestoPlatform::CDialog& dialog) {
@@ -370,9 +372,18 @@ TEST_F(KestoDrawWindow, EditFillOpensTheEditorAndOnlyOKChangesTheDrawing)
             ASSERT_NE(editor, nullptr);
             editor->GetBar().Select(1);
             input.ClickButton(dialog, KestoTool::IDC_STOP_DELETE);
+            // The page shows the edit before OK; the document does not have it yet.
+            ASSERT_NE(canvas.Host().LiveFill(), nullptr);
+            EXPECT_EQ(StopPositions(*canvas.Host().LiveFill()).size(), 3u);
+            EXPECT_NE(canvas.grab().toImage(), page);
+            EXPECT_EQ(StopPositions(FillOf(*window, 0)).size(), 4u);
             input.ClickButton(dialog, button);
         });
         window->EditFill(false);
+        if (button == KestoPlatform::IDCANCEL) {
+            EXPECT_EQ(canvas.Host().LiveFill(), nullptr);
+            EXPECT_EQ(canvas.grab().toImage(), page); // Cancel put the page back
+        }
     }
     ASSERT_EQ(window->Undo().count(), 1);
     EXPECT_EQ(StopPositions(FillOf(*window, 0)).size(), 3u);
