@@ -463,8 +463,12 @@ void Canvas::dragMoveEvent(QDragMoveEvent* event)
     if (!colour)
         return;
     if (Tool()) {
-        CPoint p = ToDocument(event->position());
+        // The page shows what the drop would make; the handle it would colour is ringed, the
+        // line it would add a stop to widens.
+        CPoint p = DropPoint(event->position());
+        m_host.PreviewDrop(p, *colour);
         Tool()->SetGhostNode(p, colour.get());
+        m_hoverHandle = HandleNear(event->position());
         Refresh();
     }
     event->acceptProposedAction();
@@ -472,8 +476,22 @@ void Canvas::dragMoveEvent(QDragMoveEvent* event)
 
 void Canvas::dragLeaveEvent(QDragLeaveEvent*)
 {
-    if (Tool() && Tool()->ClearGhostNode())
-        update();
+    m_hoverHandle = -1;
+    m_host.EndPreview();
+    if (Tool())
+        Tool()->ClearGhostNode();
+    Refresh();
+}
+
+CPoint Canvas::DropPoint(QPointF device) const
+{
+    // Near a handle, at the handle: as a press grabs it.
+    if (const int near = HandleNear(device); near >= 0) {
+        Kesto2D::K2DArrayPoint handles;
+        Tool()->GetHandles(&handles);
+        return handles.GetAt(near);
+    }
+    return ToDocument(device);
 }
 
 void Canvas::dropEvent(QDropEvent* event)
@@ -481,8 +499,10 @@ void Canvas::dropEvent(QDropEvent* event)
     const std::unique_ptr<KestoGDI::CColour> colour = DroppedColour(event->mimeData());
     if (!colour)
         return;
-    CPoint p = ToDocument(event->position());
+    CPoint p = DropPoint(event->position());
     event->acceptProposedAction();
+    m_hoverHandle = -1;
+    m_host.EndPreview();
     if (KestoTool::FillTool* tool = Tool()) {
         tool->ClearGhostNode();
         if (tool->OnFillCellDrop(p, colour.get())) {

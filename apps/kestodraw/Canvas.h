@@ -107,6 +107,8 @@ private:
     KestoPlatform::CPoint ToDocument(const QPointF& device) const;
     // The tool's handle nearest the point within reach of a press (see kGrabPixels); -1: none.
     int HandleNear(QPointF device) const;
+    // Where a colour dropped at the point lands: a handle's centre within reach of it.
+    KestoPlatform::CPoint DropPoint(QPointF device) const;
     // What a press at the point would do, as a cursor.
     Qt::CursorShape CursorAt(QPointF device);
     // The pointer is at the point with no button down: its cursor and the handle it would grab.

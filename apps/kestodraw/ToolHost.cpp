@@ -242,6 +242,10 @@ void ToolHost::Commit(const CFill* fill, const wchar_t* undoName, bool transpare
     Shape* shape = SelectedShape();
     if (!shape || !fill)
         return;
+    if (m_previewing) {
+        m_live = fill->Clone();
+        return;
+    }
     if (m_gesture.Absorb(undoName)) {
         // A commit while the mouse moves shows at once; the gesture's end makes the step.
         FieldOf(*shape, transparency) = RefPtr<const CFill>(fill);
@@ -397,6 +401,30 @@ void ToolHost::SetFillType(const KestoPlatform::CRuntimeClass* fillClass)
 void ToolHost::SetTransparencyType(const KestoPlatform::CRuntimeClass* transparencyClass)
 {
     SetFillType(transparencyClass);
+}
+
+bool ToolHost::PreviewDrop(CPoint at, const KestoGDI::CColour& colour)
+{
+    if (!m_tool || m_gesture.InDrag())
+        return false;
+    const RefPtr<const CFill> shown = m_live;
+    m_live = nullptr;
+    m_previewing = true;
+    const bool dropped = m_tool->OnFillCellDrop(at, &colour);
+    m_previewing = false;
+    if (!dropped)
+        m_live = nullptr;
+    if (m_live != shown)
+        emit Changed();
+    return dropped;
+}
+
+void ToolHost::EndPreview()
+{
+    if (!m_live || m_gesture.InDrag())
+        return;
+    m_live = nullptr;
+    emit Changed();
 }
 
 bool ToolHost::IsFillTypeAvailable(CFill* fill)

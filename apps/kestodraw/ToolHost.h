@@ -83,6 +83,10 @@ public:
     bool StartGesture(KestoPlatform::CPoint at, unsigned flags, bool create);
     void MoveGesture(KestoPlatform::CPoint at, unsigned flags) { m_gesture.Move(at, flags); }
     void EndGesture(KestoPlatform::CPoint at, unsigned flags);
+    // Shows what a colour dropped at the point would make of the fill (LiveFill), committing
+    // nothing; false (and nothing shown) where a drop would change nothing.
+    bool PreviewDrop(KestoPlatform::CPoint at, const KestoGDI::CColour& colour);
+    void EndPreview();
     // Moves the current handle (or the last) by a document offset, as one step.
     void Nudge(int dx, int dy);
     // Makes the next (step 1) or previous (-1) handle current.
@@ -162,6 +166,7 @@ private:
     KestoTool::ToolGesture m_gesture;
     std::vector<Shape> m_before; // the shapes at the gesture's press
     KestoKernel::RefPtr<const KestoGDI::CFill> m_live;
+    bool m_previewing = false; // a commit now only shows (a colour dragged over the fill)
 };
 
 } // namespace KestoDraw

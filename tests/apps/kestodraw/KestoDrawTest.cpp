@@ -23,6 +23,7 @@
 #include <QDoubleSpinBox>
 #include <QFile>
 #include <QLabel>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QScreen>
 #include <QTemporaryDir>
@@ -249,6 +250,40 @@ TEST_F(KestoDrawHand, APressBesideAHandleDragsThatHandleAndUndoKeepsTheShapeSele
     Canvas().Select(-1);
     window->Undo().redo();
     EXPECT_EQ(Canvas().Selected(), 0);
+}
+
+TEST_F(KestoDrawHand, AColourDraggedOverAHandleShowsOnThePageUntilItIsDroppedOrLeaves)
+{
+    // Swatch 2 is red; the end handle is dark blue.
+    QMimeData mime;
+    mime.setData(KestoDraw::Canvas::ColourMime, window->GetPalette().MimeData(2));
+    const QPoint beside = (Handle(-1) + QPointF(5, 3)).toPoint();
+    const auto drag = [&](QEvent::Type type) {
+        QDragMoveEvent event(beside, Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier, type);
+        QApplication::sendEvent(&Canvas(), &event);
+    };
+    const auto endColour = [](const KestoGDI::CFill& fill) {
+        const auto& stops = dynamic_cast<const KestoGDI::CFillWithStops&>(fill).GetColourIntPairs();
+        return stops.GetAt(stops.GetSize() - 1)->GetColour().GetRGB();
+    };
+    const unsigned long red = window->GetPalette().Colour(2)->GetRGB();
+    for (const bool drop : {false, true}) {
+        drag(QEvent::DragEnter);
+        drag(QEvent::DragMove);
+        ASSERT_NE(Canvas().Host().LiveFill(), nullptr);
+        EXPECT_EQ(endColour(*Canvas().Host().LiveFill()), red);
+        EXPECT_NE(endColour(FillOf(*window, 0)), red); // nothing committed yet
+        if (drop) {
+            QDropEvent event(beside, Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(&Canvas(), &event);
+        } else {
+            QDragLeaveEvent event;
+            QApplication::sendEvent(&Canvas(), &event);
+        }
+        EXPECT_EQ(Canvas().Host().LiveFill(), nullptr);
+        EXPECT_EQ(endColour(FillOf(*window, 0)) == red, drop);
+        EXPECT_EQ(window->Undo().count(), drop ? 1 : 0);
+    }
 }
 
 TEST_F(KestoDrawHand, ThePointerShowsWhatAPressWouldDo)
