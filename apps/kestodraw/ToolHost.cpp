@@ -409,9 +409,13 @@ bool ToolHost::PreviewDrop(CPoint at, const KestoGDI::CColour& colour)
         return false;
     const RefPtr<const CFill> shown = m_live;
     m_live = nullptr;
+    // The tool's own fill is left as it was (a commit hands out a copy); its current node is put
+    // back too, as the drop that is only shown may have moved it.
+    const int current = m_tool->GetCurrentNode();
     m_previewing = true;
     const bool dropped = m_tool->OnFillCellDrop(at, &colour);
     m_previewing = false;
+    m_tool->SetCurrentNode(current);
     if (!dropped)
         m_live = nullptr;
     if (m_live != shown)
