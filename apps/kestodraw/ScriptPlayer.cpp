@@ -77,6 +77,12 @@ bool ScriptPlayer::PlayStep(const QString& line)
         const KestoPlatform::CPoint to = point(3);
         if (ok)
             Drag(from, to, Modifiers(w, 5));
+    } else if (verb == "press" || verb == "move" || verb == "release") {
+        const KestoPlatform::CPoint at = point(1);
+        if (ok)
+            (this->*(verb == "press"  ? &ScriptPlayer::Press
+                     : verb == "move" ? &ScriptPlayer::Move
+                                      : &ScriptPlayer::Release))(at, Modifiers(w, 3));
     } else if (verb == "drop") {
         const int swatch = number(1, ok);
         const KestoPlatform::CPoint at = point(2);

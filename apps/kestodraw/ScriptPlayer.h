@@ -17,6 +17,8 @@ class MainWindow;
 // A script has one step a line ('#' starts a comment):
 //   mode select|rectangle|ellipse|path     edit fill|transparency
 //   click X Y [shift] [ctrl]                drag X1 Y1 X2 Y2 [shift] [ctrl]
+//   press X Y [...]  move X Y [...]  release X Y [...]   (a drag a step at a time, so that a
+//                                            screenshot shows it halfway)
 //   drop SWATCH X Y                          (a palette swatch dragged and dropped there)
 //   key NAME [shift]                         (Tab, Left, Right, Up, Down, Delete or a letter)
 //   kind TYPE                                (the type box or the tool's type combo: a type number)
