@@ -1,6 +1,7 @@
 #include "DrawingPainter.h"
 
 #include <kestotool/gdi/FillPaint.h>
+#include <kestotool/qt/QtConvert.h>
 #include <kestotool/raster/Composite.h>
 #include <kestotool/raster/Path.h>
 #include <kestotool/raster/PreparedPaint.h>
@@ -15,28 +16,6 @@ namespace KestoDraw {
 using namespace KestoRaster;
 
 namespace {
-
-// The outline as the renderer takes it (a QPainterPath keeps a cubic as its end point's
-// element followed by two data elements).
-Path ToRasterPath(const QPainterPath& outline)
-{
-    Path path;
-    for (int i = 0; i < outline.elementCount(); ++i) {
-        const QPainterPath::Element e = outline.elementAt(i);
-        switch (e.type) {
-        case QPainterPath::MoveToElement: path.MoveTo({e.x, e.y}); break;
-        case QPainterPath::LineToElement: path.LineTo({e.x, e.y}); break;
-        case QPainterPath::CurveToElement: {
-            const QPainterPath::Element c2 = outline.elementAt(i + 1), end = outline.elementAt(i + 2);
-            path.CubicTo({e.x, e.y}, {c2.x, c2.y}, {end.x, end.y});
-            i += 2;
-            break;
-        }
-        case QPainterPath::CurveToDataElement: break;
-        }
-    }
-    return path;
-}
 
 // The top left w x h of a buffer as a colour target, the buffer grown to hold it.
 Target Scratch(QImage& buffer, int w, int h)
@@ -106,7 +85,7 @@ void DrawingPainter::PaintShape(QPainter& painter, const Shape& shape, const QTr
     // finds the coverage far faster than QPainter's anti-aliased fill of a large ellipse.
     m_coverage.resize(static_cast<std::size_t>(w) * h);
     const Target coverage{m_coverage.data(), w, h, w, Output::Mask8};
-    RenderCoverage(ToRasterPath(shape.Outline()), toLayer, coverage, all);
+    RenderCoverage(KestoToolQt::ToRasterPath(shape.Outline()), toLayer, coverage, all);
     if (transparency) {
         if (const std::optional<KestoRaster::Paint>& mask = PaintOf(*transparency, scale)) {
             m_levels.resize(m_coverage.size());

@@ -9,11 +9,13 @@
 #include "kestotool/platform/CXTPImageManager.h"
 #include "kestotool/platform/ColourRef.h"
 #include "kestotool/platform/WindowTypes.h"
+#include "kestotool/raster/Path.h"
 
 #include <QColor>
 #include <QComboBox>
 #include <QIcon>
 #include <QImage>
+#include <QPainterPath>
 #include <QPen>
 #include <QPixmap>
 #include <QPolygonF>
@@ -90,6 +92,28 @@ inline QPolygonF ToQPolygon(const Kesto2D::K2DArrayPoint& points)
     for (const KestoPlatform::CPoint& p : points)
         polygon << QPointF(p.x, p.y);
     return polygon;
+}
+
+// An outline as the renderer takes it (a QPainterPath keeps a cubic as its end point's element
+// followed by two data elements).
+inline KestoRaster::Path ToRasterPath(const QPainterPath& outline)
+{
+    KestoRaster::Path path;
+    for (int i = 0; i < outline.elementCount(); ++i) {
+        const QPainterPath::Element e = outline.elementAt(i);
+        switch (e.type) {
+        case QPainterPath::MoveToElement: path.MoveTo({e.x, e.y}); break;
+        case QPainterPath::LineToElement: path.LineTo({e.x, e.y}); break;
+        case QPainterPath::CurveToElement: {
+            const QPainterPath::Element c2 = outline.elementAt(i + 1), end = outline.elementAt(i + 2);
+            path.CubicTo({e.x, e.y}, {c2.x, c2.y}, {end.x, end.y});
+            i += 2;
+            break;
+        }
+        case QPainterPath::CurveToDataElement: break;
+        }
+    }
+    return path;
 }
 
 // A curve as polylines no farther than tolerance from it, one per piece.

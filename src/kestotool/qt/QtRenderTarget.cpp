@@ -4,6 +4,7 @@
 
 #include <QImage>
 #include <QPainter>
+#include <QPainterPathStroker>
 #include <QPolygonF>
 
 #include <cmath>
@@ -72,6 +73,51 @@ void QtRenderTarget::SetLinePen(const KestoGDI::RenderPen& pen)
     m_painter.setRenderHint(QPainter::Antialiasing, !m_highDensity);
 }
 
+void QtRenderTarget::Stroke(const QPainterPath& path, const KestoGDI::RenderPen& pen)
+{
+    // A line of a pixel Qt draws fast and well; a wider one (a halo) it splits over its thread
+    // pool in pieces whose hand-offs cost more than the drawing. Where lines are anti-aliased,
+    // the renderer finds its coverage instead and Qt only copies the pixels.
+    if (m_highDensity || pen.width <= 1 || !m_painter.device()) {
+        SetLinePen(pen);
+        m_painter.setBrush(Qt::NoBrush);
+        m_painter.drawPath(path);
+        return;
+    }
+    QPainterPathStroker stroker(ToQPen(pen));
+    // In the device's pixels from its corner (a widget's device transform would add where the
+    // widget lies in its window).
+    const qreal ratio = m_painter.device()->devicePixelRatio();
+    const QPainterPath outline =
+        (m_painter.worldTransform() * QTransform::fromScale(ratio, ratio)).map(stroker.createStroke(path));
+    const QRect area = outline.boundingRect().toAlignedRect().adjusted(-1, -1, 1, 1) &
+                       QRect(0, 0, static_cast<int>(m_painter.device()->width() * ratio),
+                             static_cast<int>(m_painter.device()->height() * ratio));
+    if (area.isEmpty())
+        return;
+    const int w = area.width(), h = area.height();
+    std::vector<std::uint8_t> coverage(static_cast<std::size_t>(w) * h);
+    KestoRaster::RenderCoverage(ToRasterPath(outline),
+                                {1, 0, 0, 1, -static_cast<double>(area.x()), -static_cast<double>(area.y())},
+                                {coverage.data(), w, h, w, KestoRaster::Output::Mask8}, {0, 0, w, h});
+    const QColor colour = ToQColor(pen.colour, pen.alpha);
+    const QRgb premultiplied = qPremultiply(colour.rgba());
+    QImage stroke(w, h, QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < h; ++y) {
+        auto* row = reinterpret_cast<QRgb*>(stroke.scanLine(y));
+        const std::uint8_t* cover = &coverage[static_cast<std::size_t>(y) * w];
+        for (int x = 0; x < w; ++x) {
+            const unsigned c = cover[x];
+            row[x] = qRgba((qRed(premultiplied) * c + 127) / 255, (qGreen(premultiplied) * c + 127) / 255,
+                           (qBlue(premultiplied) * c + 127) / 255, (qAlpha(premultiplied) * c + 127) / 255);
+        }
+    }
+    m_painter.save();
+    m_painter.setWorldTransform(QTransform::fromScale(1 / ratio, 1 / ratio));
+    m_painter.drawImage(area.topLeft(), stroke);
+    m_painter.restore();
+}
+
 void QtRenderTarget::DrawDisc(const KestoPlatform::CPoint& centre, int radius, const KestoGDI::RenderBrush& fill,
                               const std::optional<KestoGDI::RenderPen>& outline)
 {
@@ -91,29 +137,32 @@ void QtRenderTarget::DrawDisc(const KestoPlatform::CPoint& centre, int radius, c
 
 void QtRenderTarget::DrawCircle(const KestoPlatform::CPoint& centre, int radius, const KestoGDI::RenderPen& pen)
 {
-    SetLinePen(pen);
-    m_painter.setBrush(Qt::NoBrush);
-    m_painter.drawEllipse(ToQPointF(centre), radius, radius);
+    QPainterPath circle;
+    circle.addEllipse(ToQPointF(centre), radius, radius);
+    Stroke(circle, pen);
 }
 
 void QtRenderTarget::DrawLine(const KestoPlatform::CPoint& a, const KestoPlatform::CPoint& b,
                               const KestoGDI::RenderPen& pen)
 {
-    SetLinePen(pen);
-    m_painter.drawLine(ToQPointF(a), ToQPointF(b));
+    QPainterPath line(ToQPointF(a));
+    line.lineTo(ToQPointF(b));
+    Stroke(line, pen);
 }
 
 void QtRenderTarget::DrawPolyline(const Kesto2D::K2DArrayPoint& points, const KestoGDI::RenderPen& pen)
 {
-    SetLinePen(pen);
-    m_painter.drawPolyline(ToQPolygon(points));
+    QPainterPath line;
+    line.addPolygon(ToQPolygon(points));
+    Stroke(line, pen);
 }
 
 void QtRenderTarget::DrawCurve(const Kesto2D::K2DCurve& curve, const KestoGDI::RenderPen& pen)
 {
-    SetLinePen(pen);
+    QPainterPath lines;
     for (const QPolygonF& line : ToQPolygons(curve, ScalePixels(0.25)))
-        m_painter.drawPolyline(line);
+        lines.addPolygon(line);
+    Stroke(lines, pen);
 }
 
 } // namespace KestoToolQt

@@ -3,6 +3,7 @@
 #include "kestotool/gdi/IRenderTarget.h"
 
 class QPainter;
+class QPainterPath;
 
 namespace KestoToolQt {
 
@@ -25,6 +26,8 @@ public:
 
 private:
     void SetLinePen(const KestoGDI::RenderPen& pen);
+    // Strokes a line, a polyline or a circle (in the painter's coordinates) with the pen.
+    void Stroke(const QPainterPath& path, const KestoGDI::RenderPen& pen);
 
     QPainter& m_painter;
     double m_scale;
