@@ -38,7 +38,7 @@ double CpuMilliseconds()
     return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
 }
 
-// The sample's shapes: 1 has a radial fill, 6 a four-colour fill, 8 a bitmap fill.
+// The sample's shapes: 1 has a radial fill, 6 a four-colour fill, 7 a plasma fill, 8 a bitmap fill.
 struct Drag {
     int shape;
     int handle; // the index among the tool's handles; negative counts from the end
@@ -112,7 +112,10 @@ void Register()
     const struct {
         const char* name;
         Drag drag;
-    } drags[] = {{"RadialEndHandle", {1, -1}}, {"FourColourCorner", {6, 1}}, {"BitmapTileHandle", {8, -1}}};
+    } drags[] = {{"RadialEndHandle", {1, -1}},
+                 {"FourColourCorner", {6, 1}},
+                 {"BitmapTileHandle", {8, -1}},
+                 {"PlasmaHandle", {7, -1}}};
     for (const auto& d : drags)
         benchmark::RegisterBenchmark(("Hand/" + std::string(d.name) + "/" + size).c_str(),
                                      [drag = d.drag](benchmark::State& state) { HandDrag(state, drag); })
