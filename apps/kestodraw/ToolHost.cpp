@@ -4,6 +4,7 @@
 #include "ShapesEdit.h"
 
 #include <kestotool/dialogs/EditorEntryPoints.h>
+#include <kestotool/filltool/FillCommands.h>
 #include <kestotool/filltool/FillToolFactory.h>
 #include <kestotool/gdi/CFillLinear.h>
 #include <kestotool/gdi/CFillSolid.h>
@@ -16,12 +17,21 @@
 #include <kestotool/platform/CXTPControlPopupColor.h>
 #include <kestotool/qt/QtConvert.h>
 #include <kestotool/tool/SiteGeometry.h>
+#include <kestotool/tool/ToolIdMap.h>
 
 #include <QColorDialog>
+#include <QImage>
 #include <QUndoStack>
 #include <QWidget>
 
 #include <algorithm>
+#include <utility>
+
+// The pictures live in this static library; the program keeps them only when asked for by name.
+static void LoadOwnImages()
+{
+    Q_INIT_RESOURCE(icons);
+}
 
 namespace KestoDraw {
 
@@ -63,6 +73,33 @@ RefPtr<CFill> StarterFill(const CFill* current, bool transparency, const KestoPl
     if (dynamic_cast<const KestoGDI::CFillSolid*>(current))
         CarryColours(current, *fill);
     return fill;
+}
+
+// The library's command table gives Lock Ratio and Reset Handles the same picture as Max Fit;
+// kestodraw shows each its own, from its resources (icons/<dpi>/<name>.png).
+void RegisterOwnImages(KestoPlatform::CXTPImageManager& images)
+{
+    LoadOwnImages();
+    const struct {
+        int command;
+        const char* name;
+    } own[] = {{KestoTool::FillCmdLockRatio, "Lock Ratio"}, {KestoTool::FillCmdResetHandles, "Reset Handles"}};
+    for (const auto& [command, name] : own) {
+        const int id = KestoTool::ToolIdMap::GetInstance().MapIDToApp(KestoTool::FillToolKey, command);
+        for (const int dpi : {96, 120, 144, 192}) {
+            const QImage png = QImage(QStringLiteral(":/icons/%1/%2.png").arg(dpi).arg(QLatin1String(name)))
+                                   .convertToFormat(QImage::Format_ARGB32);
+            if (id == -1 || png.isNull())
+                continue;
+            KestoPlatform::XTPImage image{png.width(), png.height(), {}};
+            for (int y = 0; y < png.height(); ++y) {
+                const auto* row = reinterpret_cast<const std::uint32_t*>(png.constScanLine(y));
+                image.argb.insert(image.argb.end(), row, row + png.width());
+            }
+            images.SetIcons(image, &id, 1, KestoPlatform::CXTPImageManager::GetPreferredIconSizeforDPI(dpi),
+                            KestoPlatform::XTPImageState::Normal);
+        }
+    }
 }
 
 } // namespace
@@ -202,8 +239,11 @@ void ToolHost::RebuildTool()
     m_bars->RemoveAll();
     if (const RefPtr<const CFill> fill = EditedFill())
         m_tool = KestoTool::FillToolFactory::Create(fill.get(), this);
-    if (m_tool)
+    if (m_tool) {
         m_tool->InitContextButtons(m_bars.get());
+        if (!std::exchange(m_ownImages, true))
+            RegisterOwnImages(*m_bars->GetImageManager());
+    }
     emit ToolChanged();
     emit HintChanged();
     emit Changed();

@@ -159,6 +159,7 @@ private:
     std::unique_ptr<KestoPlatform::CXTPCommandBars> m_bars;
     std::unique_ptr<KestoTool::FillTool> m_tool;
     bool m_rebuildPending = false;
+    bool m_ownImages = false; // kestodraw's own command pictures are in the bars' images
     double m_zoom = 1;
     int m_grid = 0;
     int m_angleStep = 1500;

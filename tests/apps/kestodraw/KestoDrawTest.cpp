@@ -364,6 +364,24 @@ TEST_F(KestoDrawWindow, TheTypeBoxOffersPaintableKindsWithPicturesAndAGradientKe
         EXPECT_FALSE(types->itemIcon(i).isNull()) << types->itemText(i).toStdString();
 }
 
+TEST_F(KestoDrawWindow, LockRatioResetHandlesAndMaxFitEachHaveTheirOwnPicture)
+{
+    Step("click 550 525");
+    const auto picture = [&](int command) {
+        const int id = KestoTool::ToolIdMap::GetInstance().MapIDToApp(KestoTool::FillToolKey, command);
+        const KestoPlatform::XTPImage* image =
+            window->GetCanvas().ContextBars()->GetImageManager()->GetImage(id, KestoPlatform::CSize(16, 16));
+        return image ? image->argb : std::vector<std::uint32_t>{};
+    };
+    const auto lock = picture(KestoTool::FillCmdLockRatio), reset = picture(KestoTool::FillCmdResetHandles),
+               maxFit = picture(KestoTool::FillCmdMaxFit);
+    ASSERT_FALSE(lock.empty());
+    ASSERT_FALSE(reset.empty());
+    EXPECT_NE(lock, reset);
+    EXPECT_NE(lock, maxFit);
+    EXPECT_NE(reset, maxFit);
+}
+
 TEST_F(KestoDrawWindow, TheCanvasStaysWhereItIsWhateverTheSelectionPutsOnTheContextRow)
 {
     // The sample's first shape has a linear fill, its last a plain colour.
