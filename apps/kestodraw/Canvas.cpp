@@ -11,6 +11,7 @@
 #include <kestotool/qt/QtRenderTarget.h>
 
 #include <QJsonDocument>
+#include <QCursor>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
@@ -564,6 +565,9 @@ QRect Canvas::SelectionBounds() const
 
 void Canvas::Refresh()
 {
+    // The handles may have moved under a still pointer (undo, a key): it rings what is under it.
+    if (m_press == Press::None && underMouse() && !m_spaceHeld && m_mode == Mode::Select)
+        m_hoverHandle = HandleNear(mapFromGlobal(QCursor::pos()));
     if (!m_layers.Shows(Scene())) {
         update();
         return;
