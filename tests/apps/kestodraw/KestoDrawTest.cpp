@@ -151,7 +151,7 @@ TEST_F(KestoDrawWindow, GesturesDropsKeysAndTheTypeBoxEachMakeOneUndoStep)
 // one step; Cancel leaves the drawing as it was.
 TEST_F(KestoDrawWindow, TheFillFollowsTheHandWhileAHandleIsDragged)
 {
-    Step("click 550 525");
+    Step("click 1500 525"); // the sample's second shape: a radial fill
     KestoDraw::Canvas& canvas = window->GetCanvas();
     Kesto2D::K2DArrayPoint handles;
     canvas.Tool()->GetHandles(&handles);
@@ -173,6 +173,8 @@ TEST_F(KestoDrawWindow, TheFillFollowsTheHandWhileAHandleIsDragged)
     EXPECT_NE(during, before);
     EXPECT_EQ(during, after);
     EXPECT_EQ(window->Undo().count(), 1);
+    KestoTest::ExpectMatchesReference(during, QStringLiteral(KESTO_REFERENCE_DIR), QStringLiteral(KESTO_DIFFERENCE_DIR),
+                                      QStringLiteral("kestodraw-radial-mid-drag"));
 }
 
 TEST_F(KestoDrawWindow, RepaintingOnlyWhatADragChangesLeavesThePictureAFullRepaintWould)
