@@ -1,11 +1,11 @@
 #include "DocumentFile.h"
 
+#include "FileRead.h"
 #include "FillJson.h"
 #include "JsonRead.h"
 
 #include <kestotool/geometry/CoordinateRange.h>
 
-#include <QFile>
 #include <QJsonDocument>
 #include <QSaveFile>
 
@@ -149,19 +149,11 @@ bool DocumentFile::Save(const Document& document, const QString& path, QString* 
 
 std::optional<Document> DocumentFile::Open(const QString& path, QString* error)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        if (error)
-            *error = file.errorString();
+    const std::optional<QByteArray> bytes = ReadRegularFile(path, kMaxFileBytes, error);
+    if (!bytes)
         return std::nullopt;
-    }
-    if (file.size() > kMaxFileBytes) {
-        if (error)
-            *error = QStringLiteral("it is larger than any drawing (%1 MB)").arg(file.size() >> 20);
-        return std::nullopt;
-    }
     try {
-        return Read(file.readAll());
+        return Read(*bytes);
     } catch (const FormatError& e) {
         if (error)
             *error = e.Message();

@@ -4,6 +4,7 @@
 //   kestodraw [DRAWING] --script FILE --out DIR
 //                                            plays the input script on the window, writing a
 //                                            screenshot after each step into DIR, and exits
+#include "FileRead.h"
 #include "MainWindow.h"
 #include "ScriptPlayer.h"
 
@@ -12,10 +13,12 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QFile>
-#include <QTextStream>
+#include <QDir>
 
 #include <cstdio>
+
+// A script is a person's input, one step a line: a few megabytes is more than anyone types.
+constexpr qint64 kMaxScriptBytes = qint64(16) << 20;
 
 int main(int argc, char** argv)
 {
@@ -49,16 +52,19 @@ int main(int argc, char** argv)
         if (!window.Open(drawing) && options.isSet(script))
             status = 1;
         if (status == 0 && options.isSet(script)) {
-            QFile file(options.value(script));
-            if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
-                std::fprintf(stderr, "kestodraw: cannot read %s\n", qPrintable(options.value(script)));
+            QString why;
+            const std::optional<QByteArray> lines =
+                KestoDraw::ReadRegularFile(options.value(script), kMaxScriptBytes, &why);
+            if (!lines) {
+                std::fprintf(stderr, "kestodraw: cannot read the script %s: %s\n", qPrintable(options.value(script)),
+                             qPrintable(why));
                 status = 1;
             } else {
                 QDir dir(options.value(out));
                 dir.mkpath(".");
                 KestoDraw::ScriptPlayer player(window, dir);
                 QApplication::processEvents();
-                if (!player.Play(QTextStream(&file).readAll().split('\n'))) {
+                if (!player.Play(QString::fromUtf8(*lines).split('\n'))) {
                     std::fprintf(stderr, "kestodraw: %s\n", qPrintable(player.Error()));
                     status = 1;
                 }

@@ -34,6 +34,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 using KestoDraw::MainWindow;
 using KestoPlatform::CPoint;
 
@@ -517,9 +519,23 @@ TEST_F(KestoDrawWindow, DamagedOrUnknownFilesAreRefusedWithAReasonAndTheDrawingI
         EXPECT_EQ(window->GetDocument().shapes.size(), shapes);
         EXPECT_EQ(window->Path(), kSample);
     }
-    errors.clear();
-    EXPECT_FALSE(window->Open(folder.filePath("missing.kdraw")));
-    EXPECT_EQ(errors.size(), 1);
+    // What is no regular file is refused before it is read: a device never ends, a pipe would
+    // wait for a writer for ever.
+    const QString pipe = folder.filePath("pipe.kdraw");
+    ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    const struct {
+        QString path;
+        const char* reason;
+    } others[] = {{folder.filePath("missing.kdraw"), "no such file"},
+                  {folder.path(), "folder"},
+                  {"/dev/zero", "not a regular file"},
+                  {pipe, "not a regular file"}};
+    for (const auto& other : others) {
+        errors.clear();
+        EXPECT_FALSE(window->Open(other.path));
+        ASSERT_EQ(errors.size(), 1) << other.reason;
+        EXPECT_TRUE(errors[0].contains(other.reason)) << errors[0].toStdString();
+    }
 }
 
 } // namespace

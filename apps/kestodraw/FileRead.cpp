@@ -1,0 +1,47 @@
+#include "FileRead.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace KestoDraw {
+
+std::optional<QByteArray> ReadRegularFile(const QString& path, qint64 maxBytes, QString* error)
+{
+    const auto fail = [&](const QString& reason) -> std::optional<QByteArray> {
+        if (error)
+            *error = reason;
+        return std::nullopt;
+    };
+    // Asked before opening: opening a pipe waits for a writer.
+    const QFileInfo info(path);
+    if (!info.exists())
+        return fail(QStringLiteral("there is no such file"));
+    if (info.isDir())
+        return fail(QStringLiteral("it is a folder, not a file"));
+    if (!info.isFile())
+        return fail(QStringLiteral("it is not a regular file (a device, a pipe or a socket)"));
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return fail(file.errorString());
+    if (file.isSequential())
+        return fail(QStringLiteral("it is not a regular file (a device, a pipe or a socket)"));
+    const auto tooLarge = [&] { return fail(QStringLiteral("it is larger than %1 MB").arg(maxBytes >> 20)); };
+    if (file.size() > maxBytes)
+        return tooLarge();
+    // In pieces, so that a file that grows while it is read costs no more than the limit.
+    QByteArray bytes;
+    constexpr qint64 kPiece = 1 << 20;
+    while (!file.atEnd() && bytes.size() <= maxBytes) {
+        const QByteArray piece = file.read(std::min(kPiece, maxBytes + 1 - bytes.size()));
+        if (piece.isEmpty())
+            break;
+        bytes += piece;
+    }
+    if (bytes.size() > maxBytes)
+        return tooLarge();
+    if (file.error() != QFileDevice::NoError)
+        return fail(file.errorString());
+    return bytes;
+}
+
+} // namespace KestoDraw
