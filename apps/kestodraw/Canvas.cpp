@@ -10,8 +10,8 @@
 #include <kestotool/qt/QtConvert.h>
 #include <kestotool/qt/QtRenderTarget.h>
 
-#include <QJsonDocument>
 #include <QCursor>
+#include <QJsonDocument>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>

@@ -7,7 +7,9 @@
 #include <kestotool/geometry/CoordinateRange.h>
 
 #include <QJsonDocument>
+
 #include <QSaveFile>
+#include <algorithm>
 
 namespace KestoDraw {
 
@@ -45,11 +47,13 @@ QJsonObject WriteShape(const Shape& shape)
     return out;
 }
 
-int Coordinate(const QJsonValue& value, const QString& what)
+// A whole number within min..max (by default, the coordinate range).
+int Coordinate(const QJsonValue& value, const QString& what, int min = -Kesto2D::CoordinateLimit,
+               int max = Kesto2D::CoordinateLimit)
 {
-    const double v = Number(value, what, -Kesto2D::CoordinateLimit, Kesto2D::CoordinateLimit);
+    const double v = Number(value, what, min, max);
     if (v != static_cast<int>(v))
-        throw FormatError(QStringLiteral("%1 should be whole numbers").arg(what));
+        throw FormatError(QStringLiteral("%1 should be a whole number").arg(what));
     return static_cast<int>(v);
 }
 
@@ -65,7 +69,8 @@ Shape ReadShape(const QJsonValue& value)
     else if (kind == "path")
         shape.kind = Shape::Kind::Path;
     else
-        throw FormatError(QStringLiteral("a shape's kind should be rectangle, ellipse or path, not \"%1\"").arg(kind));
+        throw FormatError(
+            QStringLiteral("a shape's kind should be rectangle, ellipse or path, not \"%1\"").arg(Excerpt(kind)));
     const QJsonArray box = Array(in, "box");
     if (box.size() != 4)
         throw FormatError(QStringLiteral("\"box\" should be four numbers: left, top, right, bottom"));
@@ -82,6 +87,13 @@ Shape ReadShape(const QJsonValue& value)
                 throw FormatError(QStringLiteral("a path corner should be [x, y]"));
             shape.points.emplace_back(Coordinate(xy[0], "a path corner"), Coordinate(xy[1], "a path corner"));
         }
+        // A path's box is its corners' bounds, whatever the file says (the file format keeps it
+        // for readers that only want the bounds).
+        const auto [xs, xe] = std::minmax_element(shape.points.begin(), shape.points.end(),
+                                                  [](const auto& a, const auto& b) { return a.x < b.x; });
+        const auto [ys, ye] = std::minmax_element(shape.points.begin(), shape.points.end(),
+                                                  [](const auto& a, const auto& b) { return a.y < b.y; });
+        shape.box = KestoPlatform::CRect(xs->x, ys->y, xe->x, ye->y);
     }
     shape.fill = FillJson::Read(in.value("fill"));
     if (shape.fill->IsTransparency())
@@ -127,8 +139,8 @@ Document DocumentFile::Read(const QByteArray& bytes)
     const QJsonArray page = Array(root, "page");
     if (page.size() != 2)
         throw FormatError(QStringLiteral("\"page\" should be [width, height]"));
-    document.width = static_cast<int>(Number(page[0], "the page width", 1, kMaxPage));
-    document.height = static_cast<int>(Number(page[1], "the page height", 1, kMaxPage));
+    document.width = Coordinate(page[0], "the page width", 1, kMaxPage);
+    document.height = Coordinate(page[1], "the page height", 1, kMaxPage);
     for (const QJsonValue& shape : Array(root, "shapes"))
         document.shapes.push_back(ReadShape(shape));
     return document;

@@ -16,6 +16,7 @@
 
 #include <QBuffer>
 #include <QImage>
+#include <QImageReader>
 #include <QJsonArray>
 
 #include <array>
@@ -107,11 +108,19 @@ QString WriteBitmap(const CLtBitmap& bitmap)
 
 RefPtr<const CLtBitmap> ReadBitmap(const QString& base64)
 {
-    const QImage image =
-        QImage::fromData(QByteArray::fromBase64(base64.toLatin1()), "PNG").convertToFormat(QImage::Format_ARGB32);
-    if (image.isNull() || image.width() > kMaxBitmapSide || image.height() > kMaxBitmapSide)
-        throw FormatError(
-            QStringLiteral("\"bitmap\" should be a PNG image of at most %1 pixels a side").arg(kMaxBitmapSide));
+    // The header first: a picture too large is refused before anything is decoded.
+    QByteArray bytes = QByteArray::fromBase64(base64.toLatin1());
+    QBuffer buffer(&bytes);
+    QImageReader reader(&buffer, "PNG");
+    const QSize size = reader.size();
+    if (size.isValid() && (size.width() > kMaxBitmapSide || size.height() > kMaxBitmapSide))
+        throw FormatError(QStringLiteral("\"bitmap\" is %1 x %2 pixels; at most %3 a side are read")
+                              .arg(size.width())
+                              .arg(size.height())
+                              .arg(kMaxBitmapSide));
+    const QImage image = reader.read().convertToFormat(QImage::Format_ARGB32);
+    if (image.isNull())
+        throw FormatError(QStringLiteral("\"bitmap\" is no PNG image that can be read (%1)").arg(reader.errorString()));
     RefPtr<CLtBitmap> bitmap(new CLtBitmap(image.width(), image.height()));
     for (int y = 0; y < image.height(); ++y)
         std::memcpy(bitmap->GetBits() + static_cast<std::size_t>(y) * bitmap->GetWidth(), image.constScanLine(y),
@@ -370,8 +379,15 @@ KestoKernel::RefPtr<CFill> ReadFill(const QJsonValue& value, int depth)
                               .arg(fill->GetControlCount())
                               .arg(controls.size()));
     if (auto* withStops = dynamic_cast<CFillWithStops*>(fill.get())) {
-        if (!withStops->SetColourIntPairs(ReadStops(Array(in, "stops"))))
-            throw FormatError(QStringLiteral("this kind of fill cannot have that many stops"));
+        const KestoGDI::ColourIntPairs stops = ReadStops(Array(in, "stops"));
+        if (!withStops->SetColourIntPairs(stops)) {
+            const QString wanted =
+                withStops->GetMaxStops() < 0
+                    ? QStringLiteral("at least %1").arg(withStops->GetMinStops())
+                    : QStringLiteral("%1 to %2").arg(withStops->GetMinStops()).arg(withStops->GetMaxStops());
+            throw FormatError(
+                QStringLiteral("this kind of fill takes %1 stops, not %2").arg(wanted).arg(stops.GetSize()));
+        }
     }
     return fill;
 }

@@ -39,7 +39,8 @@ QJsonObject Object(const QJsonObject& object, const QString& key)
 double Number(const QJsonValue& value, const QString& what, double min, double max)
 {
     if (!value.isDouble() || !std::isfinite(value.toDouble()) || value.toDouble() < min || value.toDouble() > max)
-        throw FormatError(QStringLiteral("%1 should be a number from %2 to %3").arg(what).arg(min).arg(max));
+        throw FormatError(
+            QStringLiteral("%1 should be a number from %2 to %3").arg(what, NumberText(min), NumberText(max)));
     return value.toDouble();
 }
 
@@ -70,6 +71,19 @@ QString String(const QJsonObject& object, const QString& key)
     if (!value.isString())
         throw FormatError(QStringLiteral("\"%1\" should be text").arg(key));
     return value.toString();
+}
+
+QString NumberText(double value)
+{
+    if (std::isfinite(value) && value == std::floor(value) && std::abs(value) < 1e15)
+        return QString::number(static_cast<qlonglong>(value));
+    return QString::number(value, 'g', 12);
+}
+
+QString Excerpt(const QString& text)
+{
+    constexpr qsizetype kShown = 40;
+    return text.size() <= kShown ? text : text.left(kShown) + QStringLiteral("…");
 }
 
 } // namespace KestoDraw::JsonRead

@@ -31,6 +31,11 @@ int Int(const QJsonObject& object, const QString& key, int min, int max);
 bool Bool(const QJsonObject& object, const QString& key);
 QString String(const QJsonObject& object, const QString& key);
 
+// How messages show what a file holds: a number as a whole number where it is one (never
+// "1.07374e+09"), a text cut to a readable excerpt.
+QString NumberText(double value);
+QString Excerpt(const QString& text);
+
 } // namespace JsonRead
 
 } // namespace KestoDraw

@@ -16,10 +16,12 @@
 #include <QComboBox>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QImageWriter>
 #include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QRegularExpression>
+#include <QSaveFile>
 #include <QStatusBar>
 #include <QStyle>
 #include <QToolBar>
@@ -297,9 +299,13 @@ bool MainWindow::SaveAs(const QString& path)
 bool MainWindow::ExportPng(const QString& path)
 {
     const double scale = std::min(1.0, kExportSide / std::max(m_document.width, m_document.height));
-    if (m_canvas->RenderPage(scale).save(path, "PNG"))
+    // Written whole or not at all, and with the reason when it fails.
+    QSaveFile file(path);
+    QImageWriter writer(&file, "PNG");
+    if (file.open(QIODevice::WriteOnly) && writer.write(m_canvas->RenderPage(scale)) && file.commit())
         return true;
-    m_reportError(tr("Export PNG"), tr("%1 could not be written.").arg(QFileInfo(path).fileName()));
+    const QString reason = file.error() != QFileDevice::NoError ? file.errorString() : writer.errorString();
+    m_reportError(tr("Export PNG"), tr("%1 could not be written: %2").arg(QFileInfo(path).fileName(), reason));
     return false;
 }
 

@@ -484,6 +484,16 @@ TEST_F(KestoDrawWindow, SavedDrawingsReopenByteForByte)
     EXPECT_EQ(a.readAll(), b.readAll());
 }
 
+// A drawing of one rectangle with a linear fill, its box and stops given as JSON text.
+QByteArray Small(const char* box, const char* stops)
+{
+    return QByteArray(R"({"format": "kestodraw", "version": 1, "page": [100, 100], "shapes": [{"kind": "rectangle",
+        "box": )") +
+           box + R"(, "fill": {"type": 4, "alpha": 255, "blend": 0, "overprint": false,
+        "transparency": false, "controls": [[0, 5], [10, 5]], "stops": [)" +
+           stops + "]}}]}";
+}
+
 TEST_F(KestoDrawWindow, DamagedOrUnknownFilesAreRefusedWithAReasonAndTheDrawingIsKept)
 {
     QByteArray sample;
@@ -504,6 +514,15 @@ TEST_F(KestoDrawWindow, DamagedOrUnknownFilesAreRefusedWithAReasonAndTheDrawingI
         {edited("\"kind\": \"rectangle\"", "\"kind\": \"star\""), "rectangle, ellipse or path"},
         {edited("\"rgb\": \"#", "\"rgb\": \"x"), "#rrggbb"},
         {edited("\"at\": 10000", "\"at\": 10001"), "\"at\""},
+        // What the messages say: numbers as whole numbers, long texts cut, the real reason.
+        {Small("[0, 0, 10, 2e9]", R"({"at": 0, "colour": {"alpha": 255, "rgb": "#000000", "tint": 0}},
+                                    {"at": 10000, "colour": {"alpha": 255, "rgb": "#ffffff", "tint": 0}})"),
+         "from -1073741824 to 1073741824"},
+        {Small("[0, 0, 10, 10]", R"({"at": 0, "colour": {"alpha": 255, "rgb": "#000000", "tint": 0}})"),
+         "stops, not 1"},
+        {edited("\"kind\": \"rectangle\"", "\"kind\": \"" + QByteArray(100000, 'x') + "\""), "xxx…\""},
+        {edited("\"page\": [\n        4000", "\"page\": [\n        4000.5"), "page width should be a whole number"},
+        {edited("\"bitmap\": \"iVBOR", "\"bitmap\": \"iVBXR"), "no PNG image that can be read"},
     };
     const std::size_t shapes = window->GetDocument().shapes.size();
     for (const auto& c : cases) {
@@ -515,9 +534,24 @@ TEST_F(KestoDrawWindow, DamagedOrUnknownFilesAreRefusedWithAReasonAndTheDrawingI
         errors.clear();
         EXPECT_FALSE(window->Open(path)) << c.reason;
         ASSERT_EQ(errors.size(), 1) << c.reason;
-        EXPECT_TRUE(errors[0].contains(c.reason)) << errors[0].toStdString();
+        EXPECT_TRUE(errors[0].contains(c.reason)) << errors[0].left(300).toStdString();
+        EXPECT_LT(errors[0].size(), 300);
         EXPECT_EQ(window->GetDocument().shapes.size(), shapes);
         EXPECT_EQ(window->Path(), kSample);
+    }
+    // A path's box is taken from its corners, whatever the file says.
+    {
+        const QString path = folder.filePath("path.kdraw");
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write(
+            QByteArray(Small("[0, 0, 1, 1]", R"({"at": 0, "colour": {"alpha": 255, "rgb": "#000000", "tint": 0}},
+            {"at": 10000, "colour": {"alpha": 255, "rgb": "#ffffff", "tint": 0}})"))
+                .replace(R"("kind": "rectangle")", R"("kind": "path", "points": [[10, 10], [50, 10], [30, 40]])"));
+        file.close();
+        ASSERT_TRUE(window->Open(path)) << errors.join('\n').toStdString();
+        EXPECT_EQ(window->GetDocument().shapes.at(0).box, KestoPlatform::CRect(10, 10, 50, 40));
+        ASSERT_TRUE(window->Open(kSample));
     }
     // What is no regular file is refused before it is read: a device never ends, a pipe would
     // wait for a writer for ever.
