@@ -6,10 +6,15 @@
 
 #include <kestotool/geometry/CoordinateRange.h>
 
+#include <QFile>
+#include <QFileInfo>
 #include <QJsonDocument>
 
 #include <QSaveFile>
 #include <algorithm>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace KestoDraw {
 
@@ -151,8 +156,16 @@ bool DocumentFile::Save(const Document& document, const QString& path, QString* 
     QSaveFile file(path);
     if (file.open(QIODevice::WriteOnly)) {
         const QByteArray bytes = Write(document);
-        if (file.write(bytes) == bytes.size() && file.commit())
+        if (file.write(bytes) == bytes.size() && file.commit()) {
+            // The rename that replaced the file lasts only once its folder is on the disk too.
+            const int folder = ::open(QFile::encodeName(QFileInfo(path).absolutePath()).constData(),
+                                      O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+            if (folder >= 0) {
+                ::fsync(folder);
+                ::close(folder);
+            }
             return true;
+        }
     }
     if (error)
         *error = file.errorString();

@@ -14,6 +14,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QImageWriter>
@@ -58,6 +59,8 @@ MainWindow::MainWindow()
     connect(m_canvas, &Canvas::HintChanged, this, &MainWindow::UpdateHint);
     connect(m_canvas, &Canvas::SelectionChanged, this, &MainWindow::UpdateKindBox);
     connect(&m_undo, &QUndoStack::cleanChanged, this, &MainWindow::UpdateTitle);
+    m_autosave = std::make_unique<Autosave>(m_document);
+    connect(&m_undo, &QUndoStack::indexChanged, this, [this] { m_autosave->Changed(m_undo.isClean()); });
     connect(m_palette, &Palette::Clicked, this, [this](int index) {
         if (KestoTool::FillTool* tool = m_canvas->Tool())
             tool->OnFillCellChanged(m_palette->Colour(index).get());
@@ -280,6 +283,28 @@ bool MainWindow::Open(const QString& path)
     m_canvas->DocumentReplaced();
     m_canvas->FitPage();
     UpdateTitle();
+    return true;
+}
+
+bool MainWindow::Recover(const QString& copy)
+{
+    QString error;
+    std::optional<Document> recovered = DocumentFile::Open(copy, &error);
+    if (!recovered) {
+        m_reportError(tr("Recover Drawing"),
+                      tr("The drawing kept when kestodraw stopped could not be read: %1").arg(error));
+        return false;
+    }
+    m_document = std::move(*recovered);
+    m_path.clear();
+    m_undo.clear();
+    m_undo.resetClean(); // unsaved: it has no file of its own yet
+    m_canvas->DocumentReplaced();
+    m_canvas->FitPage();
+    UpdateTitle();
+    m_autosave->Changed(false);
+    if (m_autosave->WriteNow())
+        QFile::remove(copy);
     return true;
 }
 

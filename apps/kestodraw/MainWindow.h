@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Autosave.h"
 #include "Canvas.h"
 #include "Document.h"
 
@@ -41,6 +42,7 @@ public:
     QComboBox& KindBox() { return *m_kindBox; }
     QLabel& HintLabel() { return *m_hint; }
     const QString& Path() const { return m_path; }
+    Autosave& GetAutosave() { return *m_autosave; }
 
     // Reports errors to the user; by default in a message box.
     void SetErrorReporter(ErrorReporter reporter) { m_reportError = std::move(reporter); }
@@ -50,6 +52,9 @@ public:
     bool SaveAs(const QString& path);
     bool ExportPng(const QString& path);
     void NewDrawing();
+    // Takes up a copy that an autosave left (a crash's): the drawing, untitled and unsaved; the
+    // copy is removed once this window's own autosave holds it.
+    bool Recover(const QString& copy);
     // Opens the library's editor for the selection's fill or transparency.
     void EditFill(bool transparency);
 
@@ -82,6 +87,7 @@ private:
     QAction* m_editsTransparency = nullptr;
     QString m_path;
     ErrorReporter m_reportError;
+    std::unique_ptr<Autosave> m_autosave;
 };
 
 } // namespace KestoDraw

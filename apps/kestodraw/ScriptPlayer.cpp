@@ -9,9 +9,12 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QEventLoop>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QTest>
+
+#include <cstdio>
 
 namespace KestoDraw {
 
@@ -110,8 +113,15 @@ bool ScriptPlayer::PlayStep(const QString& line)
             canvas.ZoomBy(0.8);
         else if (w[1] == "delete")
             canvas.DeleteSelected();
+        else if (w[1] == "autosave")
+            ok = m_window.GetAutosave().WriteNow();
         else
             ok = false;
+    } else if (verb == "hold" && w.size() == 1) {
+        // The window stays as the script left it until the program is closed or killed.
+        std::printf("kestodraw: holding\n");
+        std::fflush(stdout);
+        QEventLoop().exec();
     } else if (verb == "save") {
         const QString path = file(1);
         ok = ok && m_window.SaveAs(path);

@@ -22,7 +22,8 @@ class MainWindow;
 //   drop SWATCH X Y                          (a palette swatch dragged and dropped there)
 //   key NAME [shift]                         (Tab, Left, Right, Up, Down, Delete or a letter)
 //   kind TYPE                                (the type box or the tool's type combo: a type number)
-//   command undo|redo|fit|zoom-in|zoom-out|delete
+//   command undo|redo|fit|zoom-in|zoom-out|delete|autosave
+//   hold                                     (stays there until the program is closed or killed)
 //   save PATH   open PATH   export PATH      (relative paths lie in the output folder)
 class ScriptPlayer {
 public:

@@ -1,7 +1,7 @@
 // kestodraw: a small drawing program whose fill and transparency tools come from KestoTool.
 //
 //   kestodraw [DRAWING]                      opens the drawing (the sample without one)
-//   kestodraw [DRAWING] --script FILE --out DIR
+//   kestodraw [DRAWING] [--recover] --script FILE --out DIR
 //                                            plays the input script on the window, writing a
 //                                            screenshot after each step into DIR, and exits
 #include "FileRead.h"
@@ -14,6 +14,8 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QFile>
+#include <QMessageBox>
 
 #include <cstdio>
 
@@ -30,8 +32,11 @@ int main(int argc, char** argv)
     options.addPositionalArgument("drawing", "The drawing to open (the sample drawing without one).");
     const QCommandLineOption script("script", "Play the input script FILE on the window, then quit.", "FILE");
     const QCommandLineOption out("out", "Write the script's screenshots into DIR.", "DIR", ".");
+    const QCommandLineOption recover("recover", "Take up the drawing that kestodraw kept when it last stopped without "
+                                                "closing, without asking.");
     options.addOption(script);
     options.addOption(out);
+    options.addOption(recover);
     options.process(app);
 
     KestoToolQt::QtBackend backend;
@@ -49,7 +54,21 @@ int main(int argc, char** argv)
             });
         }
         window.show();
-        if (!window.Open(drawing) && options.isSet(script))
+        // A copy an earlier run left when it stopped without closing (a crash, a power loss).
+        bool recovered = false;
+        if (const QStringList kept = KestoDraw::Autosave::Orphans(); !kept.isEmpty()) {
+            const bool take =
+                options.isSet(recover) ||
+                (!options.isSet(script) &&
+                 QMessageBox::question(&window, QObject::tr("Recover Drawing"),
+                                       QObject::tr("kestodraw stopped without closing last time. Open the drawing "
+                                                   "as it was a minute or less before?")) == QMessageBox::Yes);
+            recovered = take && window.Recover(kept.first());
+            if (!take && !options.isSet(script))
+                for (const QString& copy : kept)
+                    QFile::remove(copy);
+        }
+        if (!recovered && !window.Open(drawing) && options.isSet(script))
             status = 1;
         if (status == 0 && options.isSet(script)) {
             QString why;

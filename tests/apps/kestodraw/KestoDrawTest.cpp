@@ -25,7 +25,9 @@
 #include <QLabel>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QProcess>
 #include <QScreen>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QToolBar>
@@ -60,6 +62,7 @@ class KestoDrawWindow : public testing::Test {
 protected:
     void SetUp() override
     {
+        QStandardPaths::setTestModeEnabled(true); // autosaves go to a test folder, not the user's
         KestoTest::QtUserInput().Install();
         KestoTool::Init(40000, 40200);
         window = std::make_unique<MainWindow>();
@@ -384,6 +387,48 @@ TEST_F(KestoDrawWindow, LockRatioResetHandlesAndMaxFitEachHaveTheirOwnPicture)
     EXPECT_NE(lock, reset);
     EXPECT_NE(lock, maxFit);
     EXPECT_NE(reset, maxFit);
+}
+
+TEST_F(KestoDrawWindow, AfterAKillTheNextStartRecoversTheUnsavedDrawing)
+{
+    // Two runs of the program with their own data folder: the first edits, autosaves and is
+    // killed; the second takes up what it kept and saves it.
+    QTemporaryDir data;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("XDG_DATA_HOME", data.path());
+    environment.insert("QT_QPA_PLATFORM", "offscreen");
+    const auto script = [&](const QString& name, const QByteArray& steps) {
+        QFile file(folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(steps);
+        return file.fileName();
+    };
+    const QByteArray edit = "click 550 525\ndrag 200 300 900 700\n";
+    QProcess first;
+    first.setProcessEnvironment(environment);
+    first.start(KESTODRAW_PROGRAM, {kSample, "--script", script("first.txt", edit + "command autosave\nhold\n"),
+                                    "--out", folder.filePath("first")});
+    ASSERT_TRUE(first.waitForStarted());
+    while (!first.readAllStandardOutput().contains("holding"))
+        ASSERT_TRUE(first.waitForReadyRead(30000)) << first.readAllStandardError().toStdString();
+    first.kill(); // SIGKILL: no clean exit
+    first.waitForFinished();
+
+    QProcess second;
+    second.setProcessEnvironment(environment);
+    second.start(KESTODRAW_PROGRAM, {"--recover", "--script", script("second.txt", "save recovered.kdraw\n"), "--out",
+                                     folder.filePath("second")});
+    ASSERT_TRUE(second.waitForFinished(60000));
+    ASSERT_EQ(second.exitCode(), 0) << second.readAllStandardError().toStdString();
+    QFile recovered(folder.filePath("second/recovered.kdraw"));
+    ASSERT_TRUE(recovered.open(QIODevice::ReadOnly));
+
+    // The same edit here gives the same drawing.
+    for (const QByteArray& line : edit.split('\n'))
+        Step(QString::fromUtf8(line));
+    EXPECT_EQ(recovered.readAll(), KestoDraw::DocumentFile::Write(window->GetDocument()));
+    // The second run closed cleanly: nothing is left to recover.
+    EXPECT_TRUE(QDir(data.filePath("kestodraw/autosave")).entryList({"*.kdraw"}).isEmpty());
 }
 
 TEST_F(KestoDrawWindow, TheCanvasStaysWhereItIsWhateverTheSelectionPutsOnTheContextRow)

@@ -1,0 +1,94 @@
+#include "Autosave.h"
+
+#include "DocumentFile.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+#include <cerrno>
+#include <utility>
+
+#include <signal.h>
+
+namespace KestoDraw {
+
+namespace {
+
+bool Running(qint64 pid)
+{
+    return pid > 0 && (::kill(static_cast<pid_t>(pid), 0) == 0 || errno == EPERM);
+}
+
+} // namespace
+
+QString Autosave::Folder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) + QStringLiteral("/autosave");
+}
+
+Autosave::Autosave(const Document& document, QObject* parent)
+    : QObject(parent), m_document(document),
+      m_path(Folder() + QStringLiteral("/%1.kdraw").arg(QCoreApplication::applicationPid()))
+{
+    m_timer.setSingleShot(true);
+    // At the minute's end what came meanwhile is written, and a new minute starts; with nothing
+    // new the timer stops, and the next change is written at once.
+    connect(&m_timer, &QTimer::timeout, this, [this] {
+        if (m_pending && WriteNow())
+            m_timer.start(kIntervalMs);
+    });
+}
+
+Autosave::~Autosave()
+{
+    if (m_written)
+        QFile::remove(m_path);
+}
+
+void Autosave::Changed(bool saved)
+{
+    if (saved) {
+        // The user's file holds it all: nothing to recover.
+        m_pending = false;
+        m_timer.stop();
+        if (std::exchange(m_written, false))
+            QFile::remove(m_path);
+        return;
+    }
+    m_pending = true;
+    // The first change after a quiet minute is written at once; later ones a minute after.
+    if (!m_timer.isActive()) {
+        WriteNow();
+        m_timer.start(kIntervalMs);
+    }
+}
+
+bool Autosave::WriteNow()
+{
+    if (!m_pending)
+        return true;
+    QDir().mkpath(Folder());
+    if (!DocumentFile::Save(m_document, m_path, nullptr))
+        return false;
+    m_pending = false;
+    m_written = true;
+    return true;
+}
+
+QStringList Autosave::Orphans()
+{
+    QFileInfoList copies = QDir(Folder()).entryInfoList({QStringLiteral("*.kdraw")}, QDir::Files, QDir::Time);
+    QStringList orphans;
+    for (const QFileInfo& copy : copies) {
+        bool number = false;
+        const qint64 pid = copy.completeBaseName().toLongLong(&number);
+        if (number && pid != QCoreApplication::applicationPid() && !Running(pid))
+            orphans << copy.absoluteFilePath();
+    }
+    return orphans;
+}
+
+} // namespace KestoDraw
