@@ -1,5 +1,6 @@
 #include "ScriptPlayer.h"
 
+#include "JsonRead.h"
 #include "MainWindow.h"
 #include "Palette.h"
 
@@ -7,6 +8,7 @@
 #include <kestotool/platform/CXTPControlComboBox.h>
 #include <kestotool/tool/ToolIdMap.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QEventLoop>
@@ -39,6 +41,10 @@ Qt::KeyboardModifiers Modifiers(const QStringList& words, qsizetype from)
 
 bool ScriptPlayer::Play(const QStringList& lines)
 {
+    if (lines.size() > kMaxSteps) {
+        m_error = QStringLiteral("the script has %1 lines; at most %2 are played").arg(lines.size()).arg(kMaxSteps);
+        return false;
+    }
     for (const QString& line : lines) {
         if (!PlayStep(line))
             return false;
@@ -95,6 +101,18 @@ bool ScriptPlayer::PlayStep(const QString& line)
     } else if (verb == "key" && w.size() >= 2) {
         const QKeySequence key(w[1]);
         ok = key.count() == 1;
+        // A menu's key would open its dialog, which waits for a person: refused, with the
+        // steps that do the same without one.
+        const QKeySequence pressed(key.count() == 1 ? QKeyCombination(Modifiers(w, 2), key[0].key())
+                                                    : QKeyCombination());
+        for (const QAction* action : m_window.findChildren<QAction*>()) {
+            if (ok && !action->shortcut().isEmpty() && action->shortcut() == pressed) {
+                m_error = QStringLiteral("\"%1\" is the key of %2, which opens a dialog: use the command, save, open "
+                                         "or export steps")
+                              .arg(JsonRead::Excerpt(text), action->text().remove('&'));
+                return false;
+            }
+        }
         if (ok)
             QTest::keyClick(&canvas, key[0].key(), Modifiers(w, 2));
     } else if (verb == "kind") {
@@ -135,12 +153,11 @@ bool ScriptPlayer::PlayStep(const QString& line)
         ok = false;
     }
     if (!ok) {
-        m_error = QStringLiteral("cannot play \"%1\"").arg(text);
+        m_error = QStringLiteral("cannot play \"%1\"").arg(JsonRead::Excerpt(text));
         return false;
     }
     Settle();
-    Shoot(w.join('-').replace('/', '_'));
-    return true;
+    return Shoot(JsonRead::Excerpt(w.join('-').replace('/', '_')));
 }
 
 QPointF ScriptPlayer::ToWidget(KestoPlatform::CPoint at) const
@@ -241,12 +258,16 @@ void ScriptPlayer::Settle()
     QApplication::processEvents();
 }
 
-void ScriptPlayer::Shoot(const QString& name)
+bool ScriptPlayer::Shoot(const QString& name)
 {
-    ++m_shots;
     const QString path =
-        m_output.absoluteFilePath(QStringLiteral("%1-%2.png").arg(m_shots, 2, 10, QChar('0')).arg(name));
-    m_window.grab().save(path, "PNG");
+        m_output.absoluteFilePath(QStringLiteral("%1-%2.png").arg(m_shots + 1, 2, 10, QChar('0')).arg(name));
+    if (!m_window.grab().save(path, "PNG")) {
+        m_error = QStringLiteral("the screenshot %1 could not be written").arg(path);
+        return false;
+    }
+    ++m_shots;
+    return true;
 }
 
 } // namespace KestoDraw

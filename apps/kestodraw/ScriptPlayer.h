@@ -29,7 +29,11 @@ class ScriptPlayer {
 public:
     ScriptPlayer(MainWindow& window, const QDir& output) : m_window(window), m_output(output) {}
 
-    // Plays every step; false, with the step and the reason in Error, at the first that fails.
+    // A person's session is far shorter; a script longer than this is refused whole.
+    static constexpr qsizetype kMaxSteps = 10'000; // and so at most as many screenshots
+
+    // Plays every step; false, with the step and the reason in Error, at the first that fails
+    // (a step that cannot be played, or whose screenshot cannot be written).
     bool Play(const QStringList& lines);
     bool PlayStep(const QString& line);
     const QString& Error() const { return m_error; }
@@ -50,7 +54,7 @@ private:
     void SendMouse(int type, KestoPlatform::CPoint at, Qt::MouseButton button, Qt::MouseButtons buttons,
                    Qt::KeyboardModifiers modifiers);
     void Settle();
-    void Shoot(const QString& name);
+    bool Shoot(const QString& name);
 
     MainWindow& m_window;
     QDir m_output;

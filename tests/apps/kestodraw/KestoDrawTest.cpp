@@ -431,6 +431,24 @@ TEST_F(KestoDrawWindow, AfterAKillTheNextStartRecoversTheUnsavedDrawing)
     EXPECT_TRUE(QDir(data.filePath("kestodraw/autosave")).entryList({"*.kdraw"}).isEmpty());
 }
 
+TEST_F(KestoDrawWindow, TheScriptPlayerRefusesWhatWouldHangOrFloodAndSaysSoBriefly)
+{
+    // A menu key would open a dialog that waits for a person.
+    EXPECT_FALSE(player->PlayStep("key O ctrl"));
+    EXPECT_TRUE(player->Error().contains("opens a dialog")) << player->Error().toStdString();
+    // A refused line is quoted as an excerpt.
+    EXPECT_FALSE(player->PlayStep("frobnicate " + QString(100000, 'x')));
+    EXPECT_LT(player->Error().size(), 200);
+    // Too many steps, refused before any is played.
+    EXPECT_FALSE(player->Play(QStringList(KestoDraw::ScriptPlayer::kMaxSteps + 1, "command fit")));
+    EXPECT_EQ(player->Shots(), 0);
+    // A screenshot that cannot be written fails its step and is not counted.
+    KestoDraw::ScriptPlayer nowhere(*window, QDir(folder.filePath("missing/folder")));
+    EXPECT_FALSE(nowhere.PlayStep("command fit"));
+    EXPECT_TRUE(nowhere.Error().contains("could not be written"));
+    EXPECT_EQ(nowhere.Shots(), 0);
+}
+
 TEST_F(KestoDrawWindow, TheCanvasStaysWhereItIsWhateverTheSelectionPutsOnTheContextRow)
 {
     // The sample's first shape has a linear fill, its last a plain colour.
