@@ -8,8 +8,10 @@
 
 #include <QImage>
 #include <QPainter>
+#include <QRegion>
 
 #include <algorithm>
+#include <cmath>
 
 namespace KestoDraw {
 
@@ -38,10 +40,55 @@ void Fill(const Target& target, std::uint32_t argb)
 void DrawingPainter::Paint(QPainter& painter, const Document& document, const QTransform& view, const QRect& deviceClip,
                            std::size_t first, std::size_t last)
 {
-    for (std::size_t i = first; i < std::min(last, document.shapes.size()); ++i) {
+    // From the top down, what opaque shapes already hide is not painted: a drawing of many
+    // shapes stacked over each other costs what shows, not what lies beneath.
+    last = std::min(last, document.shapes.size());
+    QRegion hidden;
+    std::vector<std::pair<std::size_t, QRegion>> shown; // a shape and what of it shows
+    for (std::size_t i = last; i-- > first;) {
         const Shape& shape = document.shapes[i];
-        PaintShape(painter, shape, view, deviceClip, *shape.fill, shape.transparency.get());
+        const QRect bounds =
+            view.mapRect(shape.Outline().boundingRect()).toAlignedRect().adjusted(-1, -1, 1, 1) & deviceClip;
+        const QRegion visible = QRegion(bounds) - hidden;
+        if (visible.isEmpty())
+            continue;
+        shown.emplace_back(i, visible);
+        if (const QRect inside = OpaqueInside(shape, view); !inside.isEmpty())
+            hidden += inside;
     }
+    for (auto it = shown.rbegin(); it != shown.rend(); ++it) {
+        const Shape& shape = document.shapes[it->first];
+        // Piece by piece where little shows (the rim of a shape under another), whole where
+        // what shows is in many pieces.
+        constexpr int kPieces = 16;
+        if (it->second.rectCount() > kPieces) {
+            PaintShape(painter, shape, view, it->second.boundingRect(), *shape.fill, shape.transparency.get());
+            continue;
+        }
+        for (const QRect& piece : it->second)
+            PaintShape(painter, shape, view, piece, *shape.fill, shape.transparency.get());
+    }
+}
+
+QRect DrawingPainter::OpaqueInside(const Shape& shape, const QTransform& view)
+{
+    if (shape.transparency || shape.kind == Shape::Kind::Path)
+        return {};
+    const std::optional<KestoRaster::Paint>& paint = PaintOf(*shape.fill, view.m11());
+    const auto opaque = [](const Rgba& c) { return c.a == 255; };
+    if (!paint || paint->transparency || paint->kind == Paint::Kind::Bitmap ||
+        !std::all_of(paint->colours.begin(), paint->colours.end(), opaque) ||
+        !std::all_of(paint->stops.begin(), paint->stops.end(), [&](const RampStop& s) { return opaque(s.colour); }))
+        return {};
+    // The whole pixels inside the box, or inside the largest upright box an ellipse holds.
+    QRectF box = view.mapRect(QRectF(shape.box.left, shape.box.top, shape.box.Width(), shape.box.Height()));
+    if (shape.kind == Shape::Kind::Ellipse) {
+        const double inset = (1 - 1 / std::sqrt(2.0)) / 2;
+        box.adjust(box.width() * inset, box.height() * inset, -box.width() * inset, -box.height() * inset);
+    }
+    const QPoint from(static_cast<int>(std::ceil(box.left())), static_cast<int>(std::ceil(box.top())));
+    const QPoint to(static_cast<int>(std::floor(box.right())), static_cast<int>(std::floor(box.bottom())));
+    return to.x() > from.x() && to.y() > from.y() ? QRect(from, to - QPoint(1, 1)) : QRect();
 }
 
 const std::optional<Paint>& DrawingPainter::PaintOf(const KestoGDI::CFill& fill, double pixelsPerUnit)
@@ -68,6 +115,7 @@ void DrawingPainter::PaintShape(QPainter& painter, const Shape& shape, const QTr
         return;
     const int w = area.width();
     const int h = area.height();
+    m_renderedPixels += static_cast<std::int64_t>(w) * h;
     const double scale = view.m11();
     // The shape's box of device pixels, with the document placed as the view places it.
     const Affine toLayer{scale, 0, 0, view.m22(), view.dx() - area.x(), view.dy() - area.y()};
@@ -100,6 +148,7 @@ void DrawingPainter::PaintShape(QPainter& painter, const Shape& shape, const QTr
 
     painter.drawImage(area.topLeft(), m_shown, QRect(0, 0, w, h));
     painter.save();
+    painter.setClipRect(area, Qt::IntersectClip); // a shape painted in pieces is outlined once
     painter.setRenderHint(QPainter::Antialiasing);
     painter.strokePath(outline, QPen(QColor(70, 70, 70), 1.0));
     painter.restore();

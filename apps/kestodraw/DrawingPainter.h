@@ -7,6 +7,7 @@
 #include <QImage>
 #include <QTransform>
 
+#include <cstdint>
 #include <optional>
 #include <vector>
 
@@ -23,9 +24,12 @@ namespace KestoDraw {
 class DrawingPainter {
 public:
     // view maps document units to device pixels (a scale and a translation); shapes [first,
-    // last) are painted, bottom to top.
+    // last) are painted, bottom to top, leaving out those that opaque shapes above them hide.
     void Paint(QPainter& painter, const Document& document, const QTransform& view, const QRect& deviceClip,
                std::size_t first = 0, std::size_t last = SIZE_MAX);
+    // Device pixels rendered so far (fills, masks and coverage each count their area once): the
+    // measure of a drawing's cost.
+    std::int64_t RenderedPixels() const { return m_renderedPixels; }
     // One shape with the fill and transparency given (a shape's own, or a gesture's working fill).
     void PaintShape(QPainter& painter, const Shape& shape, const QTransform& view, const QRect& deviceClip,
                     const KestoGDI::CFill& fill, const KestoGDI::CFill* transparency);
@@ -37,12 +41,16 @@ private:
         std::optional<KestoRaster::Paint> paint;
     };
     const std::optional<KestoRaster::Paint>& PaintOf(const KestoGDI::CFill& fill, double pixelsPerUnit);
+    // The device pixels that the shape covers wholly with opaque colour (an upright rectangle of
+    // them); empty when it has none or its paint may let something through.
+    QRect OpaqueInside(const Shape& shape, const QTransform& view);
 
     std::vector<Cached> m_cache;
     QImage m_colours;
     QImage m_shown;
     std::vector<std::uint8_t> m_coverage;
     std::vector<std::uint8_t> m_levels;
+    std::int64_t m_renderedPixels = 0;
 };
 
 } // namespace KestoDraw
