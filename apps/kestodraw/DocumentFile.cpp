@@ -23,7 +23,9 @@ using namespace JsonRead;
 namespace {
 
 constexpr int kMaxPage = 1 << 20;
-constexpr int kMaxPathCorners = 100000;
+// Far beyond what a person draws, and bounded so that a hostile file's painting stays bounded.
+constexpr int kMaxPathCorners = 20000;
+constexpr int kMaxShapes = 10000;
 constexpr qint64 kMaxFileBytes = qint64(256) << 20;
 
 const char* KindName(Shape::Kind kind)
@@ -146,7 +148,11 @@ Document DocumentFile::Read(const QByteArray& bytes)
         throw FormatError(QStringLiteral("\"page\" should be [width, height]"));
     document.width = Coordinate(page[0], "the page width", 1, kMaxPage);
     document.height = Coordinate(page[1], "the page height", 1, kMaxPage);
-    for (const QJsonValue& shape : Array(root, "shapes"))
+    const QJsonArray shapes = Array(root, "shapes");
+    if (shapes.size() > kMaxShapes)
+        throw FormatError(
+            QStringLiteral("it has %1 shapes; a drawing holds at most %2").arg(shapes.size()).arg(kMaxShapes));
+    for (const QJsonValue& shape : shapes)
         document.shapes.push_back(ReadShape(shape));
     return document;
 }

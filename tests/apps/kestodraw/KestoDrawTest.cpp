@@ -609,6 +609,24 @@ QByteArray Small(const char* box, const char* stops)
            stops + "]}}]}";
 }
 
+// A drawing of count plain paths, each through the corners given as JSON text.
+QByteArray Many(int count, const QByteArray& corners)
+{
+    const QByteArray shape = R"({"kind": "path", "box": [0, 0, 5, 5], "points": )" + corners +
+                             R"(, "fill": {"type": 1, "alpha": 255, "blend": 0, "overprint": false,
+        "transparency": false, "controls": [], "colour": {"alpha": 255, "rgb": "#000000", "tint": 0}}})";
+    QByteArrayList shapes(count, shape);
+    return R"({"format": "kestodraw", "version": 1, "page": [100, 100], "shapes": [)" + shapes.join(',') + "]}";
+}
+
+QByteArray Corners(int count)
+{
+    QByteArrayList corners;
+    for (int i = 0; i < count; ++i)
+        corners << QByteArray::number(i % 100) + ", " + QByteArray::number(i / 100);
+    return "[[" + corners.join("], [") + "]]";
+}
+
 TEST_F(KestoDrawWindow, DamagedOrUnknownFilesAreRefusedWithAReasonAndTheDrawingIsKept)
 {
     QByteArray sample;
@@ -638,6 +656,9 @@ TEST_F(KestoDrawWindow, DamagedOrUnknownFilesAreRefusedWithAReasonAndTheDrawingI
         {edited("\"kind\": \"rectangle\"", "\"kind\": \"" + QByteArray(100000, 'x') + "\""), "xxx…\""},
         {edited("\"page\": [\n        4000", "\"page\": [\n        4000.5"), "page width should be a whole number"},
         {edited("\"bitmap\": \"iVBOR", "\"bitmap\": \"iVBXR"), "no PNG image that can be read"},
+        // Limits a person never meets and a hostile file does.
+        {Many(10001, "[[0, 0], [5, 0], [0, 5]]"), "at most 10000"},
+        {Many(1, Corners(20001)), "3 to 20000 corners"},
     };
     const std::size_t shapes = window->GetDocument().shapes.size();
     for (const auto& c : cases) {
