@@ -64,7 +64,7 @@ int Coordinate(const QJsonValue& value, const QString& what, int min = -Kesto2D:
     return static_cast<int>(v);
 }
 
-Shape ReadShape(const QJsonValue& value)
+Shape ReadShape(const QJsonValue& value, FillJson::Pictures& pictures)
 {
     const QJsonObject in = Object(value, QStringLiteral("a shape"));
     Shape shape;
@@ -102,11 +102,11 @@ Shape ReadShape(const QJsonValue& value)
                                                   [](const auto& a, const auto& b) { return a.y < b.y; });
         shape.box = KestoPlatform::CRect(xs->x, ys->y, xe->x, ye->y);
     }
-    shape.fill = FillJson::Read(in.value("fill"));
+    shape.fill = FillJson::Read(in.value("fill"), &pictures);
     if (shape.fill->IsTransparency())
         throw FormatError(QStringLiteral("a shape's \"fill\" is a transparency"));
     if (in.contains("transparency")) {
-        shape.transparency = FillJson::Read(in.value("transparency"));
+        shape.transparency = FillJson::Read(in.value("transparency"), &pictures);
         if (!shape.transparency->IsTransparency())
             throw FormatError(QStringLiteral("a shape's \"transparency\" is a fill"));
     }
@@ -152,8 +152,9 @@ Document DocumentFile::Read(const QByteArray& bytes)
     if (shapes.size() > kMaxShapes)
         throw FormatError(
             QStringLiteral("it has %1 shapes; a drawing holds at most %2").arg(shapes.size()).arg(kMaxShapes));
+    FillJson::Pictures pictures;
     for (const QJsonValue& shape : shapes)
-        document.shapes.push_back(ReadShape(shape));
+        document.shapes.push_back(ReadShape(shape, pictures));
     return document;
 }
 

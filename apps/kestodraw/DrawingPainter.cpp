@@ -91,19 +91,49 @@ QRect DrawingPainter::OpaqueInside(const Shape& shape, const QTransform& view)
     return to.x() > from.x() && to.y() > from.y() ? QRect(from, to - QPoint(1, 1)) : QRect();
 }
 
-const std::optional<Paint>& DrawingPainter::PaintOf(const KestoGDI::CFill& fill, double pixelsPerUnit)
+DrawingPainter::Cached& DrawingPainter::CachedOf(const KestoGDI::CFill& fill, double pixelsPerUnit)
 {
     // A fill only the cache holds can never be asked for again (fills are found by address, and
     // nobody else has this one); a paint at another scale belongs to another zoom.
     std::erase_if(m_cache,
                   [&](const Cached& c) { return c.fill->GetRefCount() == 1 || c.pixelsPerUnit != pixelsPerUnit; });
     auto it = std::find_if(m_cache.begin(), m_cache.end(), [&](const Cached& c) { return c.fill.get() == &fill; });
-    if (it == m_cache.end()) {
-        m_cache.push_back({KestoKernel::RefPtr<const KestoGDI::CFill>(&fill), pixelsPerUnit,
-                           KestoGDI::FillPaint::From(fill, pixelsPerUnit)});
-        return m_cache.back().paint;
+    if (it != m_cache.end())
+        return *it;
+    return m_cache.emplace_back(Cached{KestoKernel::RefPtr<const KestoGDI::CFill>(&fill),
+                                       pixelsPerUnit,
+                                       KestoGDI::FillPaint::From(fill, pixelsPerUnit),
+                                       {},
+                                       {}});
+}
+
+const std::optional<Paint>& DrawingPainter::PaintOf(const KestoGDI::CFill& fill, double pixelsPerUnit)
+{
+    return CachedOf(fill, pixelsPerUnit).paint;
+}
+
+std::optional<PreparedPaint> DrawingPainter::Prepare(const KestoGDI::CFill& fill, double pixelsPerUnit,
+                                                     const Affine& toLayer, Output output)
+{
+    Cached& cached = CachedOf(fill, pixelsPerUnit);
+    if (!cached.paint)
+        return std::nullopt;
+    // A preparation's colours (a ramp's table, a plasma's tile, a bitmap's texels) are built once:
+    // each new one shares what is the same with the fill's last, or else with another fill's of
+    // the kind (the document's fill, for the copies a drag makes), the same picture first.
+    const auto last = [output](const Cached& c) { return output == Output::Mask8 ? c.mask : c.colour; };
+    std::optional<PreparedPaint> previous = last(cached);
+    for (auto other = m_cache.begin(); !previous.has_value() || previous->GetPaint().image != cached.paint->image;) {
+        other = std::find_if(other, m_cache.end(), [&](const Cached& c) {
+            return &c != &cached && c.paint && c.paint->kind == cached.paint->kind && last(c);
+        });
+        if (other == m_cache.end())
+            break;
+        previous = last(*other++);
     }
-    return it->paint;
+    PreparedPaint prepared(*cached.paint, toLayer, output, previous ? &*previous : nullptr);
+    (output == Output::Mask8 ? cached.mask : cached.colour) = prepared;
+    return prepared;
 }
 
 void DrawingPainter::PaintShape(QPainter& painter, const Shape& shape, const QTransform& view, const QRect& deviceClip,
@@ -124,8 +154,8 @@ void DrawingPainter::PaintShape(QPainter& painter, const Shape& shape, const QTr
     // The buffers are kept from frame to frame: fresh ones of a large shape's size would cost
     // as much in page faults as the rendering itself.
     const auto colours = Scratch(m_colours, w, h);
-    if (const std::optional<KestoRaster::Paint>& paint = PaintOf(fill, scale))
-        Render(PreparedPaint(*paint, toLayer, Output::Argb32), colours, all);
+    if (const std::optional<PreparedPaint> prepared = Prepare(fill, scale, toLayer, Output::Argb32))
+        Render(*prepared, colours, all);
     else
         Fill(colours, 0xFFC8C8C8); // a kind the renderer does not paint shows as plain grey
 
@@ -135,9 +165,9 @@ void DrawingPainter::PaintShape(QPainter& painter, const Shape& shape, const QTr
     const Target coverage{m_coverage.data(), w, h, w, Output::Mask8};
     RenderCoverage(KestoToolQt::ToRasterPath(shape.Outline()), toLayer, coverage, all);
     if (transparency) {
-        if (const std::optional<KestoRaster::Paint>& mask = PaintOf(*transparency, scale)) {
+        if (const std::optional<PreparedPaint> mask = Prepare(*transparency, scale, toLayer, Output::Mask8)) {
             m_levels.resize(m_coverage.size());
-            Render(PreparedPaint(*mask, toLayer, Output::Mask8), {m_levels.data(), w, h, w, Output::Mask8}, all);
+            Render(*mask, {m_levels.data(), w, h, w, Output::Mask8}, all);
             for (std::size_t i = 0; i < m_coverage.size(); ++i)
                 m_coverage[i] = static_cast<std::uint8_t>((m_coverage[i] * m_levels[i] + 127) / 255);
         }

@@ -3,6 +3,7 @@
 #include "Document.h"
 
 #include <kestotool/raster/Paint.h>
+#include <kestotool/raster/PreparedPaint.h>
 
 #include <QImage>
 #include <QTransform>
@@ -39,8 +40,15 @@ private:
         KestoKernel::RefPtr<const KestoGDI::CFill> fill;
         double pixelsPerUnit;
         std::optional<KestoRaster::Paint> paint;
+        std::optional<KestoRaster::PreparedPaint> colour; // the last preparations, whose colours
+        std::optional<KestoRaster::PreparedPaint> mask;   // the next ones share
     };
+    Cached& CachedOf(const KestoGDI::CFill& fill, double pixelsPerUnit);
     const std::optional<KestoRaster::Paint>& PaintOf(const KestoGDI::CFill& fill, double pixelsPerUnit);
+    // The fill prepared to render into a layer placed by toLayer; nothing for a kind the
+    // renderer does not paint.
+    std::optional<KestoRaster::PreparedPaint> Prepare(const KestoGDI::CFill& fill, double pixelsPerUnit,
+                                                      const KestoRaster::Affine& toLayer, KestoRaster::Output output);
     // The device pixels that the shape covers wholly with opaque colour (an upright rectangle of
     // them); empty when it has none or its paint may let something through.
     QRect OpaqueInside(const Shape& shape, const QTransform& view);

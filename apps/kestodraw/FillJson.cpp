@@ -184,7 +184,7 @@ KestoRaster::Path ReadPath(const QJsonArray& in)
     return path;
 }
 
-KestoKernel::RefPtr<CFill> ReadFill(const QJsonValue& value, int depth);
+KestoKernel::RefPtr<CFill> ReadFill(const QJsonValue& value, int depth, FillJson::Pictures* pictures);
 
 QJsonObject WriteDrawing(const VectorDrawing& drawing)
 {
@@ -198,14 +198,14 @@ QJsonObject WriteDrawing(const VectorDrawing& drawing)
     return {{"width", drawing.GetWidth()}, {"height", drawing.GetHeight()}, {"shapes", shapes}};
 }
 
-RefPtr<const VectorDrawing> ReadDrawing(const QJsonObject& in, int depth)
+RefPtr<const VectorDrawing> ReadDrawing(const QJsonObject& in, int depth, FillJson::Pictures* pictures)
 {
     RefPtr<VectorDrawing> drawing(new VectorDrawing(Int(in, "width", 1, 1 << 20), Int(in, "height", 1, 1 << 20)));
     for (const QJsonValue& value : Array(in, "shapes")) {
         const QJsonObject s = Object(value, QStringLiteral("a drawing's shape"));
         RefPtr<const CFill> fill;
         if (s.contains("fill"))
-            fill = ReadFill(s.value("fill"), depth + 1);
+            fill = ReadFill(s.value("fill"), depth + 1, pictures);
         drawing->AddShape(ReadPath(Array(s, "path")), std::move(fill));
     }
     return drawing;
@@ -278,7 +278,10 @@ private:
 
 class KindReader : public FillVisitor {
 public:
-    KindReader(const QJsonObject& in, int depth) : m_in(in), m_depth(depth) {}
+    KindReader(const QJsonObject& in, int depth, FillJson::Pictures* pictures)
+        : m_in(in), m_depth(depth), m_pictures(pictures)
+    {
+    }
 
     void Visit(CFillNone&) override {}
     void Visit(CFillSolid& fill) override { fill.SetColour(*FillJson::ReadColour(m_in.value("colour"))); }
@@ -300,7 +303,7 @@ public:
     {
         ReadTiling(fill);
         if (m_in.contains("bitmap"))
-            fill.SetBitmap(ReadBitmap(String(m_in, "bitmap")));
+            fill.SetBitmap(m_pictures ? m_pictures->Read(String(m_in, "bitmap")) : ReadBitmap(String(m_in, "bitmap")));
     }
     void Visit(CFillDiscreteMesh& fill) override
     {
@@ -318,7 +321,7 @@ public:
     {
         ReadTiling(fill);
         if (m_in.contains("drawing"))
-            fill.SetMetaInstance(ReadDrawing(Object(m_in, "drawing"), m_depth));
+            fill.SetMetaInstance(ReadDrawing(Object(m_in, "drawing"), m_depth, m_pictures));
         fill.SetRawBox(fill.GetRawBox(), Bool(m_in, "alreadyScaled"));
         const CPoint offset1 = ReadPoint(m_in.value("offset1"), "\"offset1\"").Round();
         const CPoint offset2 = ReadPoint(m_in.value("offset2"), "\"offset2\"").Round();
@@ -350,9 +353,10 @@ private:
 
     const QJsonObject& m_in;
     int m_depth;
+    FillJson::Pictures* m_pictures;
 };
 
-KestoKernel::RefPtr<CFill> ReadFill(const QJsonValue& value, int depth)
+KestoKernel::RefPtr<CFill> ReadFill(const QJsonValue& value, int depth, FillJson::Pictures* pictures)
 {
     if (depth > kMaxNesting)
         throw FormatError(QStringLiteral("fills are nested more than %1 deep").arg(kMaxNesting));
@@ -368,7 +372,7 @@ KestoKernel::RefPtr<CFill> ReadFill(const QJsonValue& value, int depth)
     fill->SetAlpha(Int(in, "alpha", 0, 255));
     fill->SetBlendMode(static_cast<BlendMode>(Int(in, "blend", 0, static_cast<int>(BlendMode::Difference))));
     fill->SetOverprint(Bool(in, "overprint"));
-    KindReader reader(in, depth);
+    KindReader reader(in, depth, pictures);
     fill->Accept(reader);
     // After the kind's own attributes: a mesh's grid decides how many control points it has.
     std::vector<K2DDblPoint> controls;
@@ -412,9 +416,21 @@ QJsonObject FillJson::Write(const CFill& fill)
     return out;
 }
 
-KestoKernel::RefPtr<CFill> FillJson::Read(const QJsonValue& value)
+KestoKernel::RefPtr<CFill> FillJson::Read(const QJsonValue& value, Pictures* pictures)
 {
-    return ReadFill(value, 0);
+    return ReadFill(value, 0, pictures);
+}
+
+RefPtr<const CLtBitmap> FillJson::Pictures::Read(const QString& base64)
+{
+    // Same text, same picture: decoded once and shared.
+    if (const auto it = m_read.find(base64); it != m_read.end())
+        return it->second;
+    RefPtr<const CLtBitmap> bitmap = ReadBitmap(base64);
+    m_pixels += static_cast<qint64>(bitmap->GetWidth()) * bitmap->GetHeight();
+    if (m_pixels > m_maxPixels)
+        throw FormatError(QStringLiteral("its pictures hold more than %1 pixels").arg(m_maxPixels));
+    return m_read[base64] = bitmap;
 }
 
 QJsonObject FillJson::WriteColour(const CColour& colour)

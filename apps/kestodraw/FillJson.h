@@ -2,9 +2,11 @@
 
 #include <kestotool/gdi/CColour.h>
 #include <kestotool/gdi/CFill.h>
+#include <kestotool/gdi/CLtBitmap.h>
 
 #include <QJsonObject>
 
+#include <map>
 #include <memory>
 
 namespace KestoDraw {
@@ -19,9 +21,25 @@ class FillJson {
 public:
     FillJson() = delete;
 
+    // The pictures of one document being read: identical ones are decoded once and shared, and
+    // all of them together hold at most kMaxPixels pixels (a file cannot make the program hold
+    // gigabytes of pixels decoded from a few megabytes of PNG).
+    class Pictures {
+    public:
+        static constexpr qint64 kMaxPixels = 64'000'000;
+        explicit Pictures(qint64 maxPixels = kMaxPixels) : m_maxPixels(maxPixels) {}
+        KestoKernel::RefPtr<const KestoGDI::CLtBitmap> Read(const QString& base64);
+
+    private:
+        qint64 m_maxPixels;
+        std::map<QString, KestoKernel::RefPtr<const KestoGDI::CLtBitmap>> m_read;
+        qint64 m_pixels = 0;
+    };
+
     static QJsonObject Write(const KestoGDI::CFill& fill);
     // A new fill; throws FormatError for anything that is not a fill this program wrote.
-    static KestoKernel::RefPtr<KestoGDI::CFill> Read(const QJsonValue& value);
+    // Pictures read with the same pool are shared and counted.
+    static KestoKernel::RefPtr<KestoGDI::CFill> Read(const QJsonValue& value, Pictures* pictures = nullptr);
 
     static QJsonObject WriteColour(const KestoGDI::CColour& colour);
     static std::unique_ptr<KestoGDI::CColour> ReadColour(const QJsonValue& value);

@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <mutex>
 #include <numbers>
 #include <utility>
 
@@ -39,6 +40,31 @@ KestoRaster::Rgba ToRgba(const CColour& colour)
     return {static_cast<std::uint8_t>(KestoPlatform::GetRValue(rgb)),
             static_cast<std::uint8_t>(KestoPlatform::GetGValue(rgb)),
             static_cast<std::uint8_t>(KestoPlatform::GetBValue(rgb)), static_cast<std::uint8_t>(colour.GetAlpha())};
+}
+
+// A bitmap's pixels as the renderer takes them, made once per bitmap for as long as a paint
+// holds them: fills that share a bitmap (and the many fills a drag makes) share one copy. An
+// entry keeps its bitmap, so that no other bitmap can take its address while the entry lives.
+std::shared_ptr<const Paint::Image> ImageOf(const CLtBitmap& bitmap)
+{
+    struct Entry {
+        RefPtr<const CLtBitmap> bitmap;
+        std::weak_ptr<const Paint::Image> image;
+    };
+    static std::mutex guard;
+    static std::vector<Entry> made;
+    const std::lock_guard lock(guard);
+    std::erase_if(made, [](const Entry& e) { return e.image.expired(); });
+    for (const Entry& e : made)
+        if (e.bitmap.get() == &bitmap)
+            if (std::shared_ptr<const Paint::Image> image = e.image.lock())
+                return image;
+    auto image = std::make_shared<Paint::Image>();
+    image->width = bitmap.GetWidth();
+    image->height = bitmap.GetHeight();
+    image->argb.assign(bitmap.GetBits(), bitmap.GetBits() + static_cast<std::size_t>(image->width) * image->height);
+    made.push_back({RefPtr<const CLtBitmap>(&bitmap), image});
+    return image;
 }
 
 class PaintOfKind final : public ConstFillVisitor {
@@ -68,14 +94,8 @@ public:
         Stops(fill);
         p.mirroredTiles = fill.WantInvertedTiling();
         p.recolour = fill.GetGradientRecolour();
-        if (const CLtBitmap* bitmap = fill.GetBitmapForFill(); bitmap && !bitmap->IsEmpty()) {
-            auto image = std::make_shared<Paint::Image>();
-            image->width = bitmap->GetWidth();
-            image->height = bitmap->GetHeight();
-            image->argb.assign(bitmap->GetBits(),
-                               bitmap->GetBits() + static_cast<std::size_t>(image->width) * image->height);
-            p.image = std::move(image);
-        }
+        if (const CLtBitmap* bitmap = fill.GetBitmapForFill(); bitmap && !bitmap->IsEmpty())
+            p.image = ImageOf(*bitmap);
     }
     void Visit(const CFillDiscreteMesh&) override {}
     void Visit(const CFillVector& fill) override;

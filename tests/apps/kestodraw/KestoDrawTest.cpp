@@ -3,6 +3,7 @@
 #include "DocumentFile.h"
 #include "DrawingPainter.h"
 #include "FillJson.h"
+#include "JsonRead.h"
 #include "MainWindow.h"
 #include "Palette.h"
 #include "ScriptPlayer.h"
@@ -11,6 +12,7 @@
 #include "kestotool/filltool/FillCommands.h"
 #include "kestotool/filltool/FillToolLinear.h"
 #include "kestotool/filltool/FillToolRadial.h"
+#include "kestotool/gdi/CFillBitmap.h"
 #include "kestotool/gdi/CFillLinear.h"
 #include "kestotool/gdi/CFillRadial.h"
 #include "kestotool/gdi/CFillSolid.h"
@@ -20,9 +22,12 @@
 #include "support/UserInput.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QLabel>
 #include <QMimeData>
 #include <QMouseEvent>
@@ -499,6 +504,37 @@ TEST(DrawingPainter, WhatOpaqueShapesHideIsNotPaintedAndThePictureIsTheSame)
     const std::int64_t page = 400 * 300;
     EXPECT_GT(every, 30 * page);
     EXPECT_LT(hidden, 3 * page); // the top page, the two shapes and thin rims of the rest
+}
+
+// A document's pictures: the same one in many fills is decoded once, and together they stay
+// within a budget of decoded pixels.
+TEST(FillJson, IdenticalPicturesAreSharedAndAllOfThemStayWithinTheBudget)
+{
+    QFile file(kSample);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QJsonObject bitmapFill =
+        QJsonDocument::fromJson(file.readAll()).object()["shapes"].toArray()[8].toObject()["fill"].toObject();
+    const auto bitmapOf = [](const KestoGDI::CFill& fill) {
+        return dynamic_cast<const KestoGDI::CFillBitmap&>(fill).GetBitmapForFill();
+    };
+    KestoDraw::FillJson::Pictures pictures(24 * 24); // the sample's picture is 24 x 24
+    const auto first = KestoDraw::FillJson::Read(bitmapFill, &pictures);
+    const auto second = KestoDraw::FillJson::Read(bitmapFill, &pictures);
+    EXPECT_EQ(bitmapOf(*first), bitmapOf(*second));
+
+    QImage other(2, 2, QImage::Format_ARGB32);
+    other.fill(Qt::red);
+    QBuffer png;
+    png.open(QIODevice::WriteOnly);
+    other.save(&png, "PNG");
+    QJsonObject otherFill = bitmapFill;
+    otherFill["bitmap"] = QString::fromLatin1(png.data().toBase64());
+    try {
+        KestoDraw::FillJson::Read(otherFill, &pictures);
+        ADD_FAILURE() << "a picture past the budget was read";
+    } catch (const KestoDraw::FormatError& e) {
+        EXPECT_TRUE(e.Message().contains("more than 576 pixels")) << e.Message().toStdString();
+    }
 }
 
 TEST_F(KestoDrawWindow, TheCanvasStaysWhereItIsWhateverTheSelectionPutsOnTheContextRow)
