@@ -70,7 +70,25 @@ RefPtr<const CLtBitmap> VectorDrawing::Paint(int width, int height,
     const Target target{canvas.data(), width, height, width * 4, Output::Argb32};
     const Target fillLayer{layer.data(), width, height, width * 4, Output::Argb32};
     const Target mask{coverage.data(), width, height, width, Output::Mask8};
-    const Clip all{0, 0, width, height};
+    // Each shape's paint once, and the box of its outline (its points hold the curves), so that
+    // a copy is painted over the pixels it can touch and not at all where it misses the tile.
+    struct Painted {
+        const Shape* shape;
+        KestoRaster::Paint paint;
+        Point low, high;
+    };
+    std::vector<Painted> painted;
+    for (const Shape& shape : m_shapes) {
+        std::optional<KestoRaster::Paint> paint = shape.fill ? FillPaint::From(*shape.fill) : std::nullopt;
+        if (!paint || shape.outline.Points().empty())
+            continue;
+        Painted p{&shape, std::move(*paint), {INFINITY, INFINITY}, {-INFINITY, -INFINITY}};
+        for (const Point q : shape.outline.Points()) {
+            p.low = {std::min(p.low.x, q.x), std::min(p.low.y, q.y)};
+            p.high = {std::max(p.high.x, q.x), std::max(p.high.y, q.y)};
+        }
+        painted.push_back(std::move(p));
+    }
     for (const Affine& instance : instances) {
         // The copies of the instance, one tile apart, that reach into the tile.
         double x0 = INFINITY, x1 = -INFINITY, y0 = INFINITY, y1 = -INFINITY;
@@ -91,15 +109,23 @@ RefPtr<const CLtBitmap> VectorDrawing::Paint(int width, int height,
                 Affine place = instance;
                 place.e += static_cast<double>(i) * width;
                 place.f += static_cast<double>(j) * height;
-                for (const Shape& shape : m_shapes) {
-                    if (!shape.fill)
+                for (const Painted& p : painted) {
+                    double left = INFINITY, top = INFINITY, right = -INFINITY, bottom = -INFINITY;
+                    for (const Point corner : {p.low, Point{p.high.x, p.low.y}, Point{p.low.x, p.high.y}, p.high}) {
+                        const Point d = place.Apply(corner);
+                        left = std::min(left, d.x), right = std::max(right, d.x);
+                        top = std::min(top, d.y), bottom = std::max(bottom, d.y);
+                    }
+                    // Whole pixels, a pixel wider for anti-aliasing, inside the tile.
+                    const Clip clip{static_cast<int>(std::clamp(std::floor(left) - 1, 0.0, double(width))),
+                                    static_cast<int>(std::clamp(std::floor(top) - 1, 0.0, double(height))),
+                                    static_cast<int>(std::clamp(std::ceil(right) + 1, 0.0, double(width))),
+                                    static_cast<int>(std::clamp(std::ceil(bottom) + 1, 0.0, double(height)))};
+                    if (clip.x1 <= clip.x0 || clip.y1 <= clip.y0)
                         continue;
-                    const std::optional<KestoRaster::Paint> paint = FillPaint::From(*shape.fill);
-                    if (!paint)
-                        continue;
-                    Render(PreparedPaint(*paint, place, Output::Argb32), fillLayer, all);
-                    RenderCoverage(shape.outline, place, mask, all);
-                    CompositeOver(target, fillLayer, &mask, all);
+                    Render(PreparedPaint(p.paint, place, Output::Argb32), fillLayer, clip);
+                    RenderCoverage(p.shape->outline, place, mask, clip);
+                    CompositeOver(target, fillLayer, &mask, clip);
                 }
             }
         }
