@@ -17,9 +17,23 @@ namespace KestoDraw {
 
 namespace {
 
+// Whether the kestodraw that wrote a copy still runs: a process of that number exists, is no
+// zombie waiting to be reaped, and (where /proc tells) is a kestodraw, not a later process that
+// was given the same number.
 bool Running(qint64 pid)
 {
-    return pid > 0 && (::kill(static_cast<pid_t>(pid), 0) == 0 || errno == EPERM);
+    if (pid <= 0 || (::kill(static_cast<pid_t>(pid), 0) != 0 && errno != EPERM))
+        return false;
+    QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
+    if (!stat.open(QIODevice::ReadOnly))
+        return true;
+    // "pid (name) state ...": the name may hold spaces and brackets, the state follows the last ')'.
+    const QByteArray line = stat.readAll();
+    const qsizetype close = line.lastIndexOf(')');
+    const qsizetype open = line.indexOf('(');
+    if (close < 0 || open < 0 || close + 2 >= line.size())
+        return true;
+    return line.at(close + 2) != 'Z' && line.mid(open + 1, close - open - 1) == "kestodraw";
 }
 
 } // namespace
