@@ -74,7 +74,7 @@ QRect DrawingPainter::OpaqueInside(const Shape& shape, const QTransform& view)
 {
     if (shape.transparency || shape.kind == Shape::Kind::Path)
         return {};
-    const std::optional<KestoRaster::Paint>& paint = PaintOf(*shape.fill, view.m11());
+    const std::optional<KestoRaster::Paint>& paint = CachedOf(*shape.fill, view.m11()).paint;
     const auto opaque = [](const Rgba& c) { return c.a == 255; };
     if (!paint || paint->transparency || paint->kind == Paint::Kind::Bitmap ||
         !std::all_of(paint->colours.begin(), paint->colours.end(), opaque) ||
@@ -105,11 +105,6 @@ DrawingPainter::Cached& DrawingPainter::CachedOf(const KestoGDI::CFill& fill, do
                                        KestoGDI::FillPaint::From(fill, pixelsPerUnit),
                                        {},
                                        {}});
-}
-
-const std::optional<Paint>& DrawingPainter::PaintOf(const KestoGDI::CFill& fill, double pixelsPerUnit)
-{
-    return CachedOf(fill, pixelsPerUnit).paint;
 }
 
 std::optional<PreparedPaint> DrawingPainter::Prepare(const KestoGDI::CFill& fill, double pixelsPerUnit,

@@ -44,7 +44,6 @@ private:
         std::optional<KestoRaster::PreparedPaint> mask;   // the next ones share
     };
     Cached& CachedOf(const KestoGDI::CFill& fill, double pixelsPerUnit);
-    const std::optional<KestoRaster::Paint>& PaintOf(const KestoGDI::CFill& fill, double pixelsPerUnit);
     // The fill prepared to render into a layer placed by toLayer; nothing for a kind the
     // renderer does not paint.
     std::optional<KestoRaster::PreparedPaint> Prepare(const KestoGDI::CFill& fill, double pixelsPerUnit,

@@ -64,22 +64,17 @@ QtRenderTarget::QtRenderTarget(QPainter& painter, double pixelScale)
     m_painter.setRenderHint(QPainter::Antialiasing);
 }
 
-void QtRenderTarget::SetLinePen(const KestoGDI::RenderPen& pen)
-{
-    m_painter.setPen(ToQPen(pen));
-    // Qt anti-aliases any stroke wider than a device pixel slowly (2.4 ms for the outline of a
-    // four-colour fill on a 4K canvas, more than the rest of a frame); where a pixel is two
-    // device pixels or more, the steps of an aliased edge are too small to see.
-    m_painter.setRenderHint(QPainter::Antialiasing, !m_highDensity);
-}
-
 void QtRenderTarget::Stroke(const QPainterPath& path, const KestoGDI::RenderPen& pen)
 {
     // A line of a pixel Qt draws fast and well; a wider one (a halo) it splits over its thread
     // pool in pieces whose hand-offs cost more than the drawing. Where lines are anti-aliased,
     // the renderer finds its coverage instead and Qt only copies the pixels.
     if (m_highDensity || pen.width <= 1 || !m_painter.device()) {
-        SetLinePen(pen);
+        m_painter.setPen(ToQPen(pen));
+        // Qt anti-aliases any stroke wider than a device pixel slowly (2.4 ms for the outline of
+        // a four-colour fill on a 4K canvas); where a pixel is two device pixels or more, the
+        // steps of an aliased edge are too small to see.
+        m_painter.setRenderHint(QPainter::Antialiasing, !m_highDensity);
         m_painter.setBrush(Qt::NoBrush);
         m_painter.drawPath(path);
         return;

@@ -25,7 +25,6 @@ public:
     void DrawCurve(const Kesto2D::K2DCurve& curve, const KestoGDI::RenderPen& pen) override;
 
 private:
-    void SetLinePen(const KestoGDI::RenderPen& pen);
     // Strokes a line, a polyline or a circle (in the painter's coordinates) with the pen.
     void Stroke(const QPainterPath& path, const KestoGDI::RenderPen& pen);
 
