@@ -131,4 +131,9 @@ TEST(Path, FarAndBrokenCoordinatesStayHarmless)
     EXPECT_EQ(everything.At(0, 0), 255);
     EXPECT_EQ(everything.At(W - 1, H - 1), 255);
     EXPECT_EQ(Covered(Path()).Area(), 0.0);
+    // An edge that ends on the clip's left side, where interpolating along it rounds to a hair
+    // left of the side (the sanitizer saw the cell before the first row being touched).
+    const Mask sliver = Covered(Polygon({{1.859062658947177, 0.8932890709584587}, {0, 0.9864552986842997}, {3, 3}}));
+    EXPECT_GT(sliver.Area(), 0.0);
+    EXPECT_LT(sliver.Area(), 3.0);
 }

@@ -148,8 +148,9 @@ private:
             const double top = std::max<double>(y, a.y);
             const double bottom = std::min<double>(y + 1, b.y);
             const double height = (bottom - top) * direction;
-            const double xt = a.x + (top - a.y) * dxdy;
-            const double xb = a.x + (bottom - a.y) * dxdy;
+            // Interpolation may round a hair outside the ends' columns; the cells end there.
+            const double xt = std::clamp(a.x + (top - a.y) * dxdy, 0.0, static_cast<double>(m_width));
+            const double xb = std::clamp(a.x + (bottom - a.y) * dxdy, 0.0, static_cast<double>(m_width));
             Span(&m_cells[static_cast<std::size_t>(y) * (m_width + 2)], std::min(xt, xb), std::max(xt, xb), height);
         }
     }
