@@ -123,6 +123,7 @@ RefPtr<const CLtBitmap> VectorDrawing::Paint(int width, int height,
                                     static_cast<int>(std::clamp(std::ceil(bottom) + 1, 0.0, double(height)))};
                     if (clip.x1 <= clip.x0 || clip.y1 <= clip.y0)
                         continue;
+                    m_paintedPixels += std::int64_t(clip.x1 - clip.x0) * (clip.y1 - clip.y0);
                     Render(PreparedPaint(p.paint, place, Output::Argb32), fillLayer, clip);
                     RenderCoverage(p.shape->outline, place, mask, clip);
                     CompositeOver(target, fillLayer, &mask, clip);

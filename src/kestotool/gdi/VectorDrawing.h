@@ -7,6 +7,8 @@
 #include "kestotool/platform/Export.h"
 #include "kestotool/raster/Path.h"
 
+#include <atomic>
+#include <cstdint>
 #include <map>
 #include <mutex>
 #include <span>
@@ -48,6 +50,9 @@ public:
     RefPtr<const CLtBitmap> Tile(int width, int height, std::span<const KestoRaster::Affine> instances) const;
 
     std::size_t Measure() const override;
+    // Pixels rendered into tiles so far, each copy of a shape counting the area it was painted
+    // over: the measure of what the drawing's tiles have cost.
+    std::int64_t PaintedPixels() const { return m_paintedPixels; }
 
 private:
     RefPtr<const CLtBitmap> Paint(int width, int height, std::span<const KestoRaster::Affine> instances) const;
@@ -58,6 +63,7 @@ private:
     mutable std::mutex m_tilesLock;
     // Keyed by the tile's size and its instances' maps.
     mutable std::map<std::vector<double>, RefPtr<const CLtBitmap>> m_tiles;
+    mutable std::atomic<std::int64_t> m_paintedPixels = 0;
 };
 
 } // namespace KestoGDI
