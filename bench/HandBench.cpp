@@ -47,6 +47,7 @@ struct Drag {
 void HandDrag(benchmark::State& state, Drag drag)
 {
     KestoDraw::MainWindow window;
+    window.GetCanvas().SetWaitForPage(true); // the moves are measured over a page painted whole
     window.resize(g_dpr == 1 ? QSize(1600, 1000) : QSize(1920, 1080));
     window.show();
     if (!window.Open(QStringLiteral(KESTODRAW_SAMPLE))) {

@@ -18,6 +18,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QResizeEvent>
+#include <QTimer>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -45,8 +46,11 @@ constexpr double kMaxZoom = 20;
 } // namespace
 
 Canvas::Canvas(Document& document, QUndoStack& undo, QWidget* parent)
-    : QWidget(parent), m_document(document), m_host(document, undo, *this)
+    : QWidget(parent), m_document(document), m_host(document, undo, *this), m_layers(this, [this] { update(); }),
+      m_paintingTick(new QTimer(this))
 {
+    m_paintingTick->setInterval(100);
+    connect(m_paintingTick, &QTimer::timeout, this, qOverload<>(&Canvas::update));
     setFocusPolicy(Qt::StrongFocus);
     setAcceptDrops(true);
     setMouseTracking(true);
@@ -114,17 +118,6 @@ void Canvas::FitPage()
 QTransform Canvas::View() const
 {
     return QTransform(m_zoom, 0, 0, m_zoom, m_pan.x(), m_pan.y());
-}
-
-QImage Canvas::RenderPage(double pixelsPerUnit)
-{
-    QImage image(std::max(1, static_cast<int>(std::lround(m_document.width * pixelsPerUnit))),
-                 std::max(1, static_cast<int>(std::lround(m_document.height * pixelsPerUnit))),
-                 QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    m_painter.Paint(painter, m_document, QTransform::fromScale(pixelsPerUnit, pixelsPerUnit), image.rect());
-    return image;
 }
 
 QString Canvas::HintLine() const
@@ -575,10 +568,67 @@ void Canvas::Refresh()
     update(m_shownSelection | SelectionBounds());
 }
 
+void Canvas::PaintSelection(QPainter& painter, const PageLayers::Scene& scene, const QRect& dirty)
+{
+    if (const int selected = Selected(); selected >= 0) {
+        const Shape& shape = m_document.shapes[selected];
+        const KestoGDI::CFill* live = m_host.LiveFill();
+        const bool transparency = EditsTransparency();
+        m_painter.PaintShape(painter, shape, scene.view, dirty, live && !transparency ? *live : *shape.fill,
+                             live && transparency ? live : shape.transparency.get());
+    }
+}
+
+void Canvas::PaintEarlierLayers(QPainter& painter, const PageLayers::Scene& scene, const QRect& dirty)
+{
+    // The layers of the scene before, placed as the view now places the page, until this
+    // scene's are ready; between them the shape they leave out, as it is now if it is still
+    // the selection.
+    painter.fillRect(dirty, QColor(PageLayers::Backdrop));
+    if (m_layers.Empty())
+        return;
+    const QTransform now = painter.worldTransform();
+    const QTransform then = m_layers.View().inverted() * scene.view * now;
+    painter.setWorldTransform(then);
+    painter.drawImage(0, 0, m_layers.Below());
+    painter.setWorldTransform(now);
+    if (m_layers.Selected() == Selected())
+        PaintSelection(painter, scene, dirty);
+    else if (const Shape* earlier = m_layers.SelectedShape())
+        m_painter.PaintShape(painter, *earlier, scene.view, dirty, *earlier->fill, earlier->transparency.get());
+    if (const QImage* above = m_layers.Above()) {
+        painter.setWorldTransform(then);
+        painter.drawImage(0, 0, *above);
+        painter.setWorldTransform(now);
+    }
+}
+
+void Canvas::PaintProgress(QPainter& painter)
+{
+    const std::optional<double> done = m_layers.Progress();
+    if (!done)
+        return;
+    const QString text = tr("Painting the page...");
+    const QRect bar(12, height() - 20, 120, 6);
+    painter.save();
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(255, 255, 255, 220));
+    painter.drawRect(bar.adjusted(-6, -8, fontMetrics().horizontalAdvance(text) + 16, 6));
+    painter.setBrush(QColor(200, 200, 200));
+    painter.drawRect(bar);
+    painter.setBrush(QColor(QRgb(ToolHost::kToolColour)));
+    painter.drawRect(QRectF(bar.x(), bar.y(), bar.width() * std::clamp(*done, 0.0, 1.0), bar.height()));
+    painter.setPen(QColor(40, 40, 40));
+    painter.drawText(QPoint(bar.right() + 8, bar.bottom() + 1), text);
+    painter.restore();
+}
+
 void Canvas::paintEvent(QPaintEvent* event)
 {
+    // A frame's worth of waiting at most, so that a page slow to paint never holds up the window.
+    constexpr std::chrono::milliseconds kFrame{16};
     const PageLayers::Scene scene = Scene();
-    m_layers.Prepare(scene, m_painter);
+    const bool current = m_layers.Prepare(scene, m_waitForPage ? std::nullopt : std::optional(kFrame));
     QPainter painter(this);
     {
         // The page in device pixels: what does not change from the layers, the selection's fill
@@ -589,16 +639,13 @@ void Canvas::paintEvent(QPaintEvent* event)
             QRect(QPoint(0, 0), scene.deviceSize);
         painter.save();
         painter.setWorldTransform(QTransform::fromScale(1 / scene.pixelRatio, 1 / scene.pixelRatio));
-        painter.drawImage(dirty.topLeft(), m_layers.Below(), dirty);
-        if (const int selected = Selected(); selected >= 0) {
-            const Shape& shape = m_document.shapes[selected];
-            const KestoGDI::CFill* live = m_host.LiveFill();
-            const bool transparency = EditsTransparency();
-            m_painter.PaintShape(painter, shape, scene.view, dirty, live && !transparency ? *live : *shape.fill,
-                                 live && transparency ? live : shape.transparency.get());
-        }
-        if (const QImage* above = m_layers.Above(); above && m_layers.AboveBounds().intersects(dirty))
-            painter.drawImage(dirty.topLeft(), *above, dirty);
+        if (current) {
+            painter.drawImage(dirty.topLeft(), m_layers.Below(), dirty);
+            PaintSelection(painter, scene, dirty);
+            if (const QImage* above = m_layers.Above(); above && m_layers.AboveBounds().intersects(dirty))
+                painter.drawImage(dirty.topLeft(), *above, dirty);
+        } else
+            PaintEarlierLayers(painter, scene, dirty);
         painter.restore();
     }
     if (Selected() >= 0) {
@@ -631,6 +678,13 @@ void Canvas::paintEvent(QPaintEvent* event)
                 line << view.map(QPointF(q.x, q.y));
             painter.drawPolyline(line);
         }
+    }
+    if (current)
+        m_paintingTick->stop();
+    else {
+        PaintProgress(painter);
+        if (!m_paintingTick->isActive())
+            m_paintingTick->start();
     }
 }
 

@@ -11,6 +11,8 @@
 #include <vector>
 
 class QMimeData;
+class QPainter;
+class QTimer;
 
 namespace KestoGDI {
 class IRenderTarget;
@@ -67,8 +69,10 @@ public:
     void DeleteSelected() { m_host.DeleteSelected(); }
     // The selection's fill or transparency as type number, as the type combos offer them.
     void SetKind(int fillType) { m_host.SetKind(fillType); }
-    // The page alone, painted at pixelsPerUnit.
-    QImage RenderPage(double pixelsPerUnit);
+    // Whether a repaint waits until the page is painted: for screenshots that must show it
+    // whole (tests, scripts, benchmarks). Otherwise a repaint waits a frame at most, and shows
+    // the page as it was until the rest is ready.
+    void SetWaitForPage(bool wait) { m_waitForPage = wait; }
     // The hint line: the tool's, or the canvas's own for what a press does now. Words between
     // vertical bars are keys and mouse words.
     QString HintLine() const;
@@ -114,6 +118,12 @@ private:
     // The pointer is at the point with no button down: its cursor and the handle it would grab.
     void Hover(QPointF device);
     PageLayers::Scene Scene() const;
+    // The selection's shape with its fills, or the tool's working fill while a gesture lasts.
+    void PaintSelection(QPainter& painter, const PageLayers::Scene& scene, const QRect& dirty);
+    // While the scene's layers are being built: the ones before, and the shape they left out.
+    void PaintEarlierLayers(QPainter& painter, const PageLayers::Scene& scene, const QRect& dirty);
+    // How far the page's painting has come, over the canvas's bottom left.
+    void PaintProgress(QPainter& painter);
     // The tool's handles and lines over the canvas.
     void DrawOverlay(KestoGDI::IRenderTarget& target) const;
     // What the selection covers on the canvas: its shape and the tool's overlay.
@@ -128,6 +138,8 @@ private:
     ToolHost m_host;
     DrawingPainter m_painter;
     PageLayers m_layers;
+    bool m_waitForPage = false;
+    QTimer* m_paintingTick; // repaints the progress of a page being painted
     QRect m_shownSelection; // SelectionBounds at the last paint
     Mode m_mode = Mode::Select;
 

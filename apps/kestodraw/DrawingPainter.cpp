@@ -37,14 +37,15 @@ void Fill(const Target& target, std::uint32_t argb)
 
 } // namespace
 
-void DrawingPainter::Paint(QPainter& painter, const Document& document, const QTransform& view, const QRect& deviceClip,
-                           std::size_t first, std::size_t last)
+bool DrawingPainter::Paint(QPainter& painter, const Document& document, const QTransform& view, const QRect& deviceClip,
+                           std::size_t first, std::size_t last, const Going& going)
 {
     // From the top down, what opaque shapes already hide is not painted: a drawing of many
     // shapes stacked over each other costs what shows, not what lies beneath.
     last = std::min(last, document.shapes.size());
     QRegion hidden;
     std::vector<std::pair<std::size_t, QRegion>> shown; // a shape and what of it shows
+    double work = 0;                                    // device pixels to paint
     for (std::size_t i = last; i-- > first;) {
         const Shape& shape = document.shapes[i];
         const QRect bounds =
@@ -53,11 +54,16 @@ void DrawingPainter::Paint(QPainter& painter, const Document& document, const QT
         if (visible.isEmpty())
             continue;
         shown.emplace_back(i, visible);
+        work += static_cast<double>(visible.boundingRect().width()) * visible.boundingRect().height();
         if (const QRect inside = OpaqueInside(shape, view); !inside.isEmpty())
             hidden += inside;
     }
+    double done = 0;
     for (auto it = shown.rbegin(); it != shown.rend(); ++it) {
         const Shape& shape = document.shapes[it->first];
+        if (going && !going(done / work))
+            return false;
+        done += static_cast<double>(it->second.boundingRect().width()) * it->second.boundingRect().height();
         // Piece by piece where little shows (the rim of a shape under another), whole where
         // what shows is in many pieces.
         constexpr int kPieces = 16;
@@ -68,6 +74,20 @@ void DrawingPainter::Paint(QPainter& painter, const Document& document, const QT
         for (const QRect& piece : it->second)
             PaintShape(painter, shape, view, piece, *shape.fill, shape.transparency.get());
     }
+    return true;
+}
+
+QImage DrawingPainter::PaintPage(const Document& document, double pixelsPerUnit, const Going& going)
+{
+    QImage image(std::max(1, static_cast<int>(std::lround(document.width * pixelsPerUnit))),
+                 std::max(1, static_cast<int>(std::lround(document.height * pixelsPerUnit))),
+                 QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    if (!Paint(painter, document, QTransform::fromScale(pixelsPerUnit, pixelsPerUnit), image.rect(), 0, SIZE_MAX,
+               going))
+        return {};
+    return image;
 }
 
 QRect DrawingPainter::OpaqueInside(const Shape& shape, const QTransform& view)
@@ -140,7 +160,7 @@ void DrawingPainter::PaintShape(QPainter& painter, const Shape& shape, const QTr
         return;
     const int w = area.width();
     const int h = area.height();
-    m_renderedPixels += static_cast<std::int64_t>(w) * h;
+    m_renderedPixels.fetch_add(static_cast<std::int64_t>(w) * h, std::memory_order_relaxed);
     const double scale = view.m11();
     // The shape's box of device pixels, with the document placed as the view places it.
     const Affine toLayer{scale, 0, 0, view.m22(), view.dx() - area.x(), view.dy() - area.y()};

@@ -8,7 +8,9 @@
 #include <QImage>
 #include <QTransform>
 
+#include <atomic>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -24,13 +26,20 @@ namespace KestoDraw {
 // prepares nothing new.
 class DrawingPainter {
 public:
+    // Asked before each piece of painting with the share of the work done (0..1); answering
+    // false stops the painting there.
+    using Going = std::function<bool(double done)>;
+
     // view maps document units to device pixels (a scale and a translation); shapes [first,
     // last) are painted, bottom to top, leaving out those that opaque shapes above them hide.
-    void Paint(QPainter& painter, const Document& document, const QTransform& view, const QRect& deviceClip,
-               std::size_t first = 0, std::size_t last = SIZE_MAX);
+    // Answers false when going stopped it.
+    bool Paint(QPainter& painter, const Document& document, const QTransform& view, const QRect& deviceClip,
+               std::size_t first = 0, std::size_t last = SIZE_MAX, const Going& going = {});
+    // The page alone, white, at pixelsPerUnit; null when going stopped it.
+    QImage PaintPage(const Document& document, double pixelsPerUnit, const Going& going = {});
     // Device pixels rendered so far (fills, masks and coverage each count their area once): the
     // measure of a drawing's cost.
-    std::int64_t RenderedPixels() const { return m_renderedPixels; }
+    std::int64_t RenderedPixels() const { return m_renderedPixels.load(std::memory_order_relaxed); }
     // One shape with the fill and transparency given (a shape's own, or a gesture's working fill).
     void PaintShape(QPainter& painter, const Shape& shape, const QTransform& view, const QRect& deviceClip,
                     const KestoGDI::CFill& fill, const KestoGDI::CFill* transparency);
@@ -57,7 +66,7 @@ private:
     QImage m_shown;
     std::vector<std::uint8_t> m_coverage;
     std::vector<std::uint8_t> m_levels;
-    std::int64_t m_renderedPixels = 0;
+    std::atomic<std::int64_t> m_renderedPixels = 0; // read by other threads than the painting one
 };
 
 } // namespace KestoDraw

@@ -17,18 +17,24 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QEventLoop>
 #include <QImageWriter>
 #include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QProgressDialog>
 #include <QRegularExpression>
 #include <QSaveFile>
+#include <QScopedValueRollback>
 #include <QStatusBar>
 #include <QStyle>
 #include <QToolBar>
+#include <QTimer>
 #include <QToolButton>
 
 #include <algorithm>
+#include <atomic>
+#include <thread>
 
 namespace KestoDraw {
 
@@ -323,11 +329,39 @@ bool MainWindow::SaveAs(const QString& path)
 
 bool MainWindow::ExportPng(const QString& path)
 {
+    if (m_exporting)
+        return false;
+    const QScopedValueRollback exporting(m_exporting, true);
     const double scale = std::min(1.0, kExportSide / std::max(m_document.width, m_document.height));
+    // A copy of the drawing is painted on a worker while the window stays live; the progress
+    // shows once the painting has taken half a second, and Cancel stops it at the next shape.
+    QProgressDialog progress(tr("Exporting %1...").arg(QFileInfo(path).fileName()), tr("Cancel"), 0, 1000, this);
+    progress.setWindowModality(Qt::WindowModal);
+    progress.setMinimumDuration(500);
+    std::atomic<double> done = 0;
+    std::atomic<bool> cancelled = false;
+    connect(&progress, &QProgressDialog::canceled, this, [&] { cancelled = true; });
+    QTimer tick;
+    connect(&tick, &QTimer::timeout, this, [&] { progress.setValue(static_cast<int>(done * 999)); });
+    tick.start(50);
+    QEventLoop painted;
+    QImage page;
+    std::thread worker([&, document = m_document] {
+        page = DrawingPainter().PaintPage(document, scale, [&](double share) {
+            done = share;
+            return !cancelled;
+        });
+        QMetaObject::invokeMethod(&painted, &QEventLoop::quit, Qt::QueuedConnection);
+    });
+    painted.exec();
+    worker.join();
+    if (page.isNull())
+        return false;
+
     // Written whole or not at all, and with the reason when it fails.
     QSaveFile file(path);
     QImageWriter writer(&file, "PNG");
-    if (file.open(QIODevice::WriteOnly) && writer.write(m_canvas->RenderPage(scale)) && file.commit())
+    if (file.open(QIODevice::WriteOnly) && writer.write(page) && file.commit())
         return true;
     const QString reason = file.error() != QFileDevice::NoError ? file.errorString() : writer.errorString();
     m_reportError(tr("Export PNG"), tr("%1 could not be written: %2").arg(QFileInfo(path).fileName(), reason));

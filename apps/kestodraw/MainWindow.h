@@ -50,6 +50,8 @@ public:
     // Opens a drawing in place of the current one; on failure reports why and keeps the current.
     bool Open(const QString& path);
     bool SaveAs(const QString& path);
+    // Paints the page on a worker, showing progress when it takes long; false when it could
+    // not be written (reported) or was cancelled or another export is under way (not reported).
     bool ExportPng(const QString& path);
     void NewDrawing();
     // Takes up a copy that an autosave left (a crash's): the drawing, untitled and unsaved; the
@@ -77,6 +79,7 @@ private:
     Document m_document;
     QUndoStack m_undo;
     Canvas* m_canvas = nullptr;
+    bool m_exporting = false;
     Palette* m_palette = nullptr;
     QToolBar* m_context = nullptr;
     std::unique_ptr<KestoToolQt::QtCommandBar> m_contextBar;

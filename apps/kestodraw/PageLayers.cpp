@@ -1,7 +1,7 @@
 #include "PageLayers.h"
 
-#include "DrawingPainter.h"
-
+#include <QMetaObject>
+#include <QObject>
 #include <QPainter>
 
 #include <algorithm>
@@ -20,59 +20,168 @@ bool LookTheSame(const Shape& a, const Shape& b)
 
 } // namespace
 
-bool PageLayers::Shows(const Scene& scene) const
+PageLayers::PageLayers(QObject* owner, std::function<void()> ready)
+    : m_owner(owner), m_ready(std::move(ready)), m_worker([this] { Work(); })
+{
+}
+
+PageLayers::~PageLayers()
+{
+    {
+        const std::lock_guard lock(m_lock);
+        m_quit = true;
+        if (m_running)
+            m_running->stop = true;
+    }
+    m_changed.notify_all();
+    m_worker.join();
+}
+
+PageLayers::Key PageLayers::KeyOf(const Scene& scene)
+{
+    return {scene.document->shapes, scene.document->width, scene.document->height, scene.selected,
+            scene.view,             scene.deviceSize,      scene.pixelRatio,       scene.grid};
+}
+
+bool PageLayers::Matches(const Key& key, const Scene& scene)
 {
     const std::vector<Shape>& shapes = scene.document->shapes;
-    if (m_below.isNull() || scene.selected != m_selected || scene.view != m_view || scene.deviceSize != m_deviceSize ||
-        scene.pixelRatio != m_pixelRatio || scene.grid != m_grid || shapes.size() != m_shapes.size())
+    if (scene.selected != key.selected || scene.view != key.view || scene.deviceSize != key.deviceSize ||
+        scene.pixelRatio != key.pixelRatio || scene.grid != key.grid || scene.document->width != key.width ||
+        scene.document->height != key.height || shapes.size() != key.shapes.size())
         return false;
     for (std::size_t i = 0; i < shapes.size(); ++i)
-        if (static_cast<int>(i) != m_selected && !LookTheSame(shapes[i], m_shapes[i]))
+        if (static_cast<int>(i) != key.selected && !LookTheSame(shapes[i], key.shapes[i]))
             return false;
     return true;
 }
 
-void PageLayers::Prepare(const Scene& scene, DrawingPainter& drawing)
+bool PageLayers::Shows(const Scene& scene) const
 {
-    if (Shows(scene))
-        return;
-    const Document& document = *scene.document;
-    m_shapes = document.shapes;
-    m_selected = scene.selected;
-    m_view = scene.view;
-    m_deviceSize = scene.deviceSize;
-    m_pixelRatio = scene.pixelRatio;
-    m_grid = scene.grid;
+    return !Empty() && Matches(m_shown.key, scene);
+}
 
-    const QRect all(QPoint(0, 0), m_deviceSize);
-    m_below = QImage(m_deviceSize, QImage::Format_RGB32); // opaque: copied, never blended
-    m_below.fill(QColor(150, 150, 150));
-    {
-        QPainter painter(&m_below);
-        const QRectF page = m_view.mapRect(QRectF(0, 0, document.width, document.height));
-        painter.fillRect(page.translated(3 * m_pixelRatio, 3 * m_pixelRatio), QColor(90, 90, 90));
-        painter.fillRect(page, Qt::white);
-        if (m_grid > 0 && m_grid * m_view.m11() >= 6 * m_pixelRatio) {
-            painter.setPen(QPen(QColor(225, 225, 235), m_pixelRatio));
-            for (double x = 0; x <= document.width; x += m_grid)
-                painter.drawLine(m_view.map(QLineF(x, 0, x, document.height)));
-            for (double y = 0; y <= document.height; y += m_grid)
-                painter.drawLine(m_view.map(QLineF(0, y, document.width, y)));
+const Shape* PageLayers::SelectedShape() const
+{
+    const int selected = m_shown.key.selected;
+    return selected >= 0 && static_cast<std::size_t>(selected) < m_shown.key.shapes.size()
+               ? &m_shown.key.shapes[static_cast<std::size_t>(selected)]
+               : nullptr;
+}
+
+void PageLayers::TakeBuilt()
+{
+    if (m_built) {
+        m_shown = std::move(*m_built);
+        m_built.reset();
+    }
+}
+
+bool PageLayers::Prepare(const Scene& scene, std::optional<std::chrono::milliseconds> wait)
+{
+    std::unique_lock lock(m_lock);
+    TakeBuilt();
+    if (Shows(scene))
+        return true;
+    if (!m_job || !Matches(m_job->key, scene)) {
+        if (m_running)
+            m_running->stop = true;
+        m_job = std::make_shared<Job>();
+        m_job->key = KeyOf(scene);
+        m_changed.notify_all();
+    }
+    const auto built = [&] { return m_built && Matches(m_built->key, scene); };
+    if (wait)
+        m_changed.wait_for(lock, *wait, built);
+    else
+        m_changed.wait(lock, built);
+    TakeBuilt();
+    return Shows(scene);
+}
+
+std::optional<double> PageLayers::Progress() const
+{
+    const std::lock_guard lock(m_lock);
+    if (!m_job)
+        return std::nullopt;
+    return m_job->done.load();
+}
+
+void PageLayers::Work()
+{
+    for (;;) {
+        std::shared_ptr<Job> job;
+        {
+            std::unique_lock lock(m_lock);
+            m_changed.wait(lock, [&] { return m_quit || (m_job && m_job != m_running); });
+            if (m_quit)
+                return;
+            job = m_running = m_job;
         }
-        const std::size_t selected = m_selected < 0 ? SIZE_MAX : static_cast<std::size_t>(m_selected);
-        drawing.Paint(painter, document, m_view, all, 0, selected);
+        std::optional<Layers> layers = Build(*job, m_drawing);
+        {
+            const std::lock_guard lock(m_lock);
+            m_running.reset();
+            if (m_job != job || !layers)
+                continue; // another scene is wanted now
+            m_built = std::move(layers);
+            m_job.reset();
+            // Posted before a frame waiting for the layers can take them, so that whoever
+            // sees them has the call queued.
+            QMetaObject::invokeMethod(m_owner, m_ready, Qt::QueuedConnection);
+        }
+        m_changed.notify_all();
     }
-    m_above.reset();
-    m_aboveBounds = QRect();
-    if (m_selected >= 0 && static_cast<std::size_t>(m_selected) + 1 < document.shapes.size()) {
-        for (std::size_t i = static_cast<std::size_t>(m_selected) + 1; i < document.shapes.size(); ++i)
-            m_aboveBounds |=
-                m_view.mapRect(document.shapes[i].Outline().boundingRect()).toAlignedRect().adjusted(-2, -2, 2, 2);
-        m_above.emplace(m_deviceSize, QImage::Format_ARGB32_Premultiplied);
-        m_above->fill(Qt::transparent);
-        QPainter painter(&*m_above);
-        drawing.Paint(painter, document, m_view, all, static_cast<std::size_t>(m_selected) + 1);
+}
+
+std::optional<PageLayers::Layers> PageLayers::Build(Job& job, DrawingPainter& drawing)
+{
+    const Key& key = job.key;
+    // The painter reads a document; this one holds the shapes the key keeps.
+    Document document;
+    document.width = key.width;
+    document.height = key.height;
+    document.shapes = key.shapes;
+    const std::size_t count = document.shapes.size();
+    const std::size_t selected = key.selected < 0 ? count : static_cast<std::size_t>(key.selected);
+    // The share of the work below the selection, by shapes, for the progress shown.
+    const double belowShare = count ? static_cast<double>(selected) / static_cast<double>(count) : 1.0;
+    const auto going = [&job](double from, double share) {
+        return [&job, from, share](double done) {
+            job.done = from + done * share;
+            return !job.stop;
+        };
+    };
+
+    Layers layers{key, QImage(key.deviceSize, QImage::Format_RGB32), std::nullopt, QRect()};
+    const QRect all(QPoint(0, 0), key.deviceSize);
+    layers.below.fill(Backdrop); // opaque: copied, never blended
+    {
+        QPainter painter(&layers.below);
+        const QRectF page = key.view.mapRect(QRectF(0, 0, key.width, key.height));
+        painter.fillRect(page.translated(3 * key.pixelRatio, 3 * key.pixelRatio), QColor(90, 90, 90));
+        painter.fillRect(page, Qt::white);
+        if (key.grid > 0 && key.grid * key.view.m11() >= 6 * key.pixelRatio) {
+            painter.setPen(QPen(QColor(225, 225, 235), key.pixelRatio));
+            for (double x = 0; x <= key.width; x += key.grid)
+                painter.drawLine(key.view.map(QLineF(x, 0, x, key.height)));
+            for (double y = 0; y <= key.height; y += key.grid)
+                painter.drawLine(key.view.map(QLineF(0, y, key.width, y)));
+        }
+        if (!drawing.Paint(painter, document, key.view, all, 0, selected, going(0, belowShare)))
+            return std::nullopt;
     }
+    if (selected + 1 < count) {
+        for (std::size_t i = selected + 1; i < count; ++i)
+            layers.aboveBounds |=
+                key.view.mapRect(document.shapes[i].Outline().boundingRect()).toAlignedRect().adjusted(-2, -2, 2, 2);
+        layers.above.emplace(key.deviceSize, QImage::Format_ARGB32_Premultiplied);
+        layers.above->fill(Qt::transparent);
+        QPainter painter(&*layers.above);
+        if (!drawing.Paint(painter, document, key.view, all, selected + 1, SIZE_MAX, going(belowShare, 1 - belowShare)))
+            return std::nullopt;
+    }
+    return layers;
 }
 
 } // namespace KestoDraw

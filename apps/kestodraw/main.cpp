@@ -49,6 +49,7 @@ int main(int argc, char** argv)
         const QStringList drawings = options.positionalArguments();
         const QString drawing = drawings.isEmpty() ? QApplication::applicationDirPath() + "/sample.kdraw" : drawings[0];
         if (options.isSet(script)) {
+            window.GetCanvas().SetWaitForPage(true); // its screenshots show the page whole
             window.SetErrorReporter([](const QString& title, const QString& message) {
                 std::fprintf(stderr, "%s: %s\n", qPrintable(title), qPrintable(message));
             });

@@ -13,12 +13,13 @@ constexpr int kReportReleaseUnheld = 10;
 
 int CRefCount::Release() const
 {
-    if (m_refs <= 0) {
+    if (m_refs.load(std::memory_order_relaxed) <= 0) {
         VerifyFailed("KestoKernel", "CRefCount", kReportReleaseUnheld,
                      "release only an object you hold a reference to");
         return 0;
     }
-    const int left = --m_refs;
+    // Whatever this thread did to the object happens before the delete on another's release.
+    const int left = m_refs.fetch_sub(1, std::memory_order_acq_rel) - 1;
     if (left == 0)
         delete this;
     return left;

@@ -5,6 +5,7 @@
 #include "FillJson.h"
 #include "JsonRead.h"
 #include "MainWindow.h"
+#include "PageLayers.h"
 #include "Palette.h"
 #include "ScriptPlayer.h"
 
@@ -73,6 +74,7 @@ protected:
         KestoTest::QtUserInput().Install();
         KestoTool::Init(40000, 40200);
         window = std::make_unique<MainWindow>();
+        window->GetCanvas().SetWaitForPage(true); // each grab shows the page whole
         window->SetErrorReporter([this](const QString&, const QString& message) { errors << message; });
         window->resize(1100, 760);
         window->show();
@@ -504,6 +506,46 @@ TEST(DrawingPainter, WhatOpaqueShapesHideIsNotPaintedAndThePictureIsTheSame)
     const std::int64_t page = 400 * 300;
     EXPECT_GT(every, 30 * page);
     EXPECT_LT(hidden, 3 * page); // the top page, the two shapes and thin rims of the rest
+}
+
+// The page's layers are painted on a worker: a frame that cannot wait keeps the layers it had
+// and sees progress, and a build no longer wanted stops at its next shape.
+TEST(PageLayers, AFrameKeepsTheLayersItHadWhileASlowPageIsPaintedAndABuildNoLongerWantedStops)
+{
+    KestoTest::QtUserInput().Install(); // the application, whose loop delivers the layers' calls
+    KestoDraw::Document light = KestoDraw::DocumentFile::Read([] {
+        QFile file(kSample);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    }());
+    // Two thousand translucent page-sized ellipses: none hides another, so each costs the page.
+    KestoDraw::Document heavy = light;
+    KestoDraw::Shape veil = light.shapes.at(10);
+    ASSERT_TRUE(veil.transparency);
+    veil.box = KestoPlatform::CRect(0, 0, light.width, light.height);
+    heavy.shapes.assign(2000, veil);
+    const auto scene = [](const KestoDraw::Document& document, double scale) {
+        return KestoDraw::PageLayers::Scene{&document, -1, QTransform::fromScale(scale, scale), QSize(400, 300), 1, 0};
+    };
+    QObject owner;
+    int ready = 0;
+    KestoDraw::PageLayers layers(&owner, [&] { ++ready; });
+
+    ASSERT_TRUE(layers.Prepare(scene(light, 0.1), std::nullopt));
+    const QImage before = layers.Below();
+    EXPECT_FALSE(layers.Progress());
+    EXPECT_FALSE(layers.Prepare(scene(heavy, 0.1), std::chrono::milliseconds(0)));
+    EXPECT_EQ(layers.Below(), before);
+    EXPECT_TRUE(layers.Progress());
+
+    const std::int64_t page = 400 * 300;
+    ASSERT_TRUE(layers.Prepare(scene(light, 0.05), std::nullopt));
+    EXPECT_TRUE(layers.Shows(scene(light, 0.05)));
+    EXPECT_FALSE(layers.Shows(scene(heavy, 0.1)));
+    EXPECT_NE(layers.Below(), before);
+    EXPECT_LT(layers.RenderedPixels(), 200 * page); // not the heavy page's 2000
+    QCoreApplication::processEvents();
+    EXPECT_GE(ready, 2); // each build that finished said so
 }
 
 // A document's pictures: the same one in many fills is decoded once, and together they stay
