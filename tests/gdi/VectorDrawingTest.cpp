@@ -82,3 +82,18 @@ TEST(VectorDrawing, ATilePaintsEachCopyOfAShapeOnlyOverThePixelsItReaches)
     drawing.Tile(200, 200, instances);
     EXPECT_LE(drawing.PaintedPixels(), copies * 8 * 8 * 2); // the kept tile costs nothing again
 }
+
+// A cell sheared so that every copy of every shape spans the whole tile would cost copies times
+// shapes times the tile; the painting stops at its budget (4 million pixels for a small tile).
+TEST(VectorDrawing, ATileWhoseCopiesEachSpanItStopsAtItsBudget)
+{
+    VectorDrawing drawing(10, 10);
+    for (int i = 0; i < 200; ++i)
+        drawing.AddShape(Box(0, 0, 10, 10), Solid(KestoPlatform::RGB(0, 0, 255)));
+    const KestoRaster::Affine sheared{30, 0, 30, 30, 0, 0};
+    const RefPtr<const CLtBitmap> tile = drawing.Tile(64, 64, std::span(&sheared, 1));
+    ASSERT_TRUE(tile);
+    EXPECT_EQ(tile->GetPixel(32, 32), 0xFF0000FFu);
+    EXPECT_GT(drawing.PaintedPixels(), 1 << 21);
+    EXPECT_LE(drawing.PaintedPixels(), (1 << 22) + 64 * 64);
+}

@@ -15,6 +15,12 @@ namespace {
 constexpr std::size_t kKeptTiles = 8;
 // At most this many copies of an instance each way from the tile when it wraps round.
 constexpr int kMaxCopies = 4;
+// A tile's painting stops once its copies of shapes have covered this many times its area (or
+// the floor below, for small tiles of many shapes). A drawing of ours stays far below; a cell
+// sheared or turned so that each of its copies spans the whole tile, over and over, would
+// otherwise cost copies times shapes times the tile.
+constexpr std::int64_t kWorkPerPixel = 32;
+constexpr std::int64_t kMinWork = std::int64_t(1) << 22;
 
 } // namespace
 
@@ -89,48 +95,56 @@ RefPtr<const CLtBitmap> VectorDrawing::Paint(int width, int height,
         }
         painted.push_back(std::move(p));
     }
-    for (const Affine& instance : instances) {
-        // The copies of the instance, one tile apart, that reach into the tile.
-        double x0 = INFINITY, x1 = -INFINITY, y0 = INFINITY, y1 = -INFINITY;
-        for (const Point corner : {Point{0, 0}, Point{double(m_width), 0}, Point{0, double(m_height)},
-                                   Point{double(m_width), double(m_height)}}) {
-            const Point p = instance.Apply(corner);
-            x0 = std::min(x0, p.x), x1 = std::max(x1, p.x), y0 = std::min(y0, p.y), y1 = std::max(y1, p.y);
-        }
-        const auto copies = [](double lo, double hi, int side) {
-            // A drawing many tiles across gets as many copies as fit a few tiles each way.
-            return std::pair{std::max(-kMaxCopies, static_cast<int>(std::floor(-hi / side)) + 1),
-                             std::min(kMaxCopies, static_cast<int>(std::ceil((side - lo) / side)) - 1)};
-        };
-        const auto [i0, i1] = copies(x0, x1, width);
-        const auto [j0, j1] = copies(y0, y1, height);
-        for (int j = j0; j <= j1; ++j) {
-            for (int i = i0; i <= i1; ++i) {
-                Affine place = instance;
-                place.e += static_cast<double>(i) * width;
-                place.f += static_cast<double>(j) * height;
-                for (const Painted& p : painted) {
-                    double left = INFINITY, top = INFINITY, right = -INFINITY, bottom = -INFINITY;
-                    for (const Point corner : {p.low, Point{p.high.x, p.low.y}, Point{p.low.x, p.high.y}, p.high}) {
-                        const Point d = place.Apply(corner);
-                        left = std::min(left, d.x), right = std::max(right, d.x);
-                        top = std::min(top, d.y), bottom = std::max(bottom, d.y);
+    const std::int64_t budget = std::max(kWorkPerPixel * static_cast<std::int64_t>(count), kMinWork);
+    std::int64_t work = 0;
+    [&] {
+        for (const Affine& instance : instances) {
+            // The copies of the instance, one tile apart, that reach into the tile.
+            double x0 = INFINITY, x1 = -INFINITY, y0 = INFINITY, y1 = -INFINITY;
+            for (const Point corner : {Point{0, 0}, Point{double(m_width), 0}, Point{0, double(m_height)},
+                                       Point{double(m_width), double(m_height)}}) {
+                const Point p = instance.Apply(corner);
+                x0 = std::min(x0, p.x), x1 = std::max(x1, p.x), y0 = std::min(y0, p.y), y1 = std::max(y1, p.y);
+            }
+            const auto copies = [](double lo, double hi, int side) {
+                // A drawing many tiles across gets as many copies as fit a few tiles each way.
+                return std::pair{std::max(-kMaxCopies, static_cast<int>(std::floor(-hi / side)) + 1),
+                                 std::min(kMaxCopies, static_cast<int>(std::ceil((side - lo) / side)) - 1)};
+            };
+            const auto [i0, i1] = copies(x0, x1, width);
+            const auto [j0, j1] = copies(y0, y1, height);
+            for (int j = j0; j <= j1; ++j) {
+                for (int i = i0; i <= i1; ++i) {
+                    Affine place = instance;
+                    place.e += static_cast<double>(i) * width;
+                    place.f += static_cast<double>(j) * height;
+                    for (const Painted& p : painted) {
+                        double left = INFINITY, top = INFINITY, right = -INFINITY, bottom = -INFINITY;
+                        for (const Point corner : {p.low, Point{p.high.x, p.low.y}, Point{p.low.x, p.high.y}, p.high}) {
+                            const Point d = place.Apply(corner);
+                            left = std::min(left, d.x), right = std::max(right, d.x);
+                            top = std::min(top, d.y), bottom = std::max(bottom, d.y);
+                        }
+                        // Whole pixels, a pixel wider for anti-aliasing, inside the tile.
+                        const Clip clip{static_cast<int>(std::clamp(std::floor(left) - 1, 0.0, double(width))),
+                                        static_cast<int>(std::clamp(std::floor(top) - 1, 0.0, double(height))),
+                                        static_cast<int>(std::clamp(std::ceil(right) + 1, 0.0, double(width))),
+                                        static_cast<int>(std::clamp(std::ceil(bottom) + 1, 0.0, double(height)))};
+                        if (clip.x1 <= clip.x0 || clip.y1 <= clip.y0)
+                            continue;
+                        if (work >= budget)
+                            return;
+                        const std::int64_t area = std::int64_t(clip.x1 - clip.x0) * (clip.y1 - clip.y0);
+                        work += area;
+                        m_paintedPixels += area;
+                        Render(PreparedPaint(p.paint, place, Output::Argb32), fillLayer, clip);
+                        RenderCoverage(p.shape->outline, place, mask, clip);
+                        CompositeOver(target, fillLayer, &mask, clip);
                     }
-                    // Whole pixels, a pixel wider for anti-aliasing, inside the tile.
-                    const Clip clip{static_cast<int>(std::clamp(std::floor(left) - 1, 0.0, double(width))),
-                                    static_cast<int>(std::clamp(std::floor(top) - 1, 0.0, double(height))),
-                                    static_cast<int>(std::clamp(std::ceil(right) + 1, 0.0, double(width))),
-                                    static_cast<int>(std::clamp(std::ceil(bottom) + 1, 0.0, double(height)))};
-                    if (clip.x1 <= clip.x0 || clip.y1 <= clip.y0)
-                        continue;
-                    m_paintedPixels += std::int64_t(clip.x1 - clip.x0) * (clip.y1 - clip.y0);
-                    Render(PreparedPaint(p.paint, place, Output::Argb32), fillLayer, clip);
-                    RenderCoverage(p.shape->outline, place, mask, clip);
-                    CompositeOver(target, fillLayer, &mask, clip);
                 }
             }
         }
-    }
+    }();
     // The bitmap holds straight alpha.
     auto bitmap = KestoKernel::MakeRef<CLtBitmap>(width, height);
     std::uint32_t* bits = bitmap->GetBits();
