@@ -16,10 +16,11 @@ constexpr std::size_t kKeptTiles = 8;
 // At most this many copies of an instance each way from the tile when it wraps round.
 constexpr int kMaxCopies = 4;
 // A tile's painting stops once its copies of shapes have covered this many times its area (or
-// the floor below, for small tiles of many shapes). A drawing of ours stays far below; a cell
-// sheared or turned so that each of its copies spans the whole tile, over and over, would
-// otherwise cost copies times shapes times the tile.
-constexpr std::int64_t kWorkPerPixel = 32;
+// the floor below, for small tiles of many shapes). A drawing costs about the sum of its
+// shapes' boxes over its own area, twice for a turned tile; a cell sheared or turned so that
+// each of its copies spans the whole tile, over and over, would otherwise cost copies times
+// shapes times the tile.
+constexpr std::int64_t kWorkPerPixel = 64;
 constexpr std::int64_t kMinWork = std::int64_t(1) << 22;
 
 } // namespace
