@@ -583,10 +583,12 @@ void Canvas::PaintEarlierLayers(QPainter& painter, const PageLayers::Scene& scen
 {
     // The layers of the scene before, placed as the view now places the page, until this
     // scene's are ready; between them the shape they leave out, as it is now if it is still
-    // the selection.
+    // the selection. Before the first, the page alone.
     painter.fillRect(dirty, QColor(PageLayers::Backdrop));
-    if (m_layers.Empty())
+    if (m_layers.Empty()) {
+        PageLayers::PaintBlankPage(painter, scene.view, m_document.width, m_document.height, scene.pixelRatio);
         return;
+    }
     const QTransform now = painter.worldTransform();
     const QTransform then = m_layers.View().inverted() * scene.view * now;
     painter.setWorldTransform(then);

@@ -134,6 +134,13 @@ void PageLayers::Work()
     }
 }
 
+void PageLayers::PaintBlankPage(QPainter& painter, const QTransform& view, int width, int height, double pixelRatio)
+{
+    const QRectF page = view.mapRect(QRectF(0, 0, width, height));
+    painter.fillRect(page.translated(3 * pixelRatio, 3 * pixelRatio), QColor(90, 90, 90));
+    painter.fillRect(page, Qt::white);
+}
+
 std::optional<PageLayers::Layers> PageLayers::Build(Job& job, DrawingPainter& drawing)
 {
     const Key& key = job.key;
@@ -158,9 +165,7 @@ std::optional<PageLayers::Layers> PageLayers::Build(Job& job, DrawingPainter& dr
     layers.below.fill(Backdrop); // opaque: copied, never blended
     {
         QPainter painter(&layers.below);
-        const QRectF page = key.view.mapRect(QRectF(0, 0, key.width, key.height));
-        painter.fillRect(page.translated(3 * key.pixelRatio, 3 * key.pixelRatio), QColor(90, 90, 90));
-        painter.fillRect(page, Qt::white);
+        PaintBlankPage(painter, key.view, key.width, key.height, key.pixelRatio);
         if (key.grid > 0 && key.grid * key.view.m11() >= 6 * key.pixelRatio) {
             painter.setPen(QPen(QColor(225, 225, 235), key.pixelRatio));
             for (double x = 0; x <= key.width; x += key.grid)

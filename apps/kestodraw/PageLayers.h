@@ -17,6 +17,7 @@
 #include <vector>
 
 class QObject;
+class QPainter;
 
 namespace KestoDraw {
 
@@ -67,8 +68,10 @@ public:
     int Selected() const { return m_shown.key.selected; }
     const Shape* SelectedShape() const;
 
-    // The colour around the page.
+    // The colour around the page, and the page over it (blank, with its shadow) as the view
+    // places it.
     static constexpr QRgb Backdrop = qRgb(150, 150, 150);
+    static void PaintBlankPage(QPainter& painter, const QTransform& view, int width, int height, double pixelRatio);
 
 private:
     // What a set of layers shows.
