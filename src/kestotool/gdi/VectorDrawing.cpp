@@ -15,13 +15,14 @@ namespace {
 constexpr std::size_t kKeptTiles = 8;
 // At most this many copies of an instance each way from the tile when it wraps round.
 constexpr int kMaxCopies = 4;
-// A tile's painting stops once its copies of shapes have covered this many times its area (or
-// the floor below, for small tiles of many shapes). A drawing costs about the sum of its
-// shapes' boxes over its own area, twice for a turned tile; a cell sheared or turned so that
-// each of its copies spans the whole tile, over and over, would otherwise cost copies times
-// shapes times the tile.
+// A tile's painting stops once its copies of shapes have covered this many times its area,
+// within the floor and ceiling below (small tiles of many shapes; a second or so of work). A
+// drawing costs about the sum of its shapes' boxes over its own area, twice for a turned tile;
+// a cell sheared or turned so that each of its copies spans the whole tile, over and over,
+// would otherwise cost copies times shapes times the tile, minutes for a large one.
 constexpr std::int64_t kWorkPerPixel = 64;
 constexpr std::int64_t kMinWork = std::int64_t(1) << 22;
+constexpr std::int64_t kMaxWork = std::int64_t(1) << 27;
 
 } // namespace
 
@@ -96,7 +97,7 @@ RefPtr<const CLtBitmap> VectorDrawing::Paint(int width, int height,
         }
         painted.push_back(std::move(p));
     }
-    const std::int64_t budget = std::max(kWorkPerPixel * static_cast<std::int64_t>(count), kMinWork);
+    const std::int64_t budget = std::clamp(kWorkPerPixel * static_cast<std::int64_t>(count), kMinWork, kMaxWork);
     std::int64_t work = 0;
     [&] {
         for (const Affine& instance : instances) {
