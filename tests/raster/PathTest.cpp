@@ -137,3 +137,33 @@ TEST(Path, FarAndBrokenCoordinatesStayHarmless)
     EXPECT_GT(sliver.Area(), 0.0);
     EXPECT_LT(sliver.Area(), 3.0);
 }
+
+TEST(Path, ManyCrossingCornersCostTheirLengthsAndBandsMeetWithoutSeams)
+{
+    // A hostile outline: corners scattered at random, every edge crossing many others.
+    Path scribble;
+    unsigned seed = 12345;
+    const auto next = [&seed](int range) {
+        seed = seed * 1103515245u + 12345u;
+        return static_cast<double>((seed >> 8) % (range * 64)) / 64;
+    };
+    constexpr int kCorners = 2000;
+    for (int i = 0; i < kCorners; ++i)
+        scribble.LineTo({next(W), next(H)});
+    scribble.Close();
+    Mask m;
+    const std::size_t work = RenderCoverage(scribble, {}, m.Of(), {0, 0, W, H});
+    // Each edge touches at most a cell per row it spans and per column it passes, plus one per
+    // row; then every pixel is written once. Testing each pixel against each edge would cost
+    // ten times this.
+    EXPECT_LE(work, std::size_t{kCorners} * (2 * H + W) + (W + 2) * H);
+    EXPECT_GT(m.Area(), 0.5 * W * H);
+
+    // A clip so wide that a band is three rows: the same coverage as in one band.
+    constexpr int kWide = 90000;
+    std::vector<std::uint8_t> wide(static_cast<std::size_t>(kWide) * H);
+    RenderCoverage(scribble, {}, {wide.data(), kWide, H, kWide, Output::Mask8}, {0, 0, kWide, H});
+    for (int y = 0; y < H; ++y)
+        for (int x = 0; x < W; ++x)
+            ASSERT_EQ(wide[static_cast<std::size_t>(y) * kWide + x], m.At(x, y)) << x << "," << y;
+}

@@ -89,15 +89,12 @@ std::vector<std::vector<Point>> Path::Flatten(const Affine& toDevice, double tol
 namespace {
 
 // Signed areas accumulated per pixel: a row's running sum of them is the winding-weighted
-// coverage of each pixel. One spare column takes what falls past the right edge.
+// coverage of each pixel. One spare column takes what falls past the right edge. The rows are
+// accumulated a band at a time, so that the cells held stay small (a 4K-wide clip would
+// otherwise take 66 MB of them) and in the cache; each band goes over the edges again.
 class Accumulator {
 public:
-    // The cells are the thread's own, kept from call to call: fresh ones of a large clip's size
-    // cost more in page faults than the coverage itself.
-    Accumulator(int width, int height) : m_width(width), m_height(height), m_cells(Cells())
-    {
-        m_cells.assign(static_cast<std::size_t>(width + 2) * height, 0.0);
-    }
+    Accumulator(int width, int height) : m_width(width), m_height(height) {}
 
     // An edge from a to b in clip coordinates. It is split where it crosses the clip's left or
     // right side; a part left of the clip runs down its left side (it still winds every pixel to
@@ -113,55 +110,76 @@ public:
                 return;
             }
         }
+        if (a.y == b.y || std::max(a.y, b.y) <= 0 || std::min(a.y, b.y) >= m_height)
+            return;
         a.x = std::clamp(a.x, 0.0, w);
         b.x = std::clamp(b.x, 0.0, w);
-        Line(a, b);
+        m_lines.push_back(a.y < b.y ? Line{a, b, 1} : Line{b, a, -1});
     }
 
-    // Each row's coverage, 0..255, into the mask at (x0, y0).
-    void Write(const Target& mask, int x0, int y0) const
+    // Each row's coverage, 0..255, into the mask at (x0, y0). Answers the work done: the cells
+    // the edges touched and the pixels written.
+    std::size_t Write(const Target& mask, int x0, int y0)
     {
-        for (int y = 0; y < m_height; ++y) {
-            auto* row = static_cast<std::uint8_t*>(mask.pixels) + (y0 + y) * mask.stride + x0;
-            const double* cells = &m_cells[static_cast<std::size_t>(y) * (m_width + 2)];
-            double sum = 0;
-            for (int x = 0; x < m_width; ++x) {
-                sum += cells[x];
-                const double cover = std::min(std::abs(sum), 1.0);
-                row[x] = static_cast<std::uint8_t>(cover * 255 + 0.5);
+        const std::size_t stride = static_cast<std::size_t>(m_width) + 2;
+        const int bandRows = static_cast<int>(std::clamp<std::size_t>(kBandCells / stride, 1, m_height));
+        std::vector<double>& cells = Cells();
+        std::size_t work = 0;
+        for (int top = 0; top < m_height; top += bandRows) {
+            const int bottom = std::min(m_height, top + bandRows);
+            cells.assign(stride * static_cast<std::size_t>(bottom - top), 0.0);
+            for (const Line& line : m_lines)
+                if (line.a.y < bottom && line.b.y > top)
+                    work += Rows(line, top, bottom, cells.data());
+            for (int y = top; y < bottom; ++y) {
+                auto* row = static_cast<std::uint8_t*>(mask.pixels) + (y0 + y) * mask.stride + x0;
+                const double* cell = &cells[static_cast<std::size_t>(y - top) * stride];
+                double sum = 0;
+                for (int x = 0; x < m_width; ++x) {
+                    sum += cell[x];
+                    const double cover = std::min(std::abs(sum), 1.0);
+                    row[x] = static_cast<std::uint8_t>(cover * 255 + 0.5);
+                }
             }
+            work += stride * static_cast<std::size_t>(bottom - top);
         }
+        return work;
     }
 
 private:
-    // A line inside 0 <= x <= width: in each row it crosses, the row's share of its height is
-    // spread over the pixels it passes by the area to their right that it closes off.
-    void Line(Point a, Point b)
+    // Top to bottom, with the way it winds.
+    struct Line {
+        Point a, b;
+        double direction;
+    };
+
+    // The rows top..bottom of a line inside 0 <= x <= width, into the band's cells (row top
+    // first): in each row it crosses, the row's share of its height is spread over the pixels
+    // it passes by the area to their right that it closes off. Answers the cells touched.
+    std::size_t Rows(const Line& line, int top, int bottom, double* cells) const
     {
-        if (a.y == b.y)
-            return;
-        const double direction = a.y < b.y ? 1 : -1;
-        if (a.y > b.y)
-            std::swap(a, b);
+        const auto [a, b, direction] = line;
         const double dxdy = (b.x - a.x) / (b.y - a.y);
-        const int first = static_cast<int>(std::max(0.0, std::floor(a.y)));
-        const int last = static_cast<int>(std::min<double>(m_height, std::ceil(b.y)));
+        const int first = static_cast<int>(std::max<double>(top, std::floor(a.y)));
+        const int last = static_cast<int>(std::min<double>(bottom, std::ceil(b.y)));
+        std::size_t touched = 0;
         for (int y = first; y < last; ++y) {
-            const double top = std::max<double>(y, a.y);
-            const double bottom = std::min<double>(y + 1, b.y);
-            const double height = (bottom - top) * direction;
+            const double rowTop = std::max<double>(y, a.y);
+            const double rowBottom = std::min<double>(y + 1, b.y);
             // Interpolation may round a hair outside the ends' columns; the cells end there.
-            const double xt = std::clamp(a.x + (top - a.y) * dxdy, 0.0, static_cast<double>(m_width));
-            const double xb = std::clamp(a.x + (bottom - a.y) * dxdy, 0.0, static_cast<double>(m_width));
-            Span(&m_cells[static_cast<std::size_t>(y) * (m_width + 2)], std::min(xt, xb), std::max(xt, xb), height);
+            const double xt = std::clamp(a.x + (rowTop - a.y) * dxdy, 0.0, static_cast<double>(m_width));
+            const double xb = std::clamp(a.x + (rowBottom - a.y) * dxdy, 0.0, static_cast<double>(m_width));
+            touched += Span(&cells[static_cast<std::size_t>(y - top) * (m_width + 2)], std::min(xt, xb),
+                            std::max(xt, xb), (rowBottom - rowTop) * direction);
         }
+        return touched;
     }
 
     // A piece of edge within one row, from x = left to x = right, of signed height h. Pixel i
     // is covered by h times the mean, over its width, of the share of the row's height for
     // which the edge lies left of that x; the cells hold the differences between neighbours,
-    // and h itself from the first pixel wholly right of the edge on.
-    static void Span(double* cells, double left, double right, double h)
+    // and h itself from the first pixel wholly right of the edge on. Answers the cells touched.
+    static std::size_t Span(double* cells, double left, double right, double h)
     {
         const int i0 = static_cast<int>(std::floor(left));
         const int i1 = std::max(i0 + 1, static_cast<int>(std::ceil(right)));
@@ -180,27 +198,32 @@ private:
             previous = cover;
         }
         cells[i1] += h - previous;
+        return static_cast<std::size_t>(i1 - i0) + 1;
     }
 
+    // The thread's own, kept from call to call: fresh ones cost more in page faults than the
+    // coverage itself.
     static std::vector<double>& Cells()
     {
         thread_local std::vector<double> cells;
         return cells;
     }
 
+    static constexpr std::size_t kBandCells = std::size_t{1} << 18; // 2 MB
+
     int m_width;
     int m_height;
-    std::vector<double>& m_cells;
+    std::vector<Line> m_lines;
 };
 
 } // namespace
 
-void RenderCoverage(const Path& path, const Affine& toDevice, const Target& mask, const Clip& clip)
+std::size_t RenderCoverage(const Path& path, const Affine& toDevice, const Target& mask, const Clip& clip)
 {
     const Clip c{std::max(clip.x0, 0), std::max(clip.y0, 0), std::min(clip.x1, mask.width),
                  std::min(clip.y1, mask.height)};
     if (!mask.pixels || mask.format != Output::Mask8 || c.x1 <= c.x0 || c.y1 <= c.y0)
-        return;
+        return 0;
     Accumulator cells(c.x1 - c.x0, c.y1 - c.y0);
     // Doubles keep sub-pixel precision far beyond any real outline; absurd coordinates are held
     // at 1e15 pixels so that no difference of two of them overflows.
@@ -212,7 +235,7 @@ void RenderCoverage(const Path& path, const Affine& toDevice, const Target& mask
         for (std::size_t i = 0; i < piece.size(); ++i)
             cells.Edge(local(piece[i]), local(piece[(i + 1) % piece.size()]));
     }
-    cells.Write(mask, c.x0, c.y0);
+    return cells.Write(mask, c.x0, c.y0);
 }
 
 } // namespace KestoRaster

@@ -45,7 +45,8 @@ private:
 // each pixel of the clip: the exact area of the pixel that the outline covers by the non-zero
 // rule, so edges are anti-aliased without sampling. Pieces that wind the same way over a pixel
 // add up and clamp at full; pieces winding against each other cancel. Nothing outside the clip
-// is written.
-KESTO_API void RenderCoverage(const Path& path, const Affine& toDevice, const Target& mask, const Clip& clip);
+// is written. Answers the work it did (cells the edges touched and pixels written), which grows
+// with the clip's area and the edges' lengths, never with how often they cross.
+KESTO_API std::size_t RenderCoverage(const Path& path, const Affine& toDevice, const Target& mask, const Clip& clip);
 
 } // namespace KestoRaster
