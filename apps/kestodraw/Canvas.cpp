@@ -47,7 +47,7 @@ constexpr double kMaxZoom = 20;
 
 Canvas::Canvas(Document& document, QUndoStack& undo, QWidget* parent)
     : QWidget(parent), m_document(document), m_host(document, undo, *this), m_layers(this, [this] { update(); }),
-      m_paintingTick(new QTimer(this))
+      m_selection(this, [this] { update(m_shownSelection | SelectionBounds()); }), m_paintingTick(new QTimer(this))
 {
     m_paintingTick->setInterval(100);
     connect(m_paintingTick, &QTimer::timeout, this, qOverload<>(&Canvas::update));
@@ -568,15 +568,17 @@ void Canvas::Refresh()
     update(m_shownSelection | SelectionBounds());
 }
 
-void Canvas::PaintSelection(QPainter& painter, const PageLayers::Scene& scene, const QRect& dirty)
+void Canvas::PrepareSelection(const PageLayers::Scene& scene, std::optional<std::chrono::milliseconds> wait)
 {
-    if (const int selected = Selected(); selected >= 0) {
-        const Shape& shape = m_document.shapes[selected];
-        const KestoGDI::CFill* live = m_host.LiveFill();
-        const bool transparency = EditsTransparency();
-        m_painter.PaintShape(painter, shape, scene.view, dirty, live && !transparency ? *live : *shape.fill,
-                             live && transparency ? live : shape.transparency.get());
-    }
+    const int selected = Selected();
+    if (selected < 0)
+        return;
+    const Shape& shape = m_document.shapes[selected];
+    const KestoGDI::CFill* live = m_host.LiveFill();
+    const bool transparency = EditsTransparency();
+    m_selection.Prepare({&shape, selected, live && !transparency ? live : shape.fill.get(),
+                         live && transparency ? live : shape.transparency.get(), scene.view, scene.deviceSize},
+                        wait);
 }
 
 void Canvas::PaintEarlierLayers(QPainter& painter, const PageLayers::Scene& scene, const QRect& dirty)
@@ -594,10 +596,7 @@ void Canvas::PaintEarlierLayers(QPainter& painter, const PageLayers::Scene& scen
     painter.setWorldTransform(then);
     painter.drawImage(0, 0, m_layers.Below());
     painter.setWorldTransform(now);
-    if (m_layers.Selected() == Selected())
-        PaintSelection(painter, scene, dirty);
-    else if (const Shape* earlier = m_layers.SelectedShape())
-        m_painter.PaintShape(painter, *earlier, scene.view, dirty, *earlier->fill, earlier->transparency.get());
+    m_selection.Paint(painter, m_layers.Selected(), scene.view, dirty);
     if (const QImage* above = m_layers.Above()) {
         painter.setWorldTransform(then);
         painter.drawImage(0, 0, *above);
@@ -628,9 +627,19 @@ void Canvas::PaintProgress(QPainter& painter)
 void Canvas::paintEvent(QPaintEvent* event)
 {
     // A frame's worth of waiting at most, so that a page slow to paint never holds up the window.
-    constexpr std::chrono::milliseconds kFrame{16};
+    // The selection's picture and the page's layers are rendered side by side.
+    using namespace std::chrono;
+    constexpr milliseconds kFrame{16};
+    const auto start = steady_clock::now();
+    const auto wait = [&]() -> std::optional<milliseconds> {
+        if (m_waitForPage)
+            return std::nullopt;
+        return std::max(milliseconds(0), kFrame - duration_cast<milliseconds>(steady_clock::now() - start));
+    };
     const PageLayers::Scene scene = Scene();
-    const bool current = m_layers.Prepare(scene, m_waitForPage ? std::nullopt : std::optional(kFrame));
+    PrepareSelection(scene, milliseconds(0));
+    const bool current = m_layers.Prepare(scene, wait());
+    PrepareSelection(scene, wait());
     QPainter painter(this);
     {
         // The page in device pixels: what does not change from the layers, the selection's fill
@@ -643,7 +652,7 @@ void Canvas::paintEvent(QPaintEvent* event)
         painter.setWorldTransform(QTransform::fromScale(1 / scene.pixelRatio, 1 / scene.pixelRatio));
         if (current) {
             painter.drawImage(dirty.topLeft(), m_layers.Below(), dirty);
-            PaintSelection(painter, scene, dirty);
+            m_selection.Paint(painter, Selected(), scene.view, dirty);
             if (const QImage* above = m_layers.Above(); above && m_layers.AboveBounds().intersects(dirty))
                 painter.drawImage(dirty.topLeft(), *above, dirty);
         } else

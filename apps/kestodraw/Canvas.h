@@ -1,13 +1,15 @@
 #pragma once
 
 #include "Document.h"
-#include "DrawingPainter.h"
 #include "PageLayers.h"
+#include "SelectionLayer.h"
 #include "ToolHost.h"
 
 #include <QWidget>
 
+#include <chrono>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class QMimeData;
@@ -118,8 +120,9 @@ private:
     // The pointer is at the point with no button down: its cursor and the handle it would grab.
     void Hover(QPointF device);
     PageLayers::Scene Scene() const;
-    // The selection's shape with its fills, or the tool's working fill while a gesture lasts.
-    void PaintSelection(QPainter& painter, const PageLayers::Scene& scene, const QRect& dirty);
+    // Has the selection's picture rendered: its shape with its fills, or the tool's working fill
+    // while a gesture lasts. Waits at most wait for it (for ever when nullopt).
+    void PrepareSelection(const PageLayers::Scene& scene, std::optional<std::chrono::milliseconds> wait);
     // While the scene's layers are being built: the ones before, and the shape they left out.
     void PaintEarlierLayers(QPainter& painter, const PageLayers::Scene& scene, const QRect& dirty);
     // How far the page's painting has come, over the canvas's bottom left.
@@ -136,8 +139,8 @@ private:
 
     Document& m_document;
     ToolHost m_host;
-    DrawingPainter m_painter;
     PageLayers m_layers;
+    SelectionLayer m_selection;
     bool m_waitForPage = false;
     QTimer* m_paintingTick; // repaints the progress of a page being painted
     QRect m_shownSelection; // SelectionBounds at the last paint

@@ -22,6 +22,11 @@ struct Shape {
     KestoKernel::RefPtr<const KestoGDI::CFill> transparency; // null: none
 
     QPainterPath Outline() const;
+    // Whether the other shape has the same outline (fills aside).
+    bool SameOutline(const Shape& other) const
+    {
+        return kind == other.kind && box == other.box && points == other.points;
+    }
     // The name that starts every hint line about the shape ("Rectangle: ").
     const wchar_t* Description() const;
     // Moves the shape and its fills by (dx, dy), inside the coordinate range.

@@ -151,13 +151,12 @@ std::optional<PreparedPaint> DrawingPainter::Prepare(const KestoGDI::CFill& fill
     return prepared;
 }
 
-void DrawingPainter::PaintShape(QPainter& painter, const Shape& shape, const QTransform& view, const QRect& deviceClip,
-                                const KestoGDI::CFill& fill, const KestoGDI::CFill* transparency)
+QRect DrawingPainter::Render(const Shape& shape, const QTransform& view, const QRect& deviceClip,
+                             const KestoGDI::CFill& fill, const KestoGDI::CFill* transparency, QImage& into)
 {
-    const QPainterPath outline = view.map(shape.Outline());
-    const QRect area = outline.boundingRect().toAlignedRect().adjusted(-1, -1, 1, 1) & deviceClip;
+    const QRect area = view.map(shape.Outline()).boundingRect().toAlignedRect().adjusted(-1, -1, 1, 1) & deviceClip;
     if (area.isEmpty())
-        return;
+        return {};
     const int w = area.width();
     const int h = area.height();
     m_renderedPixels.fetch_add(static_cast<std::int64_t>(w) * h, std::memory_order_relaxed);
@@ -170,7 +169,7 @@ void DrawingPainter::PaintShape(QPainter& painter, const Shape& shape, const QTr
     // as much in page faults as the rendering itself.
     const auto colours = Scratch(m_colours, w, h);
     if (const std::optional<PreparedPaint> prepared = Prepare(fill, scale, toLayer, Output::Argb32))
-        Render(*prepared, colours, all);
+        KestoRaster::Render(*prepared, colours, all);
     else
         Fill(colours, 0xFFC8C8C8); // a kind the renderer does not paint shows as plain grey
 
@@ -182,21 +181,59 @@ void DrawingPainter::PaintShape(QPainter& painter, const Shape& shape, const QTr
     if (transparency) {
         if (const std::optional<PreparedPaint> mask = Prepare(*transparency, scale, toLayer, Output::Mask8)) {
             m_levels.resize(m_coverage.size());
-            Render(*mask, {m_levels.data(), w, h, w, Output::Mask8}, all);
+            KestoRaster::Render(*mask, {m_levels.data(), w, h, w, Output::Mask8}, all);
             for (std::size_t i = 0; i < m_coverage.size(); ++i)
                 m_coverage[i] = static_cast<std::uint8_t>((m_coverage[i] * m_levels[i] + 127) / 255);
         }
     }
-    const auto shown = Scratch(m_shown, w, h);
+    const auto shown = Scratch(into, w, h);
     Fill(shown, 0);
     CompositeOver(shown, colours, &coverage, all);
+    return area;
+}
 
-    painter.drawImage(area.topLeft(), m_shown, QRect(0, 0, w, h));
+namespace {
+
+// The hairline around a shape, within area (a shape painted in pieces is outlined once).
+void Outline(QPainter& painter, const Shape& shape, const QTransform& view, const QRect& area)
+{
     painter.save();
-    painter.setClipRect(area, Qt::IntersectClip); // a shape painted in pieces is outlined once
+    painter.setClipRect(area, Qt::IntersectClip);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.strokePath(outline, QPen(QColor(70, 70, 70), 1.0));
+    painter.strokePath(view.map(shape.Outline()), QPen(QColor(70, 70, 70), 1.0));
     painter.restore();
+}
+
+} // namespace
+
+void DrawingPainter::PaintShape(QPainter& painter, const Shape& shape, const QTransform& view, const QRect& deviceClip,
+                                const KestoGDI::CFill& fill, const KestoGDI::CFill* transparency)
+{
+    const QRect area = Render(shape, view, deviceClip, fill, transparency, m_shown);
+    if (area.isEmpty())
+        return;
+    painter.drawImage(area.topLeft(), m_shown, QRect(QPoint(0, 0), area.size()));
+    Outline(painter, shape, view, area);
+}
+
+std::pair<QImage, QRect> DrawingPainter::ShapePicture(const Shape& shape, const QTransform& view,
+                                                      const QRect& deviceClip, const KestoGDI::CFill& fill,
+                                                      const KestoGDI::CFill* transparency)
+{
+    // Pictures alternate between two buffers: the one shown before is still held by whoever
+    // shows it, the one before that has been let go and is written again without a copy.
+    QImage& picture = m_pictures[m_nextPicture];
+    m_nextPicture ^= 1;
+    const QRect area = Render(shape, view, deviceClip, fill, transparency, picture);
+    if (area.isEmpty())
+        return {};
+    {
+        QPainter painter(&picture);
+        painter.setClipRect(QRect(QPoint(0, 0), area.size()));
+        painter.translate(-area.topLeft());
+        Outline(painter, shape, view, area);
+    }
+    return {picture, area};
 }
 
 } // namespace KestoDraw

@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <utility>
 #include <vector>
 
 class QPainter;
@@ -43,6 +44,11 @@ public:
     // One shape with the fill and transparency given (a shape's own, or a gesture's working fill).
     void PaintShape(QPainter& painter, const Shape& shape, const QTransform& view, const QRect& deviceClip,
                     const KestoGDI::CFill& fill, const KestoGDI::CFill* transparency);
+    // The shape painted alone as PaintShape paints it, into the top left of a transparent
+    // picture, over the device pixels it covers within deviceClip; answers the picture and where
+    // on the device that part of it goes (empty when it covers none). The picture may be larger.
+    std::pair<QImage, QRect> ShapePicture(const Shape& shape, const QTransform& view, const QRect& deviceClip,
+                                          const KestoGDI::CFill& fill, const KestoGDI::CFill* transparency);
 
 private:
     struct Cached {
@@ -57,6 +63,10 @@ private:
     // renderer does not paint.
     std::optional<KestoRaster::PreparedPaint> Prepare(const KestoGDI::CFill& fill, double pixelsPerUnit,
                                                       const KestoRaster::Affine& toLayer, KestoRaster::Output output);
+    // Renders the shape's fill, times its coverage and transparency, into the top left of into
+    // (grown to hold it); answers the device pixels that holds (empty when it covers none).
+    QRect Render(const Shape& shape, const QTransform& view, const QRect& deviceClip, const KestoGDI::CFill& fill,
+                 const KestoGDI::CFill* transparency, QImage& into);
     // The device pixels that the shape covers wholly with opaque colour (an upright rectangle of
     // them); empty when it has none or its paint may let something through.
     QRect OpaqueInside(const Shape& shape, const QTransform& view);
@@ -64,6 +74,8 @@ private:
     std::vector<Cached> m_cache;
     QImage m_colours;
     QImage m_shown;
+    QImage m_pictures[2];
+    int m_nextPicture = 0;
     std::vector<std::uint8_t> m_coverage;
     std::vector<std::uint8_t> m_levels;
     std::atomic<std::int64_t> m_renderedPixels = 0; // read by other threads than the painting one
