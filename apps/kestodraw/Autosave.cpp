@@ -9,6 +9,7 @@
 #include <QStandardPaths>
 
 #include <cerrno>
+#include <chrono>
 #include <utility>
 
 #include <signal.h>
@@ -51,13 +52,16 @@ Autosave::Autosave(const Document& document, QObject* parent)
     // At the minute's end what came meanwhile is written, and a new minute starts; with nothing
     // new the timer stops, and the next change is written at once.
     connect(&m_timer, &QTimer::timeout, this, [this] {
-        if (m_pending && WriteNow())
+        if (m_pending) {
+            WriteInBackground();
             m_timer.start(kIntervalMs);
+        }
     });
 }
 
 Autosave::~Autosave()
 {
+    Finish();
     if (m_written)
         QFile::remove(m_path);
 }
@@ -66,6 +70,7 @@ void Autosave::Changed(bool saved)
 {
     if (saved) {
         // The user's file holds it all: nothing to recover.
+        Finish(); // so that no write under way brings the copy back
         m_pending = false;
         m_timer.stop();
         if (std::exchange(m_written, false))
@@ -75,13 +80,37 @@ void Autosave::Changed(bool saved)
     m_pending = true;
     // The first change after a quiet minute is written at once; later ones a minute after.
     if (!m_timer.isActive()) {
-        WriteNow();
+        WriteInBackground();
         m_timer.start(kIntervalMs);
     }
 }
 
+void Autosave::Finish()
+{
+    if (m_writing.valid() && !m_writing.get())
+        m_pending = true;
+}
+
+void Autosave::WriteInBackground()
+{
+    using namespace std::chrono_literals;
+    if (m_writing.valid() && m_writing.wait_for(0s) != std::future_status::ready)
+        return;
+    Finish();
+    if (!m_pending)
+        return;
+    QDir().mkpath(Folder());
+    m_pending = false;
+    m_written = true;
+    // A copy of the drawing shares its fills, which never change: the write reads them alone.
+    m_writing = std::async(std::launch::async, [document = m_document, path = m_path] {
+        return DocumentFile::Save(document, path, nullptr);
+    });
+}
+
 bool Autosave::WriteNow()
 {
+    Finish();
     if (!m_pending)
         return true;
     QDir().mkpath(Folder());

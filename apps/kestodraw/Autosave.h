@@ -7,7 +7,7 @@
 #include <QStringList>
 #include <QTimer>
 
-#include <functional>
+#include <future>
 
 namespace KestoDraw {
 
@@ -15,7 +15,8 @@ namespace KestoDraw {
 // loss costs at most a minute of work: the copy is written a minute after the last, or at once
 // for the first change after a quiet minute, never into the user's own file. A clean exit
 // removes it; a copy left by a process that is gone is what a later start offers to recover.
-// One file per running process (autosave/<pid>.kdraw).
+// One file per running process (autosave/<pid>.kdraw). The copies the timer asks for are written
+// on a thread of their own, so that a slow disk never holds up the window.
 class Autosave : public QObject {
     Q_OBJECT
 public:
@@ -28,7 +29,8 @@ public:
 
     // The drawing changed (or came back to the state last saved, when saved is true).
     void Changed(bool saved);
-    // Writes the copy now if there are changes it does not hold; false when writing failed.
+    // Writes the copy now, on this thread, if there are changes it does not hold; false when
+    // writing failed.
     bool WriteNow();
     const QString& FilePath() const { return m_path; }
 
@@ -38,11 +40,18 @@ public:
     static QString Folder();
 
 private:
+    // Starts writing what the copy does not hold yet on a thread of its own, unless the write
+    // before is still under way (then it waits for the next minute).
+    void WriteInBackground();
+    // Waits for the write under way, if any; one that failed leaves its changes pending.
+    void Finish();
+
     const Document& m_document;
     QString m_path;
     QTimer m_timer;
     bool m_pending = false;
-    bool m_written = false; // the copy on disk exists
+    bool m_written = false; // the copy on disk may exist
+    std::future<bool> m_writing;
 };
 
 } // namespace KestoDraw
