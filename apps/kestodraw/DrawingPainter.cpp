@@ -37,26 +37,95 @@ void Fill(const Target& target, std::uint32_t argb)
 
 } // namespace
 
+namespace {
+
+// How much of what lies beneath still shows through the translucent shapes above, on a coarse
+// grid of the device (at most 64 x 64 cells): where less than half a level would show, what
+// lies beneath is not painted. Only cells wholly inside a shape's uniform part count.
+class Veil {
+public:
+    explicit Veil(const QRect& area)
+        : m_area(area), m_cell(std::max(16, (std::max(area.width(), area.height()) + 63) / 64)),
+          m_columns((area.width() + m_cell - 1) / m_cell), m_rows((area.height() + m_cell - 1) / m_cell),
+          m_through(static_cast<std::size_t>(std::max(0, m_columns * m_rows)), 1.0)
+    {
+    }
+
+    // What lies inside shows through by the share through (0: not at all).
+    void Cover(const QRect& inside, double through)
+    {
+        const QRect r = inside.translated(-m_area.topLeft());
+        const int x0 = (r.left() + m_cell - 1) / m_cell, x1 = (r.right() + 1) / m_cell;
+        const int y0 = (r.top() + m_cell - 1) / m_cell, y1 = (r.bottom() + 1) / m_cell;
+        for (int y = std::max(0, y0); y < std::min(m_rows, y1); ++y)
+            for (int x = std::max(0, x0); x < std::min(m_columns, x1); ++x)
+                m_through[static_cast<std::size_t>(y) * m_columns + x] *= through;
+        m_changed = true;
+    }
+
+    // Where less than half a level would show of anything beneath.
+    const QRegion& Veiled()
+    {
+        if (!m_changed)
+            return m_veiled;
+        m_changed = false;
+        constexpr double kUnseen = 0.5 / 255;
+        m_veiled = QRegion();
+        for (int y = 0; y < m_rows; ++y) {
+            const double* row = &m_through[static_cast<std::size_t>(y) * m_columns];
+            for (int x = 0; x < m_columns;) {
+                if (row[x] >= kUnseen) {
+                    ++x;
+                    continue;
+                }
+                const int from = x;
+                while (x < m_columns && row[x] < kUnseen)
+                    ++x;
+                m_veiled += QRect(m_area.left() + from * m_cell, m_area.top() + y * m_cell, (x - from) * m_cell, m_cell);
+            }
+        }
+        m_veiled &= m_area;
+        return m_veiled;
+    }
+
+private:
+    QRect m_area;
+    int m_cell;
+    int m_columns, m_rows;
+    std::vector<double> m_through;
+    QRegion m_veiled;
+    bool m_changed = false;
+};
+
+} // namespace
+
 bool DrawingPainter::Paint(QPainter& painter, const Document& document, const QTransform& view, const QRect& deviceClip,
                            std::size_t first, std::size_t last, const Going& going)
 {
-    // From the top down, what opaque shapes already hide is not painted: a drawing of many
-    // shapes stacked over each other costs what shows, not what lies beneath.
+    // From the top down, what opaque shapes already hide is not painted, nor what enough
+    // translucent ones veil: a drawing of many shapes stacked over each other costs what shows,
+    // not what lies beneath.
     last = std::min(last, document.shapes.size());
     QRegion hidden;
+    Veil veil(deviceClip);
     std::vector<std::pair<std::size_t, QRegion>> shown; // a shape and what of it shows
     double work = 0;                                    // device pixels to paint
     for (std::size_t i = last; i-- > first;) {
         const Shape& shape = document.shapes[i];
         const QRect bounds =
             view.mapRect(shape.Outline().boundingRect()).toAlignedRect().adjusted(-1, -1, 1, 1) & deviceClip;
-        const QRegion visible = QRegion(bounds) - hidden;
+        const QRegion visible = QRegion(bounds) - hidden - veil.Veiled();
         if (visible.isEmpty())
             continue;
         shown.emplace_back(i, visible);
         work += static_cast<double>(visible.boundingRect().width()) * visible.boundingRect().height();
-        if (const QRect inside = OpaqueInside(shape, view); !inside.isEmpty())
+        const auto [inside, through] = UniformInside(shape, view);
+        if (inside.isEmpty())
+            continue;
+        if (through == 0)
             hidden += inside;
+        else
+            veil.Cover(inside, through);
     }
     double done = 0;
     for (auto it = shown.rbegin(); it != shown.rend(); ++it) {
@@ -90,15 +159,19 @@ QImage DrawingPainter::PaintPage(const Document& document, double pixelsPerUnit,
     return image;
 }
 
-QRect DrawingPainter::OpaqueInside(const Shape& shape, const QTransform& view)
+std::pair<QRect, double> DrawingPainter::UniformInside(const Shape& shape, const QTransform& view)
 {
     if (shape.transparency || shape.kind == Shape::Kind::Path)
         return {};
     const std::optional<KestoRaster::Paint>& paint = CachedOf(*shape.fill, view.m11()).paint;
-    const auto opaque = [](const Rgba& c) { return c.a == 255; };
-    if (!paint || paint->transparency || paint->kind == Paint::Kind::Bitmap ||
-        !std::all_of(paint->colours.begin(), paint->colours.end(), opaque) ||
-        !std::all_of(paint->stops.begin(), paint->stops.end(), [&](const RampStop& s) { return opaque(s.colour); }))
+    if (!paint || paint->transparency || paint->kind == Paint::Kind::Bitmap)
+        return {};
+    int least = 255; // the least opacity of any colour the paint shows
+    for (const Rgba& c : paint->colours)
+        least = std::min<int>(least, c.a);
+    for (const RampStop& s : paint->stops)
+        least = std::min<int>(least, s.colour.a);
+    if (least == 0)
         return {};
     // The whole pixels inside the box, or inside the largest upright box an ellipse holds.
     QRectF box = view.mapRect(QRectF(shape.box.left, shape.box.top, shape.box.Width(), shape.box.Height()));
@@ -108,7 +181,9 @@ QRect DrawingPainter::OpaqueInside(const Shape& shape, const QTransform& view)
     }
     const QPoint from(static_cast<int>(std::ceil(box.left())), static_cast<int>(std::ceil(box.top())));
     const QPoint to(static_cast<int>(std::floor(box.right())), static_cast<int>(std::floor(box.bottom())));
-    return to.x() > from.x() && to.y() > from.y() ? QRect(from, to - QPoint(1, 1)) : QRect();
+    if (to.x() <= from.x() || to.y() <= from.y())
+        return {};
+    return {QRect(from, to - QPoint(1, 1)), 1 - least / 255.0};
 }
 
 DrawingPainter::Cached& DrawingPainter::CachedOf(const KestoGDI::CFill& fill, double pixelsPerUnit)

@@ -32,7 +32,8 @@ public:
     using Going = std::function<bool(double done)>;
 
     // view maps document units to device pixels (a scale and a translation); shapes [first,
-    // last) are painted, bottom to top, leaving out those that opaque shapes above them hide.
+    // last) are painted, bottom to top, leaving out those that shapes above them hide (opaque
+    // ones, or translucent ones enough to let less than half a level through).
     // Answers false when going stopped it.
     bool Paint(QPainter& painter, const Document& document, const QTransform& view, const QRect& deviceClip,
                std::size_t first = 0, std::size_t last = SIZE_MAX, const Going& going = {});
@@ -67,9 +68,11 @@ private:
     // (grown to hold it); answers the device pixels that holds (empty when it covers none).
     QRect Render(const Shape& shape, const QTransform& view, const QRect& deviceClip, const KestoGDI::CFill& fill,
                  const KestoGDI::CFill* transparency, QImage& into);
-    // The device pixels that the shape covers wholly with opaque colour (an upright rectangle of
-    // them); empty when it has none or its paint may let something through.
-    QRect OpaqueInside(const Shape& shape, const QTransform& view);
+    // The device pixels that the shape covers wholly with colour of one least opacity (an
+    // upright rectangle of them), and the share of what lies beneath that shows through there
+    // at most (0 where it is opaque); an empty rectangle when it has none or its paint's
+    // opacity varies in ways not known before it is rendered.
+    std::pair<QRect, double> UniformInside(const Shape& shape, const QTransform& view);
 
     std::vector<Cached> m_cache;
     QImage m_colours;

@@ -460,52 +460,66 @@ TEST_F(KestoDrawWindow, TheScriptPlayerRefusesWhatWouldHangOrFloodAndSaysSoBrief
 
 // Shapes hidden under opaque ones above them cost nothing, and the picture is the same as when
 // every shape is painted in turn.
-TEST(DrawingPainter, WhatOpaqueShapesHideIsNotPaintedAndThePictureIsTheSame)
+TEST(DrawingPainter, WhatShapesAboveHideOrVeilIsNotPaintedAndThePictureIsTheSame)
 {
-    KestoDraw::Document document = KestoDraw::DocumentFile::Read([] {
+    const KestoDraw::Document sample = KestoDraw::DocumentFile::Read([] {
         QFile file(kSample);
         EXPECT_TRUE(file.open(QIODevice::ReadOnly));
         return file.readAll();
     }());
-    // Thirty page-sized rectangles with the radial fill, then an ellipse and a rectangle of
-    // the sample's on top (the ellipse's corners show what lies beneath).
-    const std::vector<KestoDraw::Shape> sample = document.shapes;
-    document.shapes.clear();
-    for (int i = 0; i < 30; ++i) {
-        KestoDraw::Shape page = sample[1];
-        page.box = KestoPlatform::CRect(0, 0, document.width, document.height);
-        document.shapes.push_back(page);
-    }
-    document.shapes.push_back(sample[3]);
-    document.shapes.push_back(sample[0]);
-    const QTransform view = QTransform::fromScale(0.1, 0.1);
-    const auto picture = [&](bool allAtOnce, std::int64_t* work) {
-        QImage image(400, 300, QImage::Format_ARGB32_Premultiplied);
-        image.fill(Qt::white);
-        QPainter painter(&image);
-        KestoDraw::DrawingPainter drawing;
-        if (allAtOnce)
-            drawing.Paint(painter, document, view, image.rect());
-        else
-            for (const KestoDraw::Shape& shape : document.shapes)
-                drawing.PaintShape(painter, shape, view, image.rect(), *shape.fill, shape.transparency.get());
-        *work = drawing.RenderedPixels();
-        return image;
+    // A solid colour at half opacity: nine of them let less than half a level through.
+    const QByteArray halfRed = R"({"type": 1, "alpha": 255, "blend": 0, "controls": [], "overprint": false,
+        "transparency": false, "colour": {"alpha": 128, "rgb": "#c81e28", "tint": 0}})";
+    struct Case {
+        const char* name;
+        KestoKernel::RefPtr<const KestoGDI::CFill> fill;
+        int paintedPages; // at most
     };
-    std::int64_t hidden = 0, every = 0;
-    const QImage pieces = picture(true, &hidden), whole = picture(false, &every);
-    // A fill rendered in pieces may differ from one rendered whole by a few levels where a
-    // ramp's steps round the other way; nothing more.
-    int worst = 0;
-    for (int y = 0; y < whole.height(); ++y)
-        for (int x = 0; x < whole.width(); ++x)
-            for (const int shift : {0, 8, 16, 24})
-                worst = std::max(worst, std::abs(static_cast<int>(pieces.pixel(x, y) >> shift & 0xFF) -
-                                                 static_cast<int>(whole.pixel(x, y) >> shift & 0xFF)));
-    EXPECT_LE(worst, 4);
-    const std::int64_t page = 400 * 300;
-    EXPECT_GT(every, 30 * page);
-    EXPECT_LT(hidden, 3 * page); // the top page, the two shapes and thin rims of the rest
+    for (const auto& [name, fill, paintedPages] :
+         {Case{"opaque radial", sample.shapes[1].fill, 3},
+          Case{"half-opaque solid", KestoDraw::FillJson::Read(QJsonDocument::fromJson(halfRed).object()), 12}}) {
+        SCOPED_TRACE(name);
+        // Thirty page-sized rectangles, then an ellipse and a rectangle of the sample's on top
+        // (the ellipse's corners show what lies beneath).
+        KestoDraw::Document document = sample;
+        document.shapes.clear();
+        for (int i = 0; i < 30; ++i) {
+            KestoDraw::Shape page = sample.shapes[1];
+            page.box = KestoPlatform::CRect(0, 0, document.width, document.height);
+            page.fill = fill;
+            document.shapes.push_back(page);
+        }
+        document.shapes.push_back(sample.shapes[3]);
+        document.shapes.push_back(sample.shapes[0]);
+        const QTransform view = QTransform::fromScale(0.1, 0.1);
+        const auto picture = [&](bool allAtOnce, std::int64_t* work) {
+            QImage image(400, 300, QImage::Format_ARGB32_Premultiplied);
+            image.fill(Qt::white);
+            QPainter painter(&image);
+            KestoDraw::DrawingPainter drawing;
+            if (allAtOnce)
+                drawing.Paint(painter, document, view, image.rect());
+            else
+                for (const KestoDraw::Shape& shape : document.shapes)
+                    drawing.PaintShape(painter, shape, view, image.rect(), *shape.fill, shape.transparency.get());
+            *work = drawing.RenderedPixels();
+            return image;
+        };
+        std::int64_t hidden = 0, every = 0;
+        const QImage pieces = picture(true, &hidden), whole = picture(false, &every);
+        // A fill rendered in pieces may differ from one rendered whole by a few levels where a
+        // ramp's steps round the other way; nothing more.
+        int worst = 0;
+        for (int y = 0; y < whole.height(); ++y)
+            for (int x = 0; x < whole.width(); ++x)
+                for (const int shift : {0, 8, 16, 24})
+                    worst = std::max(worst, std::abs(static_cast<int>(pieces.pixel(x, y) >> shift & 0xFF) -
+                                                     static_cast<int>(whole.pixel(x, y) >> shift & 0xFF)));
+        EXPECT_LE(worst, 4);
+        const std::int64_t page = 400 * 300;
+        EXPECT_GT(every, 30 * page);
+        EXPECT_LT(hidden, paintedPages * page); // the top pages, the two shapes and thin rims of the rest
+    }
 }
 
 // The page's layers are painted on a worker: a frame that cannot wait keeps the layers it had
