@@ -1,6 +1,7 @@
 #include "kestotool/filltool/FillTool.h"
 
 #include "kestotool/filltool/FillCommands.h"
+#include "kestotool/filltool/FillToolFactory.h"
 #include "kestotool/filltool/FillToolImages.h"
 #include "kestotool/gdi/CFillLinear.h"
 #include "kestotool/gdi/CFillRadial.h"
@@ -17,12 +18,16 @@
 #include "kestotool/platform/HeadlessBackend.h"
 #include "kestotool/platform/ScreenMetrics.h"
 #include "kestotool/resources/ResourceIds.h"
+#include "kestotool/tool/NullToolSite.h"
 #include "kestotool/tool/ToolIdMap.h"
 #include "kestotool/ui/FillPreview.h"
 #include "support/TestDocument.h"
 #include "support/TestToolSite.h"
 
 #include <gtest/gtest.h>
+
+#include <cmath>
+#include <string>
 
 using namespace KestoTool;
 using KestoPlatform::CXTPControl;
@@ -246,4 +251,67 @@ TEST_F(CommandsTest, HintLinesPutTheSelectionBeforeTheText)
     EXPECT_FALSE(transparencyTool.ComposeHintLine(&untouched, 148, -1));
     EXPECT_EQ(untouched, CString(L"x"));
     EXPECT_EQ(fillTool.GetHintLine(&untouched), 0);
+}
+
+namespace {
+
+// A host written on the null site and helper: only the toolbar's item creation of its own.
+class BareSite : public NullToolSite {
+public:
+    KestoPlatform::CXTPCommandBars bars;
+    FillTool* tool = nullptr;
+    void AddContextItem(int hostCommand) override
+    {
+        bars.CreateControl(
+            hostCommand, true, [this](KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc) { return tool->OnCreateControl(cc); },
+            [this](KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc) { tool->OnAfterCreateControl(cc); });
+    }
+};
+
+} // namespace
+
+TEST_F(CommandsTest, TheNullSiteOffersEveryKindConstrainsAnglesAndReportsWhatItIgnores)
+{
+    std::vector<std::string> reports;
+    KestoKernel::ScopedVerifyHandler handler(
+        [&](const KestoKernel::VerifyReport& r) { reports.push_back(r.file + ":" + std::to_string(r.line)); });
+    BareSite bare;
+    KestoGDI::CFillLinear line;
+    line.SetControls(K2DDblPoint(0, 0), K2DDblPoint(1000, 0));
+    FillTool& tool = *(bare.tool = FillToolFactory::Create(&line, &bare).release());
+    const std::unique_ptr<FillTool> owned(&tool);
+    tool.InitContextButtons(&bare.bars);
+    auto* combo = dynamic_cast<KestoPlatform::CXTPControlComboBox*>(bare.bars.FindControl(Host(FillCmdEditType)));
+    ASSERT_NE(combo, nullptr);
+    EXPECT_EQ(combo->GetCount(), 13); // every kind, none and solid included
+
+    // Shift on the end handle: the line turns onto the nearest 15 degrees, keeping its length.
+    CPoint press(1000, 0), move(1600, 100);
+    tool.OnDragStart(press, 0);
+    tool.OnDragChange(move, DragFlagShift);
+    tool.OnDragEnd(move, DragFlagShift);
+    const auto* edited = dynamic_cast<const KestoGDI::CFillLinear*>(tool.GetFill());
+    ASSERT_NE(edited, nullptr);
+    const K2DDblPoint end = edited->GetEnd();
+    EXPECT_NEAR(std::atan2(end.y, end.x), 0.0, 1e-9) << end.x << "," << end.y; // 3.6 degrees: to 0
+    EXPECT_NEAR(end.x, std::hypot(1600.0, 100.0), 1.0);
+
+    // A kind chosen in the combo reaches a site that ignores it: said once, with the fix.
+    combo->SetCurSel(1);
+    KestoPlatform::NMXTPCONTROL notify;
+    notify.pControl = combo;
+    long result = 0;
+    KestoPlatform::AFX_NOTIFY extra{&result, &notify};
+    for (int i = 0; i < 2; ++i)
+        tool.OnCmdMsg(Host(FillCmdEditType), KestoPlatform::CN_NOTIFY(100), &extra, nullptr);
+    // So is a combo left empty by a helper that offers nothing.
+    for (int type = 0; type < 20; ++type)
+        document.helper.unavailableFillTypes.insert(type);
+    for (int i = 0; i < 2; ++i) {
+        auto other = Tool(KestoGDI::CFillLinear());
+        KestoPlatform::CXTPCommandBars more;
+        site.bars = &more;
+        other->InitContextButtons(&more);
+    }
+    EXPECT_EQ(reports, (std::vector<std::string>{"NullToolSite:1", "TypeCombos:1"}));
 }

@@ -16,6 +16,7 @@
 #include "kestotool/tool/ToolIdMap.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 #include <cstdlib>
 #include <utility>
@@ -34,6 +35,7 @@ namespace {
 constexpr int kLineNoSite = 1070;
 constexpr int kLineDragNotStarted = 1071;
 constexpr int kLineWrongKind = 1072;
+constexpr int kLineNoHelper = 1073;
 
 void Report(int line, const char* hint)
 {
@@ -288,6 +290,17 @@ IToolHelper* FillTool::GetToolHelper() const
     return helper ? helper : &g_nullHelper;
 }
 
+IToolHelper* FillTool::GetPickerHelper() const
+{
+    static std::atomic<bool> reported = false;
+    IToolHelper* helper = GetToolHelper();
+    // A tool without a site was reported as such.
+    if (helper == &g_nullHelper && m_pSite != &g_nullSite && !reported.exchange(true))
+        Report(kLineNoHelper, "the tool asked for a colour picker, but the site has no tool helper (IToolSite::"
+                              "GetDocument, IDocumentEx::GetToolHelper): no colour can be chosen");
+    return helper;
+}
+
 void FillTool::SnapNoTransform(const K2DDblPoint& in, K2DDblPoint& out)
 {
     CPoint snapped;
@@ -472,20 +485,20 @@ bool FillTool::IsNodeColourEnabled(unsigned int node) const
 
 std::unique_ptr<CColour> FillTool::ColourPicker(const CColour* current)
 {
-    return std::unique_ptr<CColour>(GetToolHelper()->ColourPicker(current, nullptr));
+    return std::unique_ptr<CColour>(GetPickerHelper()->ColourPicker(current, nullptr));
 }
 
 bool FillTool::ColourPicker(const CColour* current, std::unique_ptr<CColour>& result)
 {
     CColour* chosen = nullptr;
-    const bool confirmed = GetToolHelper()->ColourPicker(current, chosen, nullptr);
+    const bool confirmed = GetPickerHelper()->ColourPicker(current, chosen, nullptr);
     result.reset(chosen);
     return confirmed;
 }
 
 std::unique_ptr<CColour> FillTool::AskUserForNewColour(const CColour* current, CPoint where, KestoPlatform::CWnd* owner)
 {
-    return std::unique_ptr<CColour>(GetToolHelper()->AskUserForNewColour(current, where, owner));
+    return std::unique_ptr<CColour>(GetPickerHelper()->AskUserForNewColour(current, where, owner));
 }
 
 } // namespace KestoTool

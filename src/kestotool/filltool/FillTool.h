@@ -184,7 +184,10 @@ public:
     void SnapNoTransform(const K2DDblPoint& in, K2DDblPoint& out);
     CString GetCurrentSelectionDescription() const { return m_pSite->GetCurrentSelectionDescription(); }
     IDocumentEx* GetDocument() const { return m_pSite->GetDocument(); }
+    // The host's helper; a null one (offering every kind, choosing no colour) when it has none.
     IToolHelper* GetToolHelper() const;
+    // The same, for a colour picker: reports once that no colour can be chosen without one.
+    IToolHelper* GetPickerHelper() const;
     void UpdateFill(const CFill* fill, const wchar_t* undoName) { m_pSite->UpdateFill(fill, undoName); }
     void UpdateTransparency(const CFill* fill, const wchar_t* undoName, bool flag)
     {

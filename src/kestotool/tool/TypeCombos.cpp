@@ -2,13 +2,20 @@
 
 #include "kestotool/gdi/FillKinds.h"
 #include "kestotool/platform/CXTPControlComboBox.h"
+#include "kestotool/kernel/VerifyReporter.h"
 #include "kestotool/tool/IToolHelper.h"
+
+#include <atomic>
 
 namespace KestoTool {
 
 using namespace KestoGDI;
 
 namespace {
+
+// The line of the empty combo's report; host logs may key on it.
+constexpr int kLineNoKindOffered = 1;
+std::atomic<bool> g_emptyReported = false;
 
 using Available = bool (IToolHelper::*)(CFill*);
 using KindClass = const KestoPlatform::CRuntimeClass* FillKind::*;
@@ -31,6 +38,11 @@ void PopulateTypeCombo(IToolHelper* helper, KestoPlatform::CXTPControl* control,
             combo->SetItemData(index, sample->GetFillType());
         }
     }
+    if (empty && combo->GetCount() == 0 && !g_emptyReported.exchange(true))
+        KestoKernel::VerifyFailed("KestoTool", "TypeCombos", kLineNoKindOffered,
+                                  "the type combo is empty: the host's tool helper offers no kind; answer true from "
+                                  "IToolHelper::IsFillTypeAvailable and IsTransparencyTypeAvailable for the kinds to "
+                                  "offer");
     if (setDropDownCount)
         combo->SetDropDownItemCount(kinds);
 }
