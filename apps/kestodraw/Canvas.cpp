@@ -195,7 +195,6 @@ void Canvas::mousePressEvent(QMouseEvent* event)
     if (tool && (tool->IndexFromPoint(grabbed) != -1 || tool->IsPointOnLine(grabbed, tolerance.cx))) {
         m_host.StartGesture(grabbed, DragFlags(event->modifiers()), false);
         m_press = Press::Tool;
-        m_hoverHandle = -1;
         Refresh();
         return;
     }
@@ -377,8 +376,8 @@ void Canvas::keyReleaseEvent(QKeyEvent* event)
 
 void Canvas::leaveEvent(QEvent*)
 {
-    if (m_hoverHandle != -1) {
-        m_hoverHandle = -1;
+    if (Tool() && Tool()->OnMouseLeave()) {
+        emit HintChanged();
         Refresh();
     }
 }
@@ -427,11 +426,8 @@ Qt::CursorShape Canvas::CursorAt(QPointF device)
 void Canvas::Hover(QPointF device)
 {
     setCursor(CursorAt(device));
-    const int near = m_mode == Mode::Select && !m_spaceHeld ? HandleNear(device) : -1;
-    if (near != m_hoverHandle) {
-        m_hoverHandle = near;
+    if (SetHover(m_mode == Mode::Select && !m_spaceHeld ? HandleNear(device) : -1))
         Refresh();
-    }
 }
 
 std::unique_ptr<KestoGDI::CColour> Canvas::DroppedColour(const QMimeData* mime) const
@@ -462,7 +458,7 @@ void Canvas::dragMoveEvent(QDragMoveEvent* event)
         CPoint p = DropPoint(event->position());
         m_host.PreviewDrop(p, *colour);
         Tool()->SetGhostNode(p, colour.get());
-        m_hoverHandle = HandleNear(event->position());
+        SetHover(HandleNear(event->position()));
         Refresh();
     }
     event->acceptProposedAction();
@@ -470,10 +466,11 @@ void Canvas::dragMoveEvent(QDragMoveEvent* event)
 
 void Canvas::dragLeaveEvent(QDragLeaveEvent*)
 {
-    m_hoverHandle = -1;
     m_host.EndPreview();
-    if (Tool())
+    if (Tool()) {
         Tool()->ClearGhostNode();
+        Tool()->OnMouseLeave();
+    }
     Refresh();
 }
 
@@ -495,7 +492,8 @@ void Canvas::dropEvent(QDropEvent* event)
         return;
     CPoint p = DropPoint(event->position());
     event->acceptProposedAction();
-    m_hoverHandle = -1;
+    if (Tool())
+        Tool()->OnMouseLeave();
     m_host.EndPreview();
     if (KestoTool::FillTool* tool = Tool()) {
         tool->ClearGhostNode();
@@ -530,16 +528,16 @@ void Canvas::DrawOverlay(KestoGDI::IRenderTarget& target) const
 {
     if (!Tool())
         return;
+    // The handle a press would grab (the tool's hot one) is ringed.
     Tool()->Draw(&target, false, Kesto2D::K2DLtGeneral(m_zoom, 0, 0, m_zoom, m_pan.x(), m_pan.y()));
-    Kesto2D::K2DArrayPoint handles;
-    Tool()->GetHandles(&handles);
-    if (m_hoverHandle >= 0 && m_hoverHandle < handles.GetSize() && m_press == Press::None) {
-        // The handle a press would grab, ringed in the tool's colour.
-        const CPoint h = handles.GetAt(m_hoverHandle);
-        const QPointF at = View().map(QPointF(h.x, h.y));
-        target.DrawCircle(CPoint(static_cast<int>(std::lround(at.x())), static_cast<int>(std::lround(at.y()))),
-                          KestoTool::FillTool::s_nHandleSize / 2 + 6, {ToolHost::kToolColour, 255, 2});
-    }
+}
+
+bool Canvas::SetHover(int handle)
+{
+    if (!Tool() || !Tool()->SetHotNode(handle))
+        return false;
+    emit HintChanged();
+    return true;
 }
 
 QRect Canvas::SelectionBounds() const
@@ -560,7 +558,7 @@ void Canvas::Refresh()
 {
     // The handles may have moved under a still pointer (undo, a key): it rings what is under it.
     if (m_press == Press::None && underMouse() && !m_spaceHeld && m_mode == Mode::Select)
-        m_hoverHandle = HandleNear(mapFromGlobal(QCursor::pos()));
+        SetHover(HandleNear(mapFromGlobal(QCursor::pos())));
     if (!m_layers.Shows(Scene())) {
         update();
         return;

@@ -119,6 +119,9 @@ private:
     Qt::CursorShape CursorAt(QPointF device);
     // The pointer is at the point with no button down: its cursor and the handle it would grab.
     void Hover(QPointF device);
+    // Tells the tool which handle a press would grab (-1: none), for its ring and hint line;
+    // answers whether that changed.
+    bool SetHover(int handle);
     PageLayers::Scene Scene() const;
     // Has the selection's picture rendered: its shape with its fills, or the tool's working fill
     // while a gesture lasts. Waits at most wait for it (for ever when nullopt).
@@ -151,7 +154,6 @@ private:
     bool m_fitOnResize = true; // until the user zooms or pans, the page fits the window
 
     bool m_spaceHeld = false; // Space held down: a drag pans
-    int m_hoverHandle = -1;   // the handle a press would grab, ringed
 
     // The press under way.
     Press m_press = Press::None;

@@ -4,6 +4,7 @@
 #include "kestotool/gdi/CFillEllipse.h"
 #include "kestotool/gdi/CFillLinear.h"
 #include "kestotool/gdi/CFillRadial.h"
+#include "kestotool/gdi/CRecordingRenderTarget.h"
 #include "kestotool/gdi/CRGBColour.h"
 #include "kestotool/gdi/CTransparencyEllipse.h"
 #include "kestotool/gdi/CTransparencyRadial.h"
@@ -16,6 +17,7 @@
 #include <functional>
 
 #include <cmath>
+#include <string>
 
 using namespace KestoTool;
 using KestoGDI::CFillEllipse;
@@ -294,6 +296,50 @@ TEST_F(RoundTest, EveryHintIdIsReachedByItsState)
     auto ellipse = Make<FillToolElliptical>(Ellipse({0, 0}, {100, 0}, {0, 50}, {5000}));
     auto ellipseT = Make<FillToolElliptical>(ellipseLevels);
     ExpectHints(site, *ellipse, *ellipseT, true);
+}
+
+TEST_F(RoundTest, TheHintAndTheRingFollowTheHandleUnderThePointer)
+{
+    auto radial = Make<FillToolRadial>(Circle({0, 0}, {1000, 0}, {5000}));
+    radial->SetCurrentNode(0);
+    const auto hint = [&] {
+        CString line;
+        radial->GetHintLine(&line);
+        return line;
+    };
+    const auto over = [](int id) { return CString(L"Rectangle: ") + Module::Get().LoadString(id); };
+    const auto rings = [&] {
+        KestoGDI::CRecordingRenderTarget target;
+        radial->Draw(&target, false, {});
+        int count = 0;
+        for (const std::string& call : target.Log())
+            count += call.rfind("circle", 0) == 0 && call.find("r=10") != std::string::npos;
+        return count;
+    };
+    // Until the host tells it where the pointer is, the hint speaks of the current handle.
+    EXPECT_EQ(hint(), over(143));
+    EXPECT_EQ(rings(), 0);
+    struct Row {
+        CPoint at;
+        bool changed;
+        int hot;
+        int id;
+    };
+    for (const Row& row : {Row{{1000, 0}, true, 2, 145}, Row{{1001, 1}, false, 2, 145}, Row{{500, 0}, true, 1, 144},
+                           Row{{300, 300}, true, -1, 138}}) {
+        EXPECT_EQ(radial->OnMouseHover(row.at), row.changed) << row.at.x;
+        EXPECT_EQ(radial->GetHotNode(), row.hot);
+        EXPECT_EQ(hint(), over(row.id)) << row.at.x;
+        EXPECT_EQ(rings(), row.hot >= 0 ? 1 : 0) << row.at.x;
+    }
+    // A drag speaks of the handle it drags and rings nothing.
+    radial->OnMouseHover({1000, 0});
+    site.inDrag = true;
+    EXPECT_EQ(hint(), over(139));
+    EXPECT_EQ(rings(), 0);
+    site.inDrag = false;
+    EXPECT_TRUE(radial->OnMouseLeave());
+    EXPECT_EQ(hint(), over(143));
 }
 
 TEST_F(RoundTest, LineBoxesOfAnotherKindAreReportedWithTheirLines)

@@ -191,6 +191,32 @@ int FillTool::GetHintLine(CString*) const
 {
     return 0;
 }
+
+bool FillTool::OnMouseHover(const CPoint& point)
+{
+    return SetHotNode(IndexFromPoint(point));
+}
+
+bool FillTool::SetHotNode(int handle)
+{
+    const bool changed = !m_bHovering || handle != m_nHotNode;
+    m_bHovering = true;
+    m_nHotNode = handle;
+    return changed;
+}
+
+bool FillTool::OnMouseLeave()
+{
+    const bool changed = m_bHovering;
+    m_bHovering = false;
+    m_nHotNode = -1;
+    return changed;
+}
+
+int FillTool::GetHintNode() const
+{
+    return m_bHovering && !IsInDrag() ? m_nHotNode : GetCurrentNode();
+}
 bool FillTool::CanCreateNewNode() const
 {
     return false;

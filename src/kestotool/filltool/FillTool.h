@@ -137,7 +137,20 @@ public:
     static bool IsTwoColourFill(const CFill* fill);
     static bool IsBitmapFill(const CFill* fill);
 
+    // The pointer is at point (document units) with no button down: the handle under it, if any,
+    // becomes the hot one, which Draw rings and the hint line speaks of (over no handle, the
+    // hint says what a drag there would do). Answers whether the hot handle changed: the host
+    // repaints and asks for the hint again.
+    bool OnMouseHover(const CPoint& point);
+    // The same for a host that finds the handle under the pointer itself (with a grab reach of
+    // its own); -1 for none.
+    bool SetHotNode(int handle);
+    // The pointer left the canvas: no handle is hot, and the hint speaks of the current one.
+    bool OnMouseLeave();
     int GetHotNode() const { return m_nHotNode; }
+    // The handle the hint line speaks of: during a drag the one dragged, while the pointer
+    // hovers the one under it (-1: none), otherwise the current one.
+    int GetHintNode() const;
     bool HasGhostNode() const { return m_bGhostNode; }
     int GetControlBoxMode() const { return m_nControlBoxMode; }
     void SetControlBoxMode(int mode) { m_nControlBoxMode = mode; }
@@ -274,7 +287,6 @@ protected:
 
     // Puts a fill tool command (its own number) on the context bar through the site.
     void AddContextItem(int libraryCommand);
-    void SetHotNode(int node) { m_nHotNode = node; }
     IToolSite* GetSite() const { return m_pSite; }
     // The tool's own copy, which drags reshape in place (copied first while it is shared); the
     // host reads it back through GetFill when the gesture ends.
@@ -295,6 +307,7 @@ private:
     std::atomic<const CFill*> m_pFill{nullptr};
     CPoint m_ptDragStart;
     int m_nHotNode = -1;
+    bool m_bHovering = false; // the host tells the tool where the pointer is
     bool m_bGhostNode = false;
     int m_nControlBoxMode = 0;
     mutable K2DLtGeneral m_viewTransform;

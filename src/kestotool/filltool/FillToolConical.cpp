@@ -144,15 +144,16 @@ K2DArrayPoint FillToolConical::GetEffectiveBBox(const CFill* fill)
 int FillToolConical::GetHintLine(CString* out) const
 {
     const bool dragging = IsInDrag();
+    const int node = GetHintNode();
     HintIds ids{IDS_HINT_CONICAL_NO_NODE_FILL, IDS_HINT_CONICAL_NO_NODE_TRANSPARENCY};
     if (IsCreate())
         ids = {IDS_HINT_CONICAL_CREATE_FILL, IDS_HINT_CONICAL_CREATE_TRANSPARENCY};
-    else if (GetCurrentNode() == -1)
+    else if (node == -1)
         ids = {IDS_HINT_CONICAL_NO_NODE_FILL, IDS_HINT_CONICAL_NO_NODE_TRANSPARENCY};
-    else if (IsExtendedNode())
+    else if (IsExtendedNode(node))
         ids = dragging ? HintIds{IDS_HINT_CONICAL_CENTRE_DRAGGING_FILL, IDS_HINT_CONICAL_CENTRE_DRAGGING_TRANSPARENCY}
                        : HintIds{IDS_HINT_CONICAL_CENTRE_OVER_FILL, IDS_HINT_CONICAL_CENTRE_OVER_TRANSPARENCY};
-    else if (IsFirstNode())
+    else if (IsFirstNode(node))
         ids = dragging ? HintIds{IDS_HINT_CONICAL_FIRST_DRAGGING_FILL, IDS_HINT_CONICAL_FIRST_DRAGGING_TRANSPARENCY}
                        : HintIds{IDS_HINT_CONICAL_FIRST_OVER_FILL, IDS_HINT_CONICAL_FIRST_OVER_TRANSPARENCY};
     else // the last stop too: it turns the sweep, but its hint speaks of a step

@@ -30,8 +30,8 @@ struct HandleLayer {
     std::optional<RenderPen> pen;
 };
 
-// The look of a handle, the same on both render paths. s is one pixel in target units.
-std::vector<HandleLayer> HandleLayers(bool outlineOnly, bool selected, COLORREF colour, COLORREF toolColour, double s)
+// The face of a handle: its colour inside the tool's ring, with a halo.
+std::vector<HandleLayer> FaceLayers(bool outlineOnly, bool selected, COLORREF colour, COLORREF toolColour, double s)
 {
     const double r0 = s * FillTool::s_nHandleSize * 0.5;
     const RenderPen outline{toolColour, 255, s};
@@ -45,6 +45,17 @@ std::vector<HandleLayer> HandleLayers(bool outlineOnly, bool selected, COLORREF 
     }
     return {{r0 + 2.5 * s, RenderBrush{kHaloColour, kHaloAlpha}, std::nullopt},
             {r0, RenderBrush{colour, 255}, outline}};
+}
+
+// The look of a handle, the same on both render paths. s is one pixel in target units. The
+// hot handle (the one under the pointer) is ringed on top.
+std::vector<HandleLayer> HandleLayers(bool outlineOnly, bool selected, bool hot, COLORREF colour, COLORREF toolColour,
+                                      double s)
+{
+    std::vector<HandleLayer> layers = FaceLayers(outlineOnly, selected, colour, toolColour, s);
+    if (hot && !outlineOnly)
+        layers.push_back({s * FillTool::s_nHandleSize * 0.5 + 6 * s, std::nullopt, RenderPen{toolColour, 255, 2 * s}});
+    return layers;
 }
 
 // The strokes of a control line, the same on both render paths: a white halo, wider while a
@@ -153,8 +164,10 @@ void FillTool::DrawBoxControl(IRenderTarget* target, bool outlineOnly, const CPo
 {
     const CPoint c = m_viewTransform.ApplyTo(point);
     const bool selected = index >= 0 && index == GetCurrentNode();
+    const bool hot = index >= 0 && index == GetHotNode() && !IsInDrag();
     const double s = target->ScalePixels(1);
-    for (const HandleLayer& layer : HandleLayers(outlineOnly, selected, Face(*this, colour), ToolColour(*this), s)) {
+    for (const HandleLayer& layer :
+         HandleLayers(outlineOnly, selected, hot, Face(*this, colour), ToolColour(*this), s)) {
         if (layer.fill)
             target->DrawDisc(c, Radius(layer.radius), *layer.fill, layer.pen);
         else
@@ -172,8 +185,9 @@ void FillTool::DrawBoxControl(CRenderContext* context, const CPoint& point, unsi
 {
     const CPoint c = m_viewTransform.ApplyTo(point);
     const bool selected = index >= 0 && index == GetCurrentNode();
+    const bool hot = index >= 0 && index == GetHotNode() && !IsInDrag();
     const double s = context->ScalePixels(1);
-    for (const HandleLayer& layer : HandleLayers(false, selected, Face(*this, colour), ToolColour(*this), s)) {
+    for (const HandleLayer& layer : HandleLayers(false, selected, hot, Face(*this, colour), ToolColour(*this), s)) {
         CRect square(c, c);
         square.InflateRect(Radius(layer.radius), Radius(layer.radius));
         KestoGDI::CBrushSession brush(*context, layer.fill);

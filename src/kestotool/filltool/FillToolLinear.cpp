@@ -114,13 +114,13 @@ K2DArrayPoint FillToolLinear::GetEffectiveBBox(const CFill* fill)
 int FillToolLinear::GetHintLine(CString* out) const
 {
     const int* ids = kHintNoNode;
-    const int c = GetCurrentNode();
+    const int c = GetHintNode();
     const bool dragging = IsInDrag();
     if (IsCreate())
         ids = kHintCreate;
     else if (c == -1)
         ids = kHintNoNode;
-    else if (IsFirstNode() || IsLastNode())
+    else if (IsFirstNode(c) || IsLastNode(c))
         ids = dragging ? kHintEndDragging : kHintEndOver;
     else
         ids = dragging ? kHintInnerDragging : kHintInnerOver;
