@@ -1,6 +1,6 @@
 #include "kestotool/filltool/FillToolElliptical.h"
 
-#include "kestotool/filltool/RoundToolHints.h"
+#include "kestotool/filltool/RoundToolHints_p.h"
 #include "kestotool/gdi/CFillEllipse.h"
 #include "kestotool/geometry/CoordinateRange.h"
 #include "kestotool/geometry/K2DGeometry.h"

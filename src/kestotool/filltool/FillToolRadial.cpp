@@ -1,6 +1,6 @@
 #include "kestotool/filltool/FillToolRadial.h"
 
-#include "kestotool/filltool/RoundToolHints.h"
+#include "kestotool/filltool/RoundToolHints_p.h"
 #include "kestotool/gdi/CFillRadial.h"
 #include "kestotool/geometry/CoordinateRange.h"
 #include "kestotool/geometry/K2DCurve.h"

@@ -1,4 +1,4 @@
-#include "kestotool/filltool/RoundToolHints.h"
+#include "kestotool/filltool/RoundToolHints_p.h"
 
 #include "kestotool/filltool/FillToolGradient.h"
 #include "kestotool/resources/ResourceIds.h"

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "kestotool/platform/Export.h"
+
 #include "kestotool/geometry/K2DDblPoint.h"
 
 namespace Kesto2D {
@@ -10,7 +12,7 @@ namespace Kesto2D {
 // an invalid line behaves as the single point it was given: closest points and feet of
 // perpendiculars are that point, it meets nothing, and a point is on it when within the
 // tolerance of that point.
-class K2DStraightLine {
+class KESTO_API K2DStraightLine {
 public:
     K2DStraightLine() = default;
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kestotool/platform/CString.h"
+#include "kestotool/platform/Export.h"
 
 namespace KestoPlatform {
 
@@ -24,9 +25,9 @@ private:
 };
 
 // Makes control the live window of the dialog item with that id (once).
-void DDX_Control(CDataExchange* pDX, int id, CWnd& control);
+KESTO_API void DDX_Control(CDataExchange* pDX, int id, CWnd& control);
 // An integer in an item's text; on saving, text that is not a whole number fails the exchange.
-void DDX_Text(CDataExchange* pDX, int id, int& value);
-void DDX_Text(CDataExchange* pDX, int id, CString& value);
+KESTO_API void DDX_Text(CDataExchange* pDX, int id, int& value);
+KESTO_API void DDX_Text(CDataExchange* pDX, int id, CString& value);
 
 } // namespace KestoPlatform

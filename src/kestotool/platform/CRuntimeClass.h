@@ -1,5 +1,7 @@
 #pragma once
 
+#include "kestotool/platform/Export.h"
+
 #include <cstddef>
 
 namespace KestoPlatform {
@@ -9,7 +11,7 @@ class CObject;
 // The run-time record of a class: its name, its base and, for a class that can be created
 // dynamically, a factory. Kind tests in code use dynamic_cast; this record is for creating an
 // object from a class chosen at run time (a type combo, a type number).
-struct CRuntimeClass {
+struct KESTO_API CRuntimeClass {
     const char* m_lpszClassName;
     std::size_t m_nObjectSize;
     const CRuntimeClass* m_pBaseClass;

@@ -12,6 +12,6 @@ KESTO_API void CompositeOver(const Target& destination, const Target& fill, cons
 
 // A premultiplied 0xAARRGGBB word with straight alpha instead (as PNG files and bitmaps keep
 // colours): each channel c becomes c x 255 / alpha rounded, at most 255; clear stays 0.
-std::uint32_t Straight(std::uint32_t premultiplied);
+KESTO_API std::uint32_t Straight(std::uint32_t premultiplied);
 
 } // namespace KestoRaster

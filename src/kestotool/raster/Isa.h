@@ -1,5 +1,7 @@
 #pragma once
 
+#include "kestotool/platform/Export.h"
+
 namespace KestoRaster {
 
 // The instruction sets the renderer has kernels for; Avx512 means F, BW, DQ, VL and VBMI (the
@@ -8,10 +10,10 @@ namespace KestoRaster {
 // path the machine has).
 enum class Isa { Scalar, Avx2, Avx512 };
 
-bool IsaAvailable(Isa isa);
-Isa ActiveIsa();
+KESTO_API bool IsaAvailable(Isa isa);
+KESTO_API Isa ActiveIsa();
 // Makes isa the active one when the processor supports it; answers the one that is active.
-Isa SetActiveIsa(Isa isa);
-const char* IsaName(Isa isa);
+KESTO_API Isa SetActiveIsa(Isa isa);
+KESTO_API const char* IsaName(Isa isa);
 
 } // namespace KestoRaster

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "kestotool/platform/Export.h"
+
 #include <cstdint>
 #include <memory>
 #include <vector>
@@ -87,7 +89,7 @@ struct Paint {
 };
 
 // paint -> device: x' = a x + c y + e, y' = b x + d y + f.
-struct Affine {
+struct KESTO_API Affine {
     double a = 1, b = 0, c = 0, d = 1, e = 0, f = 0;
 
     Point Apply(Point p) const { return {a * p.x + c * p.y + e, b * p.x + d * p.y + f}; }

@@ -71,6 +71,6 @@ KESTO_API void Render(const PreparedPaint& paint, const Target& target, const Cl
 
 // The same by the definition, in double precision and without tables: the reference that
 // Render is tested against.
-void RenderReference(const Paint& paint, const Affine& paintToDevice, const Target& target, const Clip& clip);
+KESTO_API void RenderReference(const Paint& paint, const Affine& paintToDevice, const Target& target, const Clip& clip);
 
 } // namespace KestoRaster

@@ -1,4 +1,4 @@
-#include "kestotool/resources/DialogTemplates.h"
+#include "kestotool/resources/DialogTemplates_p.h"
 
 #include "kestotool/platform/WindowTypes.h"
 #include "kestotool/resources/ResourceIds.h"

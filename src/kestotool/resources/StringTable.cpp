@@ -1,4 +1,4 @@
-#include "kestotool/resources/StringTable.h"
+#include "kestotool/resources/StringTable_p.h"
 
 #include <algorithm>
 #include <iterator>

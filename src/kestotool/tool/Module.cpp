@@ -1,8 +1,8 @@
 #include "kestotool/tool/Module.h"
 
 #include "kestotool/kernel/VerifyReporter.h"
-#include "kestotool/resources/DialogTemplates.h"
-#include "kestotool/resources/StringTable.h"
+#include "kestotool/resources/DialogTemplates_p.h"
+#include "kestotool/resources/StringTable_p.h"
 #include "kestotool/tool/ModuleFileCheck.h"
 
 #include <dlfcn.h>
