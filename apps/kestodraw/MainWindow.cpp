@@ -8,7 +8,6 @@
 #include <kestotool/filltool/FillCommands.h>
 #include <kestotool/gdi/FillKinds.h>
 #include <kestotool/platform/CCmdTarget.h>
-#include <kestotool/tool/ToolIdMap.h>
 
 #include <QActionGroup>
 #include <QApplication>
@@ -178,9 +177,7 @@ void MainWindow::BuildToolBars()
     m_contextBar = std::make_unique<KestoToolQt::QtCommandBar>(*m_context);
     m_contextBar->SetFocusHome(m_canvas); // the keys go back to the handles after a box's edit
     m_contextBar->SetItemIcons([this](int id, std::intptr_t type) {
-        // The tools' command ids exist once the first tool has asked for them: looked up here.
-        const int typeBox =
-            KestoTool::ToolIdMap::GetInstance().MapIDToApp(KestoTool::FillToolKey, KestoTool::FillCmdEditType);
+        const int typeBox = KestoTool::FillCommands::HostId(KestoTool::FillCmdEditType);
         return id == typeBox
                    ? KindIcon(static_cast<int>(type), m_canvas->EditsTransparency(), kKindIconSide, devicePixelRatioF())
                    : QIcon();
@@ -384,8 +381,8 @@ void MainWindow::EditFill(bool transparency)
     KestoTool::FillTool* tool = m_canvas->Tool();
     if (!tool)
         return;
-    const int command = KestoTool::ToolIdMap::GetInstance().MapIDToApp(
-        KestoTool::FillToolKey, transparency ? KestoTool::FillCmdTransEdit : KestoTool::FillCmdEdit);
+    const int command =
+        KestoTool::FillCommands::HostId(transparency ? KestoTool::FillCmdTransEdit : KestoTool::FillCmdEdit);
     if (command != -1)
         tool->OnCmdMsg(command, KestoPlatform::CN_COMMAND, nullptr, nullptr);
 }

@@ -6,7 +6,6 @@
 
 #include <kestotool/filltool/FillCommands.h>
 #include <kestotool/platform/CXTPControlComboBox.h>
-#include <kestotool/tool/ToolIdMap.h>
 
 #include <QAction>
 #include <QApplication>
@@ -230,8 +229,7 @@ bool ScriptPlayer::ChooseKind(int type)
     int index = -1;
     if (canvas.Tool()) {
         // The tool's own type combo: the item whose data is the type.
-        const int id =
-            KestoTool::ToolIdMap::GetInstance().MapIDToApp(KestoTool::FillToolKey, KestoTool::FillCmdEditType);
+        const int id = KestoTool::FillCommands::HostId(KestoTool::FillCmdEditType);
         m_window.ContextBar().UpdateControls();
         const auto* model =
             dynamic_cast<const KestoPlatform::CXTPControlComboBox*>(canvas.ContextBars()->FindControl(id));

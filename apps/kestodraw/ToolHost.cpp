@@ -17,7 +17,6 @@
 #include <kestotool/platform/CXTPControlPopupColor.h>
 #include <kestotool/qt/QtConvert.h>
 #include <kestotool/tool/SiteGeometry.h>
-#include <kestotool/tool/ToolIdMap.h>
 
 #include <QColorDialog>
 #include <QImage>
@@ -85,7 +84,7 @@ void RegisterOwnImages(KestoPlatform::CXTPImageManager& images)
         const char* name;
     } own[] = {{KestoTool::FillCmdLockRatio, "Lock Ratio"}, {KestoTool::FillCmdResetHandles, "Reset Handles"}};
     for (const auto& [command, name] : own) {
-        const int id = KestoTool::ToolIdMap::GetInstance().MapIDToApp(KestoTool::FillToolKey, command);
+        const int id = KestoTool::FillCommands::HostId(command);
         for (const int dpi : {96, 120, 144, 192}) {
             const QImage png = QImage(QStringLiteral(":/icons/%1/%2.png").arg(dpi).arg(QLatin1String(name)))
                                    .convertToFormat(QImage::Format_ARGB32);

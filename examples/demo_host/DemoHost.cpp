@@ -33,7 +33,7 @@ void DemoHost::UpdateFill(const KestoGDI::CFill* committed, const wchar_t* undoN
 {
     if (gesture.Absorb(undoName)) {
         // Part of a gesture: shown now, recorded once at its end.
-        fill = committed->Clone();
+        fill = KestoKernel::RefPtr<const KestoGDI::CFill>(committed);
         if (tool && tool->GetFill() != committed)
             tool->SetFill(committed);
         return;
@@ -43,7 +43,7 @@ void DemoHost::UpdateFill(const KestoGDI::CFill* committed, const wchar_t* undoN
 
 void DemoHost::Record(const KestoGDI::CFill* committed, const wchar_t* undoName)
 {
-    fill = committed->Clone();
+    fill = KestoKernel::RefPtr<const KestoGDI::CFill>(committed); // kept by reference: fills never change
     ++commits;
     lastUndoName = undoName ? undoName : L"Edit Fill";
     if (tool && tool->GetFill() != committed)

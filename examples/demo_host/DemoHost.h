@@ -16,7 +16,7 @@ public:
     explicit DemoHost(const KestoPlatform::CRect& object) : m_object(object) {}
 
     KestoTool::FillTool* tool = nullptr;
-    KestoKernel::RefPtr<KestoGDI::CFill> fill; // the document's fill of the rectangle
+    KestoKernel::RefPtr<const KestoGDI::CFill> fill; // the document's fill of the rectangle
     KestoTool::ToolGesture gesture;
     bool create = false; // the next Drag draws a new fill
     int commits = 0;     // undo steps recorded

@@ -14,7 +14,7 @@
 class RectangleSite : public KestoTool::NullToolSite {
 public:
     KestoPlatform::CRect object{0, 0, 1000, 500};
-    KestoKernel::RefPtr<KestoGDI::CFill> fill;
+    KestoKernel::RefPtr<const KestoGDI::CFill> fill;
     KestoTool::ToolGesture gesture;
     KestoTool::FillTool* tool = nullptr;
     KestoPlatform::CXTPCommandBars bars;
@@ -48,6 +48,6 @@ public:
     void UpdateFill(const KestoGDI::CFill* committed, const wchar_t* undoName) override
     {
         gesture.Absorb(undoName);
-        fill = committed->Clone();
+        fill = KestoKernel::RefPtr<const KestoGDI::CFill>(committed); // kept by reference: fills never change
     }
 };

@@ -48,7 +48,7 @@ int main()
     const auto step = site.gesture.Release({1000, 500}, 0);
     if (!step)
         return Fail("the drag changed nothing");
-    site.fill = step->after->Clone();
+    site.fill = step->after;
 
     const auto& after = dynamic_cast<const KestoGDI::CFillLinear&>(*site.fill);
     std::printf("end handle: (%d, %d) -> (%g, %g)\n", end.x, end.y, after.GetEnd().x, after.GetEnd().y);

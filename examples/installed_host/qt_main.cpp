@@ -28,9 +28,8 @@ int main(int argc, char** argv)
                 site.bars.GetCount());
 
     // A click on "Rotate Left" turns the fill a quarter turn: the tool commits a new fill.
-    const int base =
-        KestoTool::ToolIdMap::GetInstance().AllocateRange(KestoTool::FillToolKey, KestoTool::FillCommands::Count());
-    auto* rotate = qobject_cast<QToolButton*>(shown.WidgetOf(base + KestoTool::FillCmdRotateLeft));
+    const int rotateLeft = KestoTool::FillCommands::HostId(KestoTool::FillCmdRotateLeft);
+    auto* rotate = qobject_cast<QToolButton*>(shown.WidgetOf(rotateLeft));
     const KestoGDI::CFill* before = site.fill.get();
     if (rotate)
         rotate->click();

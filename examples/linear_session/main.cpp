@@ -125,7 +125,7 @@ int main(int argc, char** argv)
     ReportStep("select the orange stop and press Delete", host, tool, before);
 
     before = host.commits;
-    const int rotateRight = ToolIdMap::GetInstance().MapIDToApp(FillToolKey, FillCmdRotateRight);
+    const int rotateRight = FillCommands::HostId(FillCmdRotateRight);
     tool.OnCmdMsg(rotateRight, KestoPlatform::CN_COMMAND, nullptr, nullptr);
     ReportStep("Rotate Right from the context toolbar", host, tool, before);
 

@@ -315,3 +315,21 @@ TEST_F(CommandsTest, TheNullSiteOffersEveryKindConstrainsAnglesAndReportsWhatItI
     }
     EXPECT_EQ(reports, (std::vector<std::string>{"NullToolSite:1", "TypeCombos:1"}));
 }
+
+TEST_F(CommandsTest, ACommandsHostIdIsFoundDirectlyAndBack)
+{
+    struct Row {
+        int number;
+        int hostId;
+    };
+    for (const Row& row : {Row{FillCmdContext, 30000}, Row{FillCmdRotateLeft, 30006},
+                           Row{FillCmdSpaceMode, 30000 + FillCommands::Count() - 1}, Row{-1, -1},
+                           Row{FillCommands::Count(), -1}}) {
+        EXPECT_EQ(FillCommands::HostId(row.number), row.hostId) << row.number;
+        if (row.hostId != -1) {
+            EXPECT_EQ(FillCommands::CommandOf(row.hostId), row.number);
+        }
+    }
+    EXPECT_EQ(FillCommands::CommandOf(29999), -1);
+    EXPECT_EQ(FillCommands::CommandOf(30000 + FillCommands::Count()), -1);
+}

@@ -1,5 +1,7 @@
 #include "kestotool/filltool/FillCommands.h"
 
+#include "kestotool/tool/ToolIdMap.h"
+
 namespace KestoTool {
 
 const wchar_t* const FillToolKey = L"KestoTool::FillTool";
@@ -63,6 +65,20 @@ std::span<const FillCommandRow> FillCommands::All()
 const FillCommandRow* FillCommands::Find(int number)
 {
     return number >= 0 && number < Count() ? &kRows[number] : nullptr;
+}
+
+int FillCommands::HostId(int number)
+{
+    if (!Find(number))
+        return -1;
+    const int base = ToolIdMap::GetInstance().AllocateRange(FillToolKey, Count());
+    return base < 0 ? -1 : base + number;
+}
+
+int FillCommands::CommandOf(int hostId)
+{
+    const int base = HostId(0);
+    return base >= 0 && hostId >= base && hostId - base < Count() ? hostId - base : -1;
 }
 
 } // namespace KestoTool

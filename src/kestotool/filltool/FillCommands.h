@@ -71,6 +71,12 @@ public:
     static int Count() { return static_cast<int>(All().size()); }
     // The row of a command number; null outside 0..Count() - 1.
     static const FillCommandRow* Find(int number);
+    // The host's command ID of a command, which its toolbar control and its routing carry (the
+    // fill tools' IDs are allocated on first use); -1 before KestoTool::Init or for a number
+    // outside 0..Count() - 1.
+    static int HostId(int number);
+    // The command a host command ID stands for; -1 for an ID outside the fill tools' range.
+    static int CommandOf(int hostId);
 };
 
 } // namespace KestoTool

@@ -39,7 +39,8 @@ public:
     virtual CString GetCurrentSelectionDescription() = 0;
     virtual void AddContextItem(int hostCommand) = 0;
     virtual IDocumentEx* GetDocument() = 0;
-    // Applies the fill to the selection as one undoable step; the fill stays the caller's.
+    // Applies the fill to the selection as one undoable step. The fill is reference counted and
+    // never changes: keep it by taking a reference (RefPtr<const CFill>(fill)), not a clone.
     // A null name lets the host name the step.
     virtual void UpdateFill(const KestoGDI::CFill* fill, const wchar_t* undoName) = 0;
     virtual void UpdateTransparency(const KestoGDI::CFill* fill, const wchar_t* undoName, bool flag) = 0;
