@@ -6,9 +6,8 @@
 #include <kestotool/dialogs/EditorEntryPoints.h>
 #include <kestotool/filltool/FillCommands.h>
 #include <kestotool/filltool/FillToolFactory.h>
+#include <kestotool/filltool/ToolSession.h>
 #include <kestotool/gdi/CFillLinear.h>
-#include <kestotool/gdi/CFillSolid.h>
-#include <kestotool/gdi/CFillWithStops.h>
 #include <kestotool/gdi/CRGBColour.h>
 #include <kestotool/gdi/CTransparency.h>
 #include <kestotool/gdi/CTransparencyLinear.h>
@@ -45,33 +44,14 @@ RefPtr<const CFill>& FieldOf(Shape& shape, bool transparency)
     return transparency ? shape.transparency : shape.fill;
 }
 
-// A new fill with stops takes its colours from the fill it replaces: the old stops where it had
-// some, else a plain colour as the start and white as the end (as a drag on a plain shape does).
-void CarryColours(const CFill* old, CFill& fresh)
-{
-    auto* stops = dynamic_cast<KestoGDI::CFillWithStops*>(&fresh);
-    if (!stops || !old || old->IsTransparency() != fresh.IsTransparency())
-        return;
-    if (const auto* oldStops = dynamic_cast<const KestoGDI::CFillWithStops*>(old)) {
-        stops->SetColourIntPairs(oldStops->GetColourIntPairs());
-    } else if (const auto* solid = dynamic_cast<const KestoGDI::CFillSolid*>(old)) {
-        KestoGDI::ColourIntPairs startToWhite;
-        startToWhite.Add(solid->GetColour(), 0);
-        startToWhite.Add(KestoGDI::CRGBColour(KestoPlatform::RGB(255, 255, 255)), 10000);
-        stops->SetColourIntPairs(startToWhite);
-    }
-}
-
 // The fill a drag on a shape whose fill has no tool starts from: a linear fill from the shape's
 // colour to white, or a linear transparency from opaque to clear.
 RefPtr<CFill> StarterFill(const CFill* current, bool transparency, const KestoPlatform::CRect& box)
 {
-    RefPtr<CFill> fill =
-        transparency ? RefPtr<CFill>(new KestoGDI::CTransparencyLinear) : RefPtr<CFill>(new KestoGDI::CFillLinear);
-    fill->SetDefaultControls(box);
-    if (dynamic_cast<const KestoGDI::CFillSolid*>(current))
-        CarryColours(current, *fill);
-    return fill;
+    return KestoTool::ToolSession::Convert(current,
+                                           transparency ? KestoGDI::CTransparencyLinear::GetThisClass()
+                                                        : KestoGDI::CFillLinear::GetThisClass(),
+                                           box);
 }
 
 // The library's command table gives Lock Ratio and Reset Handles the same picture as Max Fit;
@@ -428,11 +408,14 @@ void ToolHost::UpdateTransparency(const CFill* fill, const wchar_t* undoName, bo
 void ToolHost::SetFillType(const KestoPlatform::CRuntimeClass* fillClass)
 {
     Shape* shape = SelectedShape();
-    RefPtr<CFill> fresh = CFill::CreateFromClass(fillClass);
-    if (!shape || !fresh)
+    if (!shape || !fillClass)
         return;
-    fresh->SetDefaultControls(shape->box);
-    CarryColours(FieldOf(*shape, fresh->IsTransparency()).get(), *fresh);
+    // Which of the shape's fills it replaces: a fill's kind says whether it is a transparency.
+    const RefPtr<CFill> kind = CFill::CreateFromClass(fillClass);
+    if (!kind)
+        return;
+    const RefPtr<CFill> fresh =
+        KestoTool::ToolSession::Convert(FieldOf(*shape, kind->IsTransparency()).get(), fillClass, shape->box);
     // A step of its own, also when it comes during a drag.
     RecordCommit(fresh.get(), fresh->IsTransparency() ? L"Transparency Type" : L"Fill Type", fresh->IsTransparency());
 }

@@ -1,0 +1,130 @@
+#include "kestotool/filltool/ToolSession.h"
+
+#include "kestotool/filltool/FillToolFactory.h"
+#include "kestotool/gdi/CFillSolid.h"
+#include "kestotool/gdi/CFillWithStops.h"
+#include "kestotool/gdi/CRGBColour.h"
+
+#include <utility>
+
+namespace KestoTool {
+
+ToolSession::ToolSession(IToolSite& site) : m_site(site), m_bars(std::make_unique<KestoPlatform::CXTPCommandBars>())
+{
+}
+
+ToolSession::~ToolSession()
+{
+    m_gesture.Cancel();
+    m_tool.reset();
+}
+
+template <class F>
+auto ToolSession::Within(F&& f)
+{
+    struct Depth {
+        ToolSession& session;
+        explicit Depth(ToolSession& s) : session(s) { ++session.m_depth; }
+        ~Depth()
+        {
+            if (--session.m_depth == 0 && session.m_rebuild)
+                session.Rebuild();
+        }
+    } depth(*this);
+    return f();
+}
+
+void ToolSession::Follow(const CFill* fill)
+{
+    const CFill* held = m_tool ? m_tool->GetFill() : nullptr;
+    m_fill = RefPtr<const CFill>(fill);
+    if (fill && held && !m_rebuild && fill->GetRuntimeClass() == held->GetRuntimeClass()) {
+        if (held != fill)
+            m_tool->SetFill(fill);
+        return;
+    }
+    if (!m_tool && !fill && !m_rebuild)
+        return;
+    m_rebuild = true;
+    if (m_depth == 0)
+        Rebuild();
+}
+
+void ToolSession::Rebuild()
+{
+    m_rebuild = false;
+    if (m_aboutToChange)
+        m_aboutToChange();
+    m_gesture.Cancel();
+    m_tool.reset();
+    // One set of bars for the session's life: the tools register their images with it once.
+    m_bars->RemoveAll();
+    if (m_fill)
+        m_tool = FillToolFactory::Create(m_fill.get(), &m_site);
+    if (m_tool)
+        m_tool->InitContextButtons(m_bars.get());
+    if (m_changed)
+        m_changed();
+}
+
+bool ToolSession::Press(CPoint at, unsigned flags, bool create)
+{
+    if (!m_tool)
+        return false;
+    Within([&] { m_gesture.Press(*m_tool, at, flags, create); });
+    return true;
+}
+
+void ToolSession::Move(CPoint at, unsigned flags)
+{
+    Within([&] { m_gesture.Move(at, flags); });
+}
+
+std::optional<ToolGesture::Step> ToolSession::Release(CPoint at, unsigned flags)
+{
+    return Within([&] { return m_gesture.Release(at, flags); });
+}
+
+bool ToolSession::OnCmdMsg(int id, int code, void* extra, KestoPlatform::AFX_CMDHANDLERINFO* info)
+{
+    if (!m_tool)
+        return false;
+    return Within([&] { return m_tool->OnCmdMsg(id, code, extra, info); });
+}
+
+void ToolSession::ChangeKind(const KestoPlatform::CRuntimeClass* kind)
+{
+    const RefPtr<CFill> fresh = Convert(m_fill.get(), kind, m_site.GetObjectBBox());
+    if (!fresh)
+        return;
+    Within([&] {
+        // A step of its own, also when it comes during a drag.
+        m_gesture.Cancel();
+        if (fresh->IsTransparency())
+            m_site.UpdateTransparency(fresh.get(), L"Transparency Type", false);
+        else
+            m_site.UpdateFill(fresh.get(), L"Fill Type");
+    });
+}
+
+RefPtr<CFill> ToolSession::Convert(const CFill* current, const KestoPlatform::CRuntimeClass* kind, const CRect& box)
+{
+    RefPtr<CFill> fresh = CFill::CreateFromClass(kind);
+    if (!fresh)
+        return {};
+    fresh->SetDefaultControls(box);
+    auto* stops = dynamic_cast<KestoGDI::CFillWithStops*>(fresh.get());
+    if (!stops || !current || current->IsTransparency() != fresh->IsTransparency())
+        return fresh;
+    if (const auto* oldStops = dynamic_cast<const KestoGDI::CFillWithStops*>(current)) {
+        stops->SetColourIntPairs(oldStops->GetColourIntPairs());
+    } else if (const auto* solid = dynamic_cast<const KestoGDI::CFillSolid*>(current)) {
+        KestoGDI::ColourIntPairs startToWhite;
+        startToWhite.Add(solid->GetColour(), 0);
+        startToWhite.Add(KestoGDI::CRGBColour(KestoPlatform::RGB(255, 255, 255)), 10000);
+        stops->SetColourIntPairs(startToWhite);
+    }
+    return fresh;
+}
+
+} // namespace KestoTool
