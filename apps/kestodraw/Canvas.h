@@ -49,7 +49,9 @@ public:
 
     // The running tool; null without a selection or for a kind without a tool.
     KestoTool::FillTool* Tool() const { return m_host.Tool(); }
-    KestoPlatform::CXTPCommandBars* ContextBars() const { return m_host.ContextBars(); }
+    KestoPlatform::CXTPCommandBars* ContextBars() { return m_host.ContextBars(); }
+    // The tool's session, which the context toolbar's commands go through.
+    KestoTool::ToolSession& Session() { return m_host.Session(); }
 
     // Document pixels per unit on screen, and where the page's origin lies on the widget.
     double Zoom() const { return m_zoom; }

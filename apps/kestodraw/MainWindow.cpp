@@ -218,8 +218,8 @@ void MainWindow::BuildToolBars()
 void MainWindow::ShowContextBar()
 {
     m_contextBar->Clear();
-    if (KestoTool::FillTool* tool = m_canvas->Tool())
-        m_contextBar->Show(*m_canvas->ContextBars(), *tool);
+    if (m_canvas->Tool())
+        m_contextBar->Show(*m_canvas->ContextBars(), m_canvas->Session());
     UpdateKindBox();
     UpdateHint();
 }
@@ -378,13 +378,10 @@ void MainWindow::NewDrawing()
 void MainWindow::EditFill(bool transparency)
 {
     m_canvas->SetEditTransparency(transparency);
-    KestoTool::FillTool* tool = m_canvas->Tool();
-    if (!tool)
-        return;
     const int command =
         KestoTool::FillCommands::HostId(transparency ? KestoTool::FillCmdTransEdit : KestoTool::FillCmdEdit);
-    if (command != -1)
-        tool->OnCmdMsg(command, KestoPlatform::CN_COMMAND, nullptr, nullptr);
+    if (m_canvas->Tool() && command != -1)
+        m_canvas->Session().OnCmdMsg(command, KestoPlatform::CN_COMMAND, nullptr, nullptr);
 }
 
 void MainWindow::ShowPreferences()

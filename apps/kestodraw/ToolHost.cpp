@@ -84,10 +84,25 @@ void RegisterOwnImages(KestoPlatform::CXTPImageManager& images)
 } // namespace
 
 ToolHost::ToolHost(Document& document, QUndoStack& undo, QWidget& view)
-    : m_document(document), m_undo(undo), m_view(view), m_bars(std::make_unique<KestoPlatform::CXTPCommandBars>())
+    : m_document(document), m_undo(undo), m_view(view), m_session(*this)
 {
+    // A new tool is made from the event loop, never inside one of the tool's own calls.
+    m_session.SetPost([this](std::function<void()> rebuild) {
+        QMetaObject::invokeMethod(this, std::move(rebuild), Qt::QueuedConnection);
+    });
+    m_session.SetToolAboutToChange([this] {
+        emit ToolAboutToChange();
+        m_live = nullptr;
+    });
+    m_session.SetToolChanged([this] {
+        if (Tool() && !std::exchange(m_ownImages, true))
+            RegisterOwnImages(*m_session.Bars().GetImageManager());
+        emit ToolChanged();
+        emit HintChanged();
+        emit Changed();
+    });
     // A copy: the tool goes on reshaping its own fill, and the painter keeps paints by fill.
-    m_gesture.SetShowNow([this](const CFill& working) {
+    m_session.Gesture().SetShowNow([this](const CFill& working) {
         m_live = working.Clone();
         emit Changed();
     });
@@ -101,7 +116,6 @@ ToolHost::ToolHost(Document& document, QUndoStack& undo, QWidget& view)
 ToolHost::~ToolHost()
 {
     KestoTool::SetEditorShowNow(nullptr);
-    m_tool.reset();
 }
 
 void ToolHost::SetEditTransparency(bool transparency)
@@ -109,7 +123,7 @@ void ToolHost::SetEditTransparency(bool transparency)
     if (m_editTransparency == transparency)
         return;
     m_editTransparency = transparency;
-    RebuildTool();
+    StartTool();
 }
 
 void ToolHost::Select(int index)
@@ -119,7 +133,7 @@ void ToolHost::Select(int index)
     if (index == m_selected)
         return;
     m_selected = index;
-    RebuildTool();
+    StartTool();
     emit SelectionChanged();
 }
 
@@ -146,7 +160,7 @@ void ToolHost::SetPreferences(int grid, int angleStep)
 void ToolHost::DocumentReplaced()
 {
     m_selected = -1;
-    RebuildTool();
+    StartTool();
     emit SelectionChanged();
 }
 
@@ -181,7 +195,7 @@ void ToolHost::DeleteSelected()
     m_document.shapes.erase(m_document.shapes.begin() + m_selected);
     m_selected = -1;
     PushStep(tr("Delete Shape"), std::move(before), selectedBefore);
-    RebuildTool();
+    StartTool();
     emit SelectionChanged();
 }
 
@@ -203,52 +217,19 @@ void ToolHost::SetKind(int fillType)
 
 void ToolHost::FlushPendingRebuild()
 {
-    if (m_rebuildPending)
-        RebuildTool();
+    m_session.Flush();
 }
 
-void ToolHost::RebuildTool()
+void ToolHost::StartTool()
 {
-    m_rebuildPending = false;
-    emit ToolAboutToChange();
-    m_gesture.Cancel();
-    m_live = nullptr;
-    m_tool.reset();
-    // One set of bars for the host's life: the tools register their images with it once.
-    m_bars->RemoveAll();
-    if (const RefPtr<const CFill> fill = EditedFill())
-        m_tool = KestoTool::FillToolFactory::Create(fill.get(), this);
-    if (m_tool) {
-        m_tool->InitContextButtons(m_bars.get());
-        if (!std::exchange(m_ownImages, true))
-            RegisterOwnImages(*m_bars->GetImageManager());
-    }
-    emit ToolChanged();
-    emit HintChanged();
-    emit Changed();
-}
-
-void ToolHost::ScheduleRebuild()
-{
-    if (m_rebuildPending)
-        return;
-    m_rebuildPending = true;
-    QMetaObject::invokeMethod(this, &ToolHost::FlushPendingRebuild, Qt::QueuedConnection);
+    m_session.Start(EditedFill().get());
+    m_session.Flush();
 }
 
 void ToolHost::SyncTool()
 {
-    const RefPtr<const CFill> fill = EditedFill();
-    const CFill* held = m_tool ? m_tool->GetFill() : nullptr;
-    if (fill && held && fill->GetRuntimeClass() == held->GetRuntimeClass()) {
-        if (held != fill.get())
-            m_tool->SetFill(fill.get());
-        emit HintChanged();
-        return;
-    }
-    // Another kind (or none): the tool goes, but never inside one of its own calls.
-    if (m_tool || (fill && KestoTool::FillToolFactory::Create(fill.get(), this)))
-        ScheduleRebuild();
+    m_session.Follow(EditedFill().get());
+    emit HintChanged();
 }
 
 QString ToolHost::DefaultStepName() const
@@ -265,7 +246,7 @@ void ToolHost::Commit(const CFill* fill, const wchar_t* undoName, bool transpare
         m_live = fill->Clone();
         return;
     }
-    if (m_gesture.Absorb(undoName)) {
+    if (m_session.Gesture().Absorb(undoName)) {
         // A commit while the mouse moves shows at once; the gesture's end makes the step.
         FieldOf(*shape, transparency) = RefPtr<const CFill>(fill);
         SyncTool();
@@ -292,25 +273,25 @@ void ToolHost::RecordCommit(const CFill* fill, const wchar_t* undoName, bool tra
 bool ToolHost::StartGesture(CPoint at, unsigned flags, bool create)
 {
     std::vector<Shape> before = m_document.shapes;
-    if (!m_tool) {
+    if (!Tool()) {
         Shape* shape = SelectedShape();
         if (!shape || !create)
             return false;
         FieldOf(*shape, m_editTransparency) = StarterFill(EditedFill().get(), m_editTransparency, shape->box);
-        RebuildTool();
-        if (!m_tool) {
+        StartTool();
+        if (!Tool()) {
             m_document.shapes = std::move(before);
             return false;
         }
     }
     m_before = std::move(before);
-    m_gesture.Press(*m_tool, at, flags, create);
+    m_session.Press(at, flags, create);
     return true;
 }
 
 void ToolHost::EndGesture(CPoint at, unsigned flags)
 {
-    const std::optional<KestoTool::ToolGesture::Step> step = m_gesture.Release(at, flags);
+    const std::optional<KestoTool::ToolGesture::Step> step = m_session.Release(at, flags);
     m_live = nullptr;
     Shape* shape = SelectedShape();
     if (!shape || !step) {
@@ -328,32 +309,32 @@ void ToolHost::EndGesture(CPoint at, unsigned flags)
 
 void ToolHost::Nudge(int dx, int dy)
 {
-    if (!m_tool)
+    if (!Tool())
         return;
     Kesto2D::K2DArrayPoint handles;
-    m_tool->GetHandles(&handles);
+    Tool()->GetHandles(&handles);
     if (handles.GetSize() == 0)
         return;
-    const int node = std::clamp(m_tool->GetCurrentNode(), 0, handles.GetSize() - 1);
+    const int node = std::clamp(Tool()->GetCurrentNode(), 0, handles.GetSize() - 1);
     const CPoint from = handles.GetAt(node);
     CPoint to = Kesto2D::OffsetPoint(from, dx, dy);
     StartGesture(from, 0, false);
-    m_gesture.Move(to, 0);
+    m_session.Move(to, 0);
     EndGesture(to, 0);
-    m_tool->SetCurrentNode(node);
+    Tool()->SetCurrentNode(node);
 }
 
 void ToolHost::CycleHandle(int step)
 {
-    if (!m_tool)
+    if (!Tool())
         return;
     Kesto2D::K2DArrayPoint handles;
-    m_tool->GetHandles(&handles);
+    Tool()->GetHandles(&handles);
     const int count = handles.GetSize();
     if (count == 0)
         return;
-    const int current = std::max(m_tool->GetCurrentNode(), step > 0 ? -1 : 0);
-    m_tool->SetCurrentNode(((current + step) % count + count) % count);
+    const int current = std::max(Tool()->GetCurrentNode(), step > 0 ? -1 : 0);
+    Tool()->SetCurrentNode(((current + step) % count + count) % count);
     emit HintChanged();
     emit Changed();
 }
@@ -389,10 +370,10 @@ KestoPlatform::CString ToolHost::GetCurrentSelectionDescription()
 
 void ToolHost::AddContextItem(int hostCommand)
 {
-    m_bars->CreateControl(
+    m_session.Bars().CreateControl(
         hostCommand, true,
-        [this](KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc) { return m_tool->OnCreateControl(cc); },
-        [this](KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc) { m_tool->OnAfterCreateControl(cc); });
+        [this](KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc) { return Tool()->OnCreateControl(cc); },
+        [this](KestoPlatform::XTP_COMMANDBARS_CREATECONTROL* cc) { Tool()->OnAfterCreateControl(cc); });
 }
 
 void ToolHost::UpdateFill(const CFill* fill, const wchar_t* undoName)
@@ -427,17 +408,17 @@ void ToolHost::SetTransparencyType(const KestoPlatform::CRuntimeClass* transpare
 
 bool ToolHost::PreviewDrop(CPoint at, const KestoGDI::CColour& colour)
 {
-    if (!m_tool || m_gesture.InDrag())
+    if (!Tool() || m_session.Gesture().InDrag())
         return false;
     const RefPtr<const CFill> shown = m_live;
     m_live = nullptr;
     // The tool's own fill is left as it was (a commit hands out a copy); its current node is put
     // back too, as the drop that is only shown may have moved it.
-    const int current = m_tool->GetCurrentNode();
+    const int current = Tool()->GetCurrentNode();
     m_previewing = true;
-    const bool dropped = m_tool->OnFillCellDrop(at, &colour);
+    const bool dropped = Tool()->OnFillCellDrop(at, &colour);
     m_previewing = false;
-    m_tool->SetCurrentNode(current);
+    Tool()->SetCurrentNode(current);
     if (!dropped)
         m_live = nullptr;
     if (m_live != shown)
@@ -447,7 +428,7 @@ bool ToolHost::PreviewDrop(CPoint at, const KestoGDI::CColour& colour)
 
 void ToolHost::EndPreview()
 {
-    if (!m_live || m_gesture.InDrag())
+    if (!m_live || m_session.Gesture().InDrag())
         return;
     m_live = nullptr;
     emit Changed();

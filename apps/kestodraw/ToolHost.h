@@ -4,6 +4,7 @@
 
 #include <kestotool/filltool/FillTool.h>
 #include <kestotool/filltool/ToolGesture.h>
+#include <kestotool/filltool/ToolSession.h>
 #include <kestotool/platform/CXTPCommandBars.h>
 #include <kestotool/tool/IDocumentEx.h>
 #include <kestotool/tool/IToolHelper.h>
@@ -45,11 +46,13 @@ public:
     KestoKernel::RefPtr<const KestoGDI::CFill> EditedFill() const;
 
     // The running tool; null without a selection or for a kind without a tool.
-    KestoTool::FillTool* Tool() const { return m_tool.get(); }
+    KestoTool::FillTool* Tool() const { return m_session.Tool(); }
+    // The tool's session: the toolbar's commands go through it.
+    KestoTool::ToolSession& Session() { return m_session; }
     // While a gesture lasts, the selection's fill (or transparency) as the tool shapes it, to be
     // painted in place of the document's; null otherwise.
     const KestoGDI::CFill* LiveFill() const { return m_live.get(); }
-    KestoPlatform::CXTPCommandBars* ContextBars() const { return m_bars.get(); }
+    KestoPlatform::CXTPCommandBars* ContextBars() { return &m_session.Bars(); }
 
     // Document units per screen pixel come from the view's zoom (document pixels per unit).
     void SetZoom(double pixelsPerUnit) { m_zoom = pixelsPerUnit; }
@@ -81,7 +84,7 @@ public:
     // fill. A press for a shape whose fill has no tool first gives it a linear one to shape
     // (the step goes back to the fill it had).
     bool StartGesture(KestoPlatform::CPoint at, unsigned flags, bool create);
-    void MoveGesture(KestoPlatform::CPoint at, unsigned flags) { m_gesture.Move(at, flags); }
+    void MoveGesture(KestoPlatform::CPoint at, unsigned flags) { m_session.Move(at, flags); }
     void EndGesture(KestoPlatform::CPoint at, unsigned flags);
     // Shows what a colour dropped at the point would make of the fill (LiveFill), committing
     // nothing; false (and nothing shown) where a drop would change nothing.
@@ -100,8 +103,8 @@ public:
     void ClientToPaper(KestoPlatform::SIZE* size) override;
     KestoPlatform::CRect GetObjectBBox() override;
     KestoPlatform::CRect GetTransformedObjectBBox() override { return GetObjectBBox(); }
-    bool IsCreate() override { return m_gesture.IsCreate(); }
-    bool IsInDrag() override { return m_gesture.InDrag(); }
+    bool IsCreate() override { return m_session.Gesture().IsCreate(); }
+    bool IsInDrag() override { return m_session.Gesture().InDrag(); }
     void ConstrainAngle(KestoPlatform::CPoint origin, KestoPlatform::CPoint& point, bool flag) override;
     void ConstrainAnglePolar(KestoPlatform::CPoint origin, KestoPlatform::CPoint& point) override
     {
@@ -145,8 +148,8 @@ signals:
     void Changed();
 
 private:
-    void RebuildTool();
-    void ScheduleRebuild();
+    // The tool made anew for the selection's fill (or transparency), now.
+    void StartTool();
     void Commit(const KestoGDI::CFill* fill, const wchar_t* undoName, bool transparency);
     void RecordCommit(const KestoGDI::CFill* fill, const wchar_t* undoName, bool transparency);
     QString DefaultStepName() const;
@@ -156,15 +159,12 @@ private:
     QWidget& m_view;
     bool m_editTransparency = false;
     int m_selected = -1;
-    std::unique_ptr<KestoPlatform::CXTPCommandBars> m_bars;
-    std::unique_ptr<KestoTool::FillTool> m_tool;
-    bool m_rebuildPending = false;
     bool m_ownImages = false; // kestodraw's own command pictures are in the bars' images
     double m_zoom = 1;
+    KestoTool::ToolSession m_session; // after the fields its callbacks and the tools read
     int m_grid = 0;
     int m_angleStep = 1500;
 
-    KestoTool::ToolGesture m_gesture;
     std::vector<Shape> m_before; // the shapes at the gesture's press
     KestoKernel::RefPtr<const KestoGDI::CFill> m_live;
     bool m_previewing = false; // a commit now only shows (a colour dragged over the fill)

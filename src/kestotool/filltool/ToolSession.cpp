@@ -27,26 +27,50 @@ auto ToolSession::Within(F&& f)
         explicit Depth(ToolSession& s) : session(s) { ++session.m_depth; }
         ~Depth()
         {
-            if (--session.m_depth == 0 && session.m_rebuild)
-                session.Rebuild();
+            --session.m_depth;
+            if (!session.m_post)
+                session.Flush();
         }
     } depth(*this);
     return f();
 }
 
+void ToolSession::Start(const CFill* fill)
+{
+    m_fill = RefPtr<const CFill>(fill);
+    RequestRebuild();
+}
+
 void ToolSession::Follow(const CFill* fill)
 {
-    const CFill* held = m_tool ? m_tool->GetFill() : nullptr;
-    m_fill = RefPtr<const CFill>(fill);
-    if (fill && held && !m_rebuild && fill->GetRuntimeClass() == held->GetRuntimeClass()) {
-        if (held != fill)
-            m_tool->SetFill(fill);
+    const RefPtr<const CFill> previous = std::exchange(m_fill, RefPtr<const CFill>(fill));
+    const bool sameKind = fill && previous && fill->GetRuntimeClass() == previous->GetRuntimeClass();
+    if (m_rebuild || !sameKind) {
+        if (m_tool || fill || m_rebuild)
+            RequestRebuild();
         return;
     }
-    if (!m_tool && !fill && !m_rebuild)
-        return;
+    if (m_tool && m_tool->GetFill() != fill)
+        m_tool->SetFill(fill);
+}
+
+void ToolSession::RequestRebuild()
+{
     m_rebuild = true;
-    if (m_depth == 0)
+    if (!m_post) {
+        Flush();
+        return;
+    }
+    if (!std::exchange(m_posted, true))
+        m_post([this] {
+            m_posted = false;
+            Flush();
+        });
+}
+
+void ToolSession::Flush()
+{
+    if (m_rebuild && m_depth == 0)
         Rebuild();
 }
 

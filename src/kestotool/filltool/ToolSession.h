@@ -38,8 +38,19 @@ public:
     void SetToolAboutToChange(std::function<void()> aboutToChange) { m_aboutToChange = std::move(aboutToChange); }
     void SetToolChanged(std::function<void()> changed) { m_changed = std::move(changed); }
 
-    // The fill or transparency the selection holds now (null: none, no tool).
+    // A host with an event loop hands the session a way to post work to it: a new tool is then
+    // made from there, so that no call path (a key, a drop, a command the host sends the tool
+    // itself) can destroy a tool inside its own call. Flush makes it at once.
+    void SetPost(std::function<void(std::function<void()>)> post) { m_post = std::move(post); }
+
+    // A new selection (or the other of its fill and transparency): the tool is made anew for
+    // fill (null: none, no tool), whatever its kind.
+    void Start(const CFill* fill);
+    // The fill or transparency the selection holds now, after an edit or an undo: the tool goes
+    // on with it, or is made anew for another kind.
     void Follow(const CFill* fill);
+    // Makes now the new tool asked for, unless one of the tool's calls is under way.
+    void Flush();
     // The running tool; null for no fill or a kind without a tool.
     FillTool* Tool() const { return m_tool.get(); }
     KestoPlatform::CXTPCommandBars& Bars() { return *m_bars; }
@@ -67,6 +78,9 @@ private:
     // Runs f as one of the tool's own calls: a new tool asked for meanwhile is made after it.
     template <class F>
     auto Within(F&& f);
+    // The tool is to be made anew for m_fill: now, once the tool's call under way has returned,
+    // or from the host's event loop.
+    void RequestRebuild();
     void Rebuild();
 
     IToolSite& m_site;
@@ -76,6 +90,8 @@ private:
     RefPtr<const CFill> m_fill; // what the tool edits, or is to edit once rebuilt
     bool m_rebuild = false;     // the tool is to be made anew for m_fill
     int m_depth = 0;            // calls of the tool under way
+    bool m_posted = false;      // a rebuild waits in the host's event loop
+    std::function<void(std::function<void()>)> m_post;
     std::function<void()> m_aboutToChange;
     std::function<void()> m_changed;
 };
