@@ -1,7 +1,7 @@
 # Installs the build into a fresh prefix and builds the example host against it out of tree, as
 # a host engineer would: once with find_package(KestoTool), once with pkg-config and the
 # compiler alone; each program then runs from the install.
-#   cmake -DBUILD_DIR=... -DEXAMPLE_DIR=... -DWORK_DIR=... -DCXX=... -DCXX_FLAGS=... [-DWITH_QT=ON] -P ConsumeInstall.cmake
+#   cmake -DBUILD_DIR=... -DEXAMPLE_DIR=... -DQT_CANVAS_DIR=... -DWORK_DIR=... -DCXX=... -DCXX_FLAGS=... [-DWITH_QT=ON] -P ConsumeInstall.cmake
 cmake_minimum_required(VERSION 3.25)
 
 function(run)
@@ -25,6 +25,11 @@ run(${WORK_DIR}/cmake-build/InstalledHost)
 if(WITH_QT)
   set(ENV{QT_QPA_PLATFORM} offscreen)
   run(${WORK_DIR}/cmake-build/InstalledQtHost)
+  # The first Qt host of the guide, with its test of a hand on its canvas.
+  run(${CMAKE_COMMAND} -S ${QT_CANVAS_DIR} -B ${WORK_DIR}/qt-canvas-build -G Ninja -DCMAKE_BUILD_TYPE=Debug
+      -DCMAKE_CXX_COMPILER=${CXX} "-DCMAKE_CXX_FLAGS=${CXX_FLAGS}" -DCMAKE_PREFIX_PATH=${prefix})
+  run(${CMAKE_COMMAND} --build ${WORK_DIR}/qt-canvas-build)
+  run(${WORK_DIR}/qt-canvas-build/QtCanvasTest)
 endif()
 
 file(GLOB_RECURSE pc_file ${prefix}/kestotool.pc)

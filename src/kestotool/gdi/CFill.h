@@ -22,9 +22,9 @@ namespace KestoGDI {
 // Transform work on that list for every kind alike, and keep every point inside the coordinate
 // range (Kesto2D::CoordinateLimit), saturating what falls outside.
 //
-// Rendering arrives with the renderer as Draw(CLtBitmap&, const K2DLtGeneral& placement): the
-// fill paints itself into a bitmap for any affine placement and the host clips the result to
-// the object's outline.
+// Rendering: KestoGDI::FillPaint turns a fill into the renderer's paint (FillPaint::From), which
+// KestoRaster renders for any affine placement; the host clips the result to the object's
+// outline (FillPaint::PaintOver does it all for a preview).
 class KESTO_API CFill : public KestoPlatform::CObject, public KestoKernel::CRefCount {
     KESTO_DECLARE_DYNAMIC(CFill)
 public:
