@@ -50,9 +50,9 @@ void ExpandingFillPreviewDlg::SetEditedFill(const KestoGDI::CFill* fill)
     m_fill = fill ? fill->Clone() : nullptr;
     if (const auto* stops = dynamic_cast<const KestoGDI::CFillWithStops*>(m_fill.get()))
         m_stops = stops->GetColourIntPairs();
-    if (std::unique_ptr<FillTool> tool = FillToolFactory::CreateWrapped(m_fill.get(), this)) {
-        m_gesture.Cancel();
-        m_tool = std::move(tool);
+    if (FillToolFactory::HasTool(m_fill.get())) {
+        m_session.Start(m_fill.get());
+        m_session.Flush();
     }
     m_preview.SetFill(m_fill.get());
     OnEditedFillChanged();
@@ -177,7 +177,7 @@ void ExpandingFillPreviewDlg::ShowNumber(KestoPlatform::CEdit& edit, double valu
 
 const KestoGDI::CFill* ExpandingFillPreviewDlg::GetCurrentFill() const
 {
-    return m_rule == CommitRule::ToolOnly && m_tool ? m_tool->GetFill() : m_fill.get();
+    return m_rule == CommitRule::ToolOnly && GetTool() ? GetTool()->GetFill() : m_fill.get();
 }
 
 void ExpandingFillPreviewDlg::OnOK()
@@ -206,9 +206,9 @@ void ExpandingFillPreviewDlg::UpdateTransparency(const KestoGDI::CFill* fill, co
 
 void ExpandingFillPreviewDlg::Commit(const KestoGDI::CFill* fill)
 {
-    if (!fill || !m_tool)
+    if (!fill || !GetTool())
         return;
-    m_tool->SetFill(fill);
+    m_session.Follow(fill);
     if (m_rule == CommitRule::ToolOnly) {
         m_preview.SetFill(fill);
         OnEditedFillChanged();
@@ -227,19 +227,18 @@ void ExpandingFillPreviewDlg::Commit(const KestoGDI::CFill* fill)
 
 void ExpandingFillPreviewDlg::PreviewPress(CPoint point, unsigned flags)
 {
-    if (m_tool)
-        m_gesture.Press(*m_tool, point, flags);
+    m_session.Press(point, flags, false);
 }
 
 void ExpandingFillPreviewDlg::PreviewMove(CPoint point, unsigned flags)
 {
-    m_gesture.Move(point, flags);
+    m_session.Move(point, flags);
 }
 
 void ExpandingFillPreviewDlg::PreviewRelease(CPoint point, unsigned flags)
 {
     // A geometry drag reshapes the tool's copy and commits nothing: its end is the commit.
-    if (const std::optional<ToolGesture::Step> step = m_gesture.Release(point, flags))
+    if (const std::optional<ToolGesture::Step> step = m_session.Release(point, flags))
         Commit(step->after.get());
 }
 
@@ -252,8 +251,8 @@ void ExpandingFillPreviewDlg::OnControlDrag(KestoUI::FillControl&, CPoint point,
 {
     PreviewMove(point, DragFlagsOf(flags));
     // The tool reshapes its own copy while the drag lasts: show that.
-    if (m_gesture.InDrag())
-        m_preview.SetFill(m_tool->GetFill());
+    if (IsInDrag())
+        m_preview.SetFill(GetTool()->GetFill());
 }
 
 void ExpandingFillPreviewDlg::OnControlRelease(KestoUI::FillControl&, CPoint point, unsigned flags)
@@ -264,8 +263,8 @@ void ExpandingFillPreviewDlg::OnControlRelease(KestoUI::FillControl&, CPoint poi
 void ExpandingFillPreviewDlg::DrawOverlay(const KestoUI::FillControl&, KestoGDI::IRenderTarget& target,
                                           const Kesto2D::K2DLtGeneral& view) const
 {
-    if (m_tool)
-        m_tool->Draw(&target, false, view);
+    if (FillTool* tool = GetTool())
+        tool->Draw(&target, false, view);
 }
 
 } // namespace KestoTool

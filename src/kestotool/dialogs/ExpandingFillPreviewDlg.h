@@ -1,7 +1,8 @@
 #pragma once
 
 #include "kestotool/filltool/FillTool.h"
-#include "kestotool/filltool/ToolGesture.h"
+#include "kestotool/filltool/FillToolFactory.h"
+#include "kestotool/filltool/ToolSession.h"
 #include "kestotool/gdi/CFill.h"
 #include "kestotool/gdi/ColourIntPairs.h"
 #include "kestotool/platform/CButton.h"
@@ -49,7 +50,7 @@ public:
     // there was (or none).
     void SetEditedFill(const KestoGDI::CFill* fill);
     // The tool running in the preview; null until a fill of a kind with a tool is set.
-    FillTool* GetTool() const { return m_tool.get(); }
+    FillTool* GetTool() const { return m_session.Tool(); }
     KestoUI::FillControl& GetPreview() { return m_preview; }
     const KestoUI::FillControl& GetPreview() const { return m_preview; }
     KestoPlatform::CComboBox& GetZoomCombo() { return m_zoomCombo; }
@@ -71,7 +72,7 @@ public:
     CRect GetObjectBBox() override { return m_objectRect; }
     CRect GetTransformedObjectBBox() override { return m_objectRect; }
     bool IsCreate() override { return false; }
-    bool IsInDrag() override { return m_gesture.InDrag(); }
+    bool IsInDrag() override { return m_session.Gesture().InDrag(); }
     void ConstrainAngle(CPoint, CPoint&, bool) override {}
     void ConstrainAnglePolar(CPoint, CPoint&) override {}
     void Snap(const CPoint&, CPoint&) override {}
@@ -138,7 +139,6 @@ private:
     KestoGDI::ColourIntPairs m_stops;
     CRect m_objectRect;
     bool m_helperSetting = true;
-    ToolGesture m_gesture;
     bool m_expanded = true;
     int m_expandedWidth = 0;
     KestoUI::FillControl m_preview;
@@ -146,7 +146,8 @@ private:
     KestoPlatform::CButton m_zoomIn;
     KestoPlatform::CButton m_zoomOut;
     KestoPlatform::CButton m_expand;
-    std::unique_ptr<FillTool> m_tool;
+    // The preview's tool, held as the editors hold tools, with no toolbar.
+    ToolSession m_session{*this, &FillToolFactory::CreateWrapped, ToolSession::Toolbar::None};
 };
 
 } // namespace KestoTool

@@ -1,5 +1,7 @@
 #include "kestotool/filltool/FillToolFactory.h"
 
+#include "kestotool/tool/NullToolSite.h"
+
 #include "kestotool/filltool/FillToolBitmap.h"
 #include "kestotool/filltool/FillToolConical.h"
 #include "kestotool/filltool/FillToolElliptical.h"
@@ -86,6 +88,12 @@ std::unique_ptr<FillTool> FillToolFactory::Create(const CFill* fill, IToolSite* 
 std::unique_ptr<FillTool> FillToolFactory::CreateWrapped(const CFill* fill, IToolSite* site)
 {
     return Choose(fill, site, true);
+}
+
+bool FillToolFactory::HasTool(const CFill* fill)
+{
+    static NullToolSite probe; // the tool made to find out talks to no one
+    return Choose(fill, &probe, false) != nullptr;
 }
 
 } // namespace KestoTool

@@ -20,6 +20,8 @@ public:
     static std::unique_ptr<FillTool> Create(const CFill* fill, IToolSite* site);
     // The same tool as FillToolWrapper<Tool>, as the editor dialogs hold them.
     static std::unique_ptr<FillTool> CreateWrapped(const CFill* fill, IToolSite* site);
+    // Whether the fill's kind has a tool (false for no fill).
+    static bool HasTool(const CFill* fill);
 };
 
 } // namespace KestoTool

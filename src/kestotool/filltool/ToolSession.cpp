@@ -1,6 +1,5 @@
 #include "kestotool/filltool/ToolSession.h"
 
-#include "kestotool/filltool/FillToolFactory.h"
 #include "kestotool/gdi/CFillSolid.h"
 #include "kestotool/gdi/CFillWithStops.h"
 #include "kestotool/gdi/CRGBColour.h"
@@ -9,7 +8,8 @@
 
 namespace KestoTool {
 
-ToolSession::ToolSession(IToolSite& site) : m_site(site), m_bars(std::make_unique<KestoPlatform::CXTPCommandBars>())
+ToolSession::ToolSession(IToolSite& site, Maker maker, Toolbar toolbar)
+    : m_site(site), m_maker(maker), m_toolbar(toolbar), m_bars(std::make_unique<KestoPlatform::CXTPCommandBars>())
 {
 }
 
@@ -84,8 +84,8 @@ void ToolSession::Rebuild()
     // One set of bars for the session's life: the tools register their images with it once.
     m_bars->RemoveAll();
     if (m_fill)
-        m_tool = FillToolFactory::Create(m_fill.get(), &m_site);
-    if (m_tool)
+        m_tool = m_maker(m_fill.get(), &m_site);
+    if (m_tool && m_toolbar == Toolbar::Shown)
         m_tool->InitContextButtons(m_bars.get());
     if (m_changed)
         m_changed();

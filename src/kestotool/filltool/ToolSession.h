@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kestotool/filltool/FillTool.h"
+#include "kestotool/filltool/FillToolFactory.h"
 #include "kestotool/filltool/ToolGesture.h"
 #include "kestotool/platform/CCmdTarget.h"
 #include "kestotool/platform/CXTPCommandBars.h"
@@ -27,8 +28,13 @@ namespace KestoTool {
 // The site's UpdateFill records the fill and calls Follow with it.
 class KESTO_API ToolSession : public KestoPlatform::CCmdTarget {
 public:
+    // How the session's tools are made: by the factory (FillToolFactory::Create, or
+    // CreateWrapped as the editor dialogs hold them), with their context toolbar or without.
+    using Maker = std::unique_ptr<FillTool> (*)(const CFill* fill, IToolSite* site);
+    enum class Toolbar { Shown, None };
+
     // The site the tools talk to; it must outlive the session.
-    explicit ToolSession(IToolSite& site);
+    explicit ToolSession(IToolSite& site, Maker maker = &FillToolFactory::Create, Toolbar toolbar = Toolbar::Shown);
     ~ToolSession() override;
     ToolSession(const ToolSession&) = delete;
     ToolSession& operator=(const ToolSession&) = delete;
@@ -84,6 +90,8 @@ private:
     void Rebuild();
 
     IToolSite& m_site;
+    Maker m_maker;
+    Toolbar m_toolbar;
     std::unique_ptr<KestoPlatform::CXTPCommandBars> m_bars;
     std::unique_ptr<FillTool> m_tool;
     ToolGesture m_gesture;
