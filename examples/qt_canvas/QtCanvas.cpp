@@ -160,11 +160,9 @@ void QtCanvas::paintEvent(QPaintEvent*)
         // While a gesture lasts, the tool's working fill (its own object, reshaped in place).
         const bool live = static_cast<int>(i) == m_selected && IsInDrag() && m_session.Tool();
         const KestoGDI::CFill& fill = live ? *m_session.Tool()->GetFill() : *shape.fill;
-        const QRect r(QPoint(static_cast<int>(shape.box.left * kScale), static_cast<int>(shape.box.top * kScale)),
-                      QPoint(static_cast<int>(shape.box.right * kScale) - 1,
-                             static_cast<int>(shape.box.bottom * kScale) - 1));
+        const auto px = [](int units) { return static_cast<int>(units * kScale); };
         KestoGDI::FillPaint::PaintOver(fill, {kScale, 0, 0, kScale, 0, 0}, kScale, target,
-                                       {r.left(), r.top(), r.right() + 1, r.bottom() + 1});
+                                       {px(shape.box.left), px(shape.box.top), px(shape.box.right), px(shape.box.bottom)});
     }
     QPainter painter(this);
     painter.drawImage(0, 0, page);
