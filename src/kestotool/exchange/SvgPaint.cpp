@@ -1,0 +1,113 @@
+#include "kestotool/exchange/SvgPaint.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstdio>
+#include <functional>
+
+namespace KestoTool {
+
+using KestoRaster::Paint;
+using KestoRaster::Point;
+using KestoRaster::RampStop;
+using KestoRaster::Rgba;
+
+namespace {
+
+// The shortest decimal that reads back as the same double, as SVG readers parse it.
+std::string Number(double value)
+{
+    char text[32];
+    const auto [end, error] = std::to_chars(text, text + sizeof text, value);
+    return error == std::errc() ? std::string(text, end) : std::string("0");
+}
+
+// The blend of a stop towards the next at t in 0..1 (the renderer's curve).
+double Blend(const RampStop& s, double t)
+{
+    const double r = 1 - t;
+    return 3 * r * r * t * s.c1 + 3 * r * t * t * s.c2 + t * t * t;
+}
+
+std::string Stop(double position, const Rgba& a, const Rgba& b, double blend)
+{
+    const auto mix = [blend](std::uint8_t x, std::uint8_t y) {
+        return static_cast<int>(std::lround(x + (y - x) * blend));
+    };
+    char text[128];
+    std::snprintf(text, sizeof text, "<stop offset=\"%s\" stop-color=\"#%02x%02x%02x\" stop-opacity=\"%s\"/>",
+                  Number(position / 10000).c_str(), mix(a.r, b.r), mix(a.g, b.g), mix(a.b, b.b),
+                  Number(mix(a.a, b.a) / 255.0).c_str());
+    return text;
+}
+
+} // namespace
+
+std::string SvgPaint::Stops(const std::vector<RampStop>& stops)
+{
+    std::string out;
+    for (std::size_t i = 0; i < stops.size(); ++i) {
+        const RampStop& s = stops[i];
+        out += Stop(s.position, s.colour, s.colour, 0);
+        if (i + 1 == stops.size() || (s.c1 == 1.0 / 3 && s.c2 == 2.0 / 3))
+            continue;
+        const RampStop& next = stops[i + 1];
+        const Rgba& a = s.colour;
+        const Rgba& b = next.colour;
+        const double span = std::max({std::abs(a.r - b.r), std::abs(a.g - b.g), std::abs(a.b - b.b),
+                                      std::abs(a.a - b.a)});
+        // Halves a piece of the curve until the straight line between its ends strays less
+        // than half a level from it (at most 2^8 pieces a segment).
+        const std::function<void(double, double, int)> split = [&](double t0, double t1, int depth) {
+            const double mid = (t0 + t1) / 2;
+            const double stray = std::abs(Blend(s, mid) - (Blend(s, t0) + Blend(s, t1)) / 2) * span;
+            if (stray <= 0.5 || depth == 8)
+                return;
+            split(t0, mid, depth + 1);
+            out += Stop(s.position + (next.position - s.position) * mid, a, b, Blend(s, mid));
+            split(mid, t1, depth + 1);
+        };
+        split(0, 1, 0);
+    }
+    return out;
+}
+
+std::optional<std::string> SvgPaint::Gradient(const Paint& paint, const std::string& id)
+{
+    const std::vector<Point>& p = paint.points;
+    std::string open;
+    switch (paint.kind) {
+    case Paint::Kind::Linear:
+        if (p.size() < 2)
+            return std::nullopt;
+        open = "<linearGradient id=\"" + id + "\" gradientUnits=\"userSpaceOnUse\" x1=\"" + Number(p[0].x) +
+               "\" y1=\"" + Number(p[0].y) + "\" x2=\"" + Number(p[1].x) + "\" y2=\"" + Number(p[1].y) + "\">";
+        return open + Stops(paint.stops) + "</linearGradient>";
+    case Paint::Kind::Radial:
+        if (p.size() < 2)
+            return std::nullopt;
+        open = "<radialGradient id=\"" + id + "\" gradientUnits=\"userSpaceOnUse\" cx=\"" + Number(p[0].x) +
+               "\" cy=\"" + Number(p[0].y) + "\" r=\"" + Number(std::hypot(p[1].x - p[0].x, p[1].y - p[0].y)) + "\">";
+        return open + Stops(paint.stops) + "</radialGradient>";
+    case Paint::Kind::Elliptical:
+        // The unit circle about the origin, taken to the axes C->E and C->F.
+        if (p.size() < 3)
+            return std::nullopt;
+        open = "<radialGradient id=\"" + id + "\" gradientUnits=\"userSpaceOnUse\" cx=\"0\" cy=\"0\" r=\"1\" " +
+               "gradientTransform=\"matrix(" + Number(p[1].x - p[0].x) + " " + Number(p[1].y - p[0].y) + " " +
+               Number(p[2].x - p[0].x) + " " + Number(p[2].y - p[0].y) + " " + Number(p[0].x) + " " +
+               Number(p[0].y) + ")\">";
+        return open + Stops(paint.stops) + "</radialGradient>";
+    case Paint::Kind::Solid:
+    case Paint::Kind::Conical:
+    case Paint::Kind::Square:
+    case Paint::Kind::ThreeColour:
+    case Paint::Kind::FourColour:
+    case Paint::Kind::Plasma:
+    case Paint::Kind::Bitmap: return std::nullopt;
+    }
+    return std::nullopt;
+}
+
+} // namespace KestoTool
