@@ -1,8 +1,16 @@
 #include "kestotool/exchange/SvgPaint.h"
 
+#include "kestotool/gdi/CLtBitmap.h"
+#include "kestotool/gdi/PngFile.h"
+#include "kestotool/raster/PreparedPaint.h"
+
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <cstdlib>
+#include <fstream>
+#include <numeric>
 #include <regex>
 #include <string>
 #include <vector>
@@ -85,5 +93,72 @@ TEST(SvgPaint, ACurvedBlendIsSampledUntilStraightStopsStayWithinHalfALevel)
         const auto& [t0, r0] = *(next - 1);
         const double straight = t1 > t0 ? r0 + (r1 - r0) * (t - t0) / (t1 - t0) : r1;
         EXPECT_NEAR(straight, curve, 1.0) << t; // half a level of curve, half of rounding
+    }
+}
+
+namespace {
+
+// The paint over a w x h area as a real SVG renderer (rsvg-convert) shows it, and as ours
+// does: opaque colours, 0xAARRGGBB.
+struct Pictures {
+    std::vector<std::uint32_t> svg, ours;
+};
+
+Pictures Render(const Paint& paint, int w, int h)
+{
+    const std::optional<SvgPaint::Fill> fill = SvgPaint::Area(paint, "p", 0, 0, w, h);
+    EXPECT_TRUE(fill.has_value());
+    const std::string dir = testing::TempDir();
+    const std::string svgPath = dir + "/paint.svg", pngPath = dir + "/paint.png";
+    std::ofstream(svgPath) << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" << w << "\" height=\"" << h
+                           << "\"><defs>" << fill->defs << "</defs>" << fill->elements << "</svg>";
+    const std::string command = "rsvg-convert -o '" + pngPath + "' '" + svgPath + "'";
+    EXPECT_EQ(std::system(command.c_str()), 0) << command << " (rsvg-convert comes from librsvg2-bin)";
+    Pictures pictures;
+    std::string error;
+    const KestoKernel::RefPtr<KestoGDI::CLtBitmap> png = KestoGDI::PngFile::Read(pngPath, &error);
+    EXPECT_TRUE(png) << error;
+    if (png)
+        pictures.svg.assign(png->GetBits(), png->GetBits() + static_cast<std::size_t>(w) * h);
+    pictures.ours.resize(static_cast<std::size_t>(w) * h);
+    KestoRaster::Render(KestoRaster::PreparedPaint(paint, {}, KestoRaster::Output::Argb32),
+                        {pictures.ours.data(), w, h, w * 4, KestoRaster::Output::Argb32}, {0, 0, w, h});
+    return pictures;
+}
+
+} // namespace
+
+TEST(SvgPaint, ARealRendererShowsTheNativeKindsAsOursDoes)
+{
+    struct Row {
+        const char* name;
+        Paint paint;
+    };
+    std::vector<RampStop> opaque{{0, {200, 30, 40, 255}}, {4000, {250, 200, 40, 255}}, {10000, {30, 40, 150, 255}}};
+    opaque[1].c1 = 0.05; // a curved blend between the second and third stops
+    opaque[1].c2 = 0.2;
+    const auto ramp = [&](Paint::Kind kind, std::vector<KestoRaster::Point> points) {
+        Paint paint = Ramp(kind, std::move(points));
+        paint.stops = opaque;
+        return paint;
+    };
+    const Row rows[] = {
+        {"linear", ramp(Paint::Kind::Linear, {{20, 30}, {180, 110}})},
+        {"radial", ramp(Paint::Kind::Radial, {{90, 60}, {150, 80}})},
+        {"elliptical, skewed", ramp(Paint::Kind::Elliptical, {{100, 70}, {170, 60}, {80, 120}})},
+        {"square, skewed", ramp(Paint::Kind::Square, {{100, 70}, {150, 60}, {90, 110}})},
+    };
+    for (const Row& row : rows) {
+        const Pictures pictures = Render(row.paint, 200, 150);
+        ASSERT_EQ(pictures.svg.size(), pictures.ours.size()) << row.name;
+        std::vector<int> differences;
+        for (std::size_t i = 0; i < pictures.ours.size(); ++i)
+            for (const int shift : {0, 8, 16})
+                differences.push_back(
+                    std::abs(static_cast<int>(pictures.svg[i] >> shift & 0xFF) - static_cast<int>(pictures.ours[i] >> shift & 0xFF)));
+        std::sort(differences.begin(), differences.end());
+        const double mean = std::accumulate(differences.begin(), differences.end(), 0.0) / static_cast<double>(differences.size());
+        EXPECT_LE(mean, 2.0) << row.name;
+        EXPECT_LE(differences[differences.size() * 99 / 100], 8) << row.name;
     }
 }

@@ -110,4 +110,71 @@ std::optional<std::string> SvgPaint::Gradient(const Paint& paint, const std::str
     return std::nullopt;
 }
 
+namespace {
+
+// The four wedges of a square paint. In the space of its axes (p = C + u e + v f) the paint is
+// max(|u|, |v|): on the wedge around +u it is u, a linear gradient from the centre to E, and
+// so on round. Each wedge is drawn in that space (its transform is the axes), so the gradient
+// along it is exact; the u wedges reach a hair over the diagonals, where both give the same
+// value, so that no seam shows between them.
+std::optional<SvgPaint::Fill> Diamond(const Paint& paint, const std::string& id, double x0, double y0, double x1,
+                                      double y1)
+{
+    const std::vector<Point>& p = paint.points;
+    if (p.size() < 3)
+        return std::nullopt;
+    const Point e{p[1].x - p[0].x, p[1].y - p[0].y};
+    const Point f{p[2].x - p[0].x, p[2].y - p[0].y};
+    const double det = e.x * f.y - e.y * f.x;
+    if (!(std::abs(det) > 0) || !std::isfinite(det))
+        return std::nullopt;
+    // How far the area reaches in the axes' units.
+    double reach = 1;
+    for (const Point corner : {Point{x0, y0}, Point{x1, y0}, Point{x0, y1}, Point{x1, y1}}) {
+        const double dx = corner.x - p[0].x, dy = corner.y - p[0].y;
+        reach = std::max({reach, std::abs((dx * f.y - dy * f.x) / det), std::abs((e.x * dy - e.y * dx) / det)});
+    }
+    const double r = reach + 1;
+    const double over = r * 1.002;
+    const std::string axes = "matrix(" + Number(e.x) + " " + Number(e.y) + " " + Number(f.x) + " " + Number(f.y) +
+                             " " + Number(p[0].x) + " " + Number(p[0].y) + ")";
+    struct Wedge {
+        const char* x2;
+        const char* y2;
+        std::string points;
+    };
+    const std::string R = Number(r), O = Number(over), nR = Number(-r), nO = Number(-over);
+    const Wedge wedges[] = {
+        {"0", "1", "0,0 " + R + "," + R + " " + nR + "," + R},        // +v
+        {"0", "-1", "0,0 " + R + "," + nR + " " + nR + "," + nR},     // -v
+        {"1", "0", "0,0 " + R + "," + O + " " + R + "," + nO},        // +u, over the diagonals
+        {"-1", "0", "0,0 " + nR + "," + O + " " + nR + "," + nO},     // -u
+    };
+    SvgPaint::Fill fill;
+    const std::string stops = SvgPaint::Stops(paint.stops);
+    for (int i = 0; i < 4; ++i) {
+        const std::string wedgeId = id + "-" + std::to_string(i);
+        fill.defs += "<linearGradient id=\"" + wedgeId + "\" gradientUnits=\"userSpaceOnUse\" x1=\"0\" y1=\"0\" x2=\"" +
+                     wedges[i].x2 + "\" y2=\"" + wedges[i].y2 + "\">" + stops + "</linearGradient>";
+        fill.elements += "<polygon points=\"" + wedges[i].points + "\" transform=\"" + axes + "\" fill=\"url(#" +
+                         wedgeId + ")\"/>";
+    }
+    return fill;
+}
+
+} // namespace
+
+std::optional<SvgPaint::Fill> SvgPaint::Area(const Paint& paint, const std::string& id, double x0, double y0,
+                                             double x1, double y1)
+{
+    if (paint.kind == Paint::Kind::Square)
+        return Diamond(paint, id, x0, y0, x1, y1);
+    std::optional<std::string> gradient = Gradient(paint, id);
+    if (!gradient)
+        return std::nullopt;
+    return Fill{std::move(*gradient), "<rect x=\"" + Number(x0) + "\" y=\"" + Number(y0) + "\" width=\"" +
+                                          Number(x1 - x0) + "\" height=\"" + Number(y1 - y0) + "\" fill=\"url(#" +
+                                          id + ")\"/>"};
+}
+
 } // namespace KestoTool

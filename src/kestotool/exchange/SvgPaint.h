@@ -16,6 +16,18 @@ class KESTO_API SvgPaint {
 public:
     SvgPaint() = delete;
 
+    // What paints an area: definitions (gradients) for the document's defs, and the elements
+    // that cover the area with the paint, for the caller to clip to its shape.
+    struct Fill {
+        std::string defs;
+        std::string elements;
+    };
+    // The paint over the area [x0, x1] x [y0, y1], ids starting with id: the gradient kinds as a
+    // rectangle of their gradient; a square (diamond) paint exactly, as four wedges from its
+    // centre, each a linear gradient along its axis. Nothing for a kind not written natively.
+    static std::optional<Fill> Area(const KestoRaster::Paint& paint, const std::string& id, double x0, double y0,
+                                    double x1, double y1);
+
     // The gradient element with the id; nothing for a kind SVG has no gradient for, or a paint
     // without its points.
     static std::optional<std::string> Gradient(const KestoRaster::Paint& paint, const std::string& id);
