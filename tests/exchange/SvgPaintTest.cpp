@@ -99,7 +99,8 @@ TEST(SvgPaint, ACurvedBlendIsSampledUntilStraightStopsStayWithinHalfALevel)
 namespace {
 
 // The paint over a w x h area as a real SVG renderer (rsvg-convert) shows it, and as ours
-// does: opaque colours, 0xAARRGGBB.
+// does, 0xAARRGGBB. A transparency is shown as the black it lets through onto white: the
+// paint as a mask there, our mask's coverage here.
 struct Pictures {
     std::vector<std::uint32_t> svg, ours;
 };
@@ -110,8 +111,15 @@ Pictures Render(const Paint& paint, int w, int h)
     EXPECT_TRUE(fill.has_value());
     const std::string dir = testing::TempDir();
     const std::string svgPath = dir + "/paint.svg", pngPath = dir + "/paint.png";
-    std::ofstream(svgPath) << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" << w << "\" height=\"" << h
-                           << "\"><defs>" << fill->defs << "</defs>" << fill->elements << "</svg>";
+    const std::string size = "width=\"" + std::to_string(w) + "\" height=\"" + std::to_string(h) + "\"";
+    std::ofstream svg(svgPath);
+    svg << "<svg xmlns=\"http://www.w3.org/2000/svg\" " << size << "><defs>" << fill->defs;
+    if (paint.transparency)
+        svg << "<mask id=\"m\" maskUnits=\"userSpaceOnUse\" x=\"0\" y=\"0\" " << size << ">" << fill->elements
+            << "</mask></defs><rect " << size << " fill=\"white\"/><rect " << size << " mask=\"url(#m)\"/></svg>";
+    else
+        svg << "</defs>" << fill->elements << "</svg>";
+    svg.close();
     const std::string command = "rsvg-convert -o '" + pngPath + "' '" + svgPath + "'";
     EXPECT_EQ(std::system(command.c_str()), 0) << command << " (rsvg-convert comes from librsvg2-bin)";
     Pictures pictures;
@@ -120,7 +128,16 @@ Pictures Render(const Paint& paint, int w, int h)
     EXPECT_TRUE(png) << error;
     if (png)
         pictures.svg.assign(png->GetBits(), png->GetBits() + static_cast<std::size_t>(w) * h);
-    pictures.ours.resize(static_cast<std::size_t>(w) * h);
+    const auto area = static_cast<std::size_t>(w) * h;
+    if (paint.transparency) {
+        std::vector<std::uint8_t> mask(area);
+        KestoRaster::Render(KestoRaster::PreparedPaint(paint, {}, KestoRaster::Output::Mask8),
+                            {mask.data(), w, h, w, KestoRaster::Output::Mask8}, {0, 0, w, h});
+        for (const std::uint8_t m : mask)
+            pictures.ours.push_back(0xFF000000u | 0x010101u * static_cast<std::uint32_t>(255 - m));
+        return pictures;
+    }
+    pictures.ours.resize(area);
     KestoRaster::Render(KestoRaster::PreparedPaint(paint, {}, KestoRaster::Output::Argb32),
                         {pictures.ours.data(), w, h, w * 4, KestoRaster::Output::Argb32}, {0, 0, w, h});
     return pictures;
@@ -147,6 +164,12 @@ TEST(SvgPaint, ARealRendererShowsTheNativeKindsAsOursDoes)
         {"radial", ramp(Paint::Kind::Radial, {{90, 60}, {150, 80}})},
         {"elliptical, skewed", ramp(Paint::Kind::Elliptical, {{100, 70}, {170, 60}, {80, 120}})},
         {"square, skewed", ramp(Paint::Kind::Square, {{100, 70}, {150, 60}, {90, 110}})},
+        {"linear transparency", [] {
+             Paint levels = Ramp(Paint::Kind::Linear, {{30, 20}, {170, 130}});
+             levels.transparency = true;
+             levels.stops = {{0, {20, 20, 20, 255}}, {10000, {230, 230, 230, 255}}};
+             return levels;
+         }()},
     };
     for (const Row& row : rows) {
         const Pictures pictures = Render(row.paint, 200, 150);

@@ -30,26 +30,29 @@ double Blend(const RampStop& s, double t)
     return 3 * r * r * t * s.c1 + 3 * r * t * t * s.c2 + t * t * t;
 }
 
-std::string Stop(double position, const Rgba& a, const Rgba& b, double blend)
+// A stop blend of the way from a to b. A transparency's stops are levels (red, 0 opaque .. 255
+// clear): as a mask's luminance, white lets all through.
+std::string Stop(double position, const Rgba& a, const Rgba& b, double blend, bool levels)
 {
     const auto mix = [blend](std::uint8_t x, std::uint8_t y) {
         return static_cast<int>(std::lround(x + (y - x) * blend));
     };
+    const int grey = 255 - mix(a.r, b.r);
     char text[128];
     std::snprintf(text, sizeof text, "<stop offset=\"%s\" stop-color=\"#%02x%02x%02x\" stop-opacity=\"%s\"/>",
-                  Number(position / 10000).c_str(), mix(a.r, b.r), mix(a.g, b.g), mix(a.b, b.b),
-                  Number(mix(a.a, b.a) / 255.0).c_str());
+                  Number(position / 10000).c_str(), levels ? grey : mix(a.r, b.r), levels ? grey : mix(a.g, b.g),
+                  levels ? grey : mix(a.b, b.b), Number(levels ? 1.0 : mix(a.a, b.a) / 255.0).c_str());
     return text;
 }
 
 } // namespace
 
-std::string SvgPaint::Stops(const std::vector<RampStop>& stops)
+std::string SvgPaint::Stops(const std::vector<RampStop>& stops, bool levels)
 {
     std::string out;
     for (std::size_t i = 0; i < stops.size(); ++i) {
         const RampStop& s = stops[i];
-        out += Stop(s.position, s.colour, s.colour, 0);
+        out += Stop(s.position, s.colour, s.colour, 0, levels);
         if (i + 1 == stops.size() || (s.c1 == 1.0 / 3 && s.c2 == 2.0 / 3))
             continue;
         const RampStop& next = stops[i + 1];
@@ -65,7 +68,7 @@ std::string SvgPaint::Stops(const std::vector<RampStop>& stops)
             if (stray <= 0.5 || depth == 8)
                 return;
             split(t0, mid, depth + 1);
-            out += Stop(s.position + (next.position - s.position) * mid, a, b, Blend(s, mid));
+            out += Stop(s.position + (next.position - s.position) * mid, a, b, Blend(s, mid), levels);
             split(mid, t1, depth + 1);
         };
         split(0, 1, 0);
@@ -83,13 +86,13 @@ std::optional<std::string> SvgPaint::Gradient(const Paint& paint, const std::str
             return std::nullopt;
         open = "<linearGradient id=\"" + id + "\" gradientUnits=\"userSpaceOnUse\" x1=\"" + Number(p[0].x) +
                "\" y1=\"" + Number(p[0].y) + "\" x2=\"" + Number(p[1].x) + "\" y2=\"" + Number(p[1].y) + "\">";
-        return open + Stops(paint.stops) + "</linearGradient>";
+        return open + Stops(paint.stops, paint.transparency) + "</linearGradient>";
     case Paint::Kind::Radial:
         if (p.size() < 2)
             return std::nullopt;
         open = "<radialGradient id=\"" + id + "\" gradientUnits=\"userSpaceOnUse\" cx=\"" + Number(p[0].x) +
                "\" cy=\"" + Number(p[0].y) + "\" r=\"" + Number(std::hypot(p[1].x - p[0].x, p[1].y - p[0].y)) + "\">";
-        return open + Stops(paint.stops) + "</radialGradient>";
+        return open + Stops(paint.stops, paint.transparency) + "</radialGradient>";
     case Paint::Kind::Elliptical:
         // The unit circle about the origin, taken to the axes C->E and C->F.
         if (p.size() < 3)
@@ -98,7 +101,7 @@ std::optional<std::string> SvgPaint::Gradient(const Paint& paint, const std::str
                "gradientTransform=\"matrix(" + Number(p[1].x - p[0].x) + " " + Number(p[1].y - p[0].y) + " " +
                Number(p[2].x - p[0].x) + " " + Number(p[2].y - p[0].y) + " " + Number(p[0].x) + " " +
                Number(p[0].y) + ")\">";
-        return open + Stops(paint.stops) + "</radialGradient>";
+        return open + Stops(paint.stops, paint.transparency) + "</radialGradient>";
     case Paint::Kind::Solid:
     case Paint::Kind::Conical:
     case Paint::Kind::Square:
@@ -151,7 +154,7 @@ std::optional<SvgPaint::Fill> Diamond(const Paint& paint, const std::string& id,
         {"-1", "0", "0,0 " + nR + "," + O + " " + nR + "," + nO},     // -u
     };
     SvgPaint::Fill fill;
-    const std::string stops = SvgPaint::Stops(paint.stops);
+    const std::string stops = SvgPaint::Stops(paint.stops, paint.transparency);
     for (int i = 0; i < 4; ++i) {
         const std::string wedgeId = id + "-" + std::to_string(i);
         fill.defs += "<linearGradient id=\"" + wedgeId + "\" gradientUnits=\"userSpaceOnUse\" x1=\"0\" y1=\"0\" x2=\"" +

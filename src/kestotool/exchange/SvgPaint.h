@@ -11,7 +11,8 @@ namespace KestoTool {
 
 // A paint as SVG says it where SVG has the kind: linear and radial gradients, and elliptical ones
 // as a radial gradient whose transform carries the two axes (skew included). Coordinates are the
-// paint's own, in user space; the spread is pad, as the renderer pads.
+// paint's own, in user space; the spread is pad, as the renderer pads. A transparency's paint
+// is written as the content of a mask (grey levels for luminance).
 class KESTO_API SvgPaint {
 public:
     SvgPaint() = delete;
@@ -33,8 +34,9 @@ public:
     static std::optional<std::string> Gradient(const KestoRaster::Paint& paint, const std::string& id);
     // A ramp's stops as SVG stop elements. SVG blends straight between stops; a blend curve of
     // the ramp is sampled with stops in between, so that SVG's straight blend stays within half
-    // a level of it.
-    static std::string Stops(const std::vector<KestoRaster::RampStop>& stops);
+    // a level of it. A transparency's levels become the grey of a mask's luminance (white where
+    // it lets everything through).
+    static std::string Stops(const std::vector<KestoRaster::RampStop>& stops, bool levels = false);
 };
 
 } // namespace KestoTool
