@@ -1,7 +1,8 @@
 #include "kestotool/exchange/SvgPaint.h"
 
+#include "kestotool/exchange/SvgNumber_p.h"
+
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <functional>
@@ -14,14 +15,6 @@ using KestoRaster::RampStop;
 using KestoRaster::Rgba;
 
 namespace {
-
-// The shortest decimal that reads back as the same double, as SVG readers parse it.
-std::string Number(double value)
-{
-    char text[32];
-    const auto [end, error] = std::to_chars(text, text + sizeof text, value);
-    return error == std::errc() ? std::string(text, end) : std::string("0");
-}
 
 // The blend of a stop towards the next at t in 0..1 (the renderer's curve).
 double Blend(const RampStop& s, double t)
@@ -40,8 +33,8 @@ std::string Stop(double position, const Rgba& a, const Rgba& b, double blend, bo
     const int grey = 255 - mix(a.r, b.r);
     char text[128];
     std::snprintf(text, sizeof text, "<stop offset=\"%s\" stop-color=\"#%02x%02x%02x\" stop-opacity=\"%s\"/>",
-                  Number(position / 10000).c_str(), levels ? grey : mix(a.r, b.r), levels ? grey : mix(a.g, b.g),
-                  levels ? grey : mix(a.b, b.b), Number(levels ? 1.0 : mix(a.a, b.a) / 255.0).c_str());
+                  SvgNumber(position / 10000).c_str(), levels ? grey : mix(a.r, b.r), levels ? grey : mix(a.g, b.g),
+                  levels ? grey : mix(a.b, b.b), SvgNumber(levels ? 1.0 : mix(a.a, b.a) / 255.0).c_str());
     return text;
 }
 
@@ -84,23 +77,23 @@ std::optional<std::string> SvgPaint::Gradient(const Paint& paint, const std::str
     case Paint::Kind::Linear:
         if (p.size() < 2)
             return std::nullopt;
-        open = "<linearGradient id=\"" + id + "\" gradientUnits=\"userSpaceOnUse\" x1=\"" + Number(p[0].x) +
-               "\" y1=\"" + Number(p[0].y) + "\" x2=\"" + Number(p[1].x) + "\" y2=\"" + Number(p[1].y) + "\">";
+        open = "<linearGradient id=\"" + id + "\" gradientUnits=\"userSpaceOnUse\" x1=\"" + SvgNumber(p[0].x) +
+               "\" y1=\"" + SvgNumber(p[0].y) + "\" x2=\"" + SvgNumber(p[1].x) + "\" y2=\"" + SvgNumber(p[1].y) + "\">";
         return open + Stops(paint.stops, paint.transparency) + "</linearGradient>";
     case Paint::Kind::Radial:
         if (p.size() < 2)
             return std::nullopt;
-        open = "<radialGradient id=\"" + id + "\" gradientUnits=\"userSpaceOnUse\" cx=\"" + Number(p[0].x) +
-               "\" cy=\"" + Number(p[0].y) + "\" r=\"" + Number(std::hypot(p[1].x - p[0].x, p[1].y - p[0].y)) + "\">";
+        open = "<radialGradient id=\"" + id + "\" gradientUnits=\"userSpaceOnUse\" cx=\"" + SvgNumber(p[0].x) +
+               "\" cy=\"" + SvgNumber(p[0].y) + "\" r=\"" + SvgNumber(std::hypot(p[1].x - p[0].x, p[1].y - p[0].y)) + "\">";
         return open + Stops(paint.stops, paint.transparency) + "</radialGradient>";
     case Paint::Kind::Elliptical:
         // The unit circle about the origin, taken to the axes C->E and C->F.
         if (p.size() < 3)
             return std::nullopt;
         open = "<radialGradient id=\"" + id + "\" gradientUnits=\"userSpaceOnUse\" cx=\"0\" cy=\"0\" r=\"1\" " +
-               "gradientTransform=\"matrix(" + Number(p[1].x - p[0].x) + " " + Number(p[1].y - p[0].y) + " " +
-               Number(p[2].x - p[0].x) + " " + Number(p[2].y - p[0].y) + " " + Number(p[0].x) + " " +
-               Number(p[0].y) + ")\">";
+               "gradientTransform=\"matrix(" + SvgNumber(p[1].x - p[0].x) + " " + SvgNumber(p[1].y - p[0].y) + " " +
+               SvgNumber(p[2].x - p[0].x) + " " + SvgNumber(p[2].y - p[0].y) + " " + SvgNumber(p[0].x) + " " +
+               SvgNumber(p[0].y) + ")\">";
         return open + Stops(paint.stops, paint.transparency) + "</radialGradient>";
     case Paint::Kind::Solid:
     case Paint::Kind::Conical:
@@ -139,14 +132,14 @@ std::optional<SvgPaint::Fill> Diamond(const Paint& paint, const std::string& id,
     }
     const double r = reach + 1;
     const double over = r * 1.002;
-    const std::string axes = "matrix(" + Number(e.x) + " " + Number(e.y) + " " + Number(f.x) + " " + Number(f.y) +
-                             " " + Number(p[0].x) + " " + Number(p[0].y) + ")";
+    const std::string axes = "matrix(" + SvgNumber(e.x) + " " + SvgNumber(e.y) + " " + SvgNumber(f.x) + " " + SvgNumber(f.y) +
+                             " " + SvgNumber(p[0].x) + " " + SvgNumber(p[0].y) + ")";
     struct Wedge {
         const char* x2;
         const char* y2;
         std::string points;
     };
-    const std::string R = Number(r), O = Number(over), nR = Number(-r), nO = Number(-over);
+    const std::string R = SvgNumber(r), O = SvgNumber(over), nR = SvgNumber(-r), nO = SvgNumber(-over);
     const Wedge wedges[] = {
         {"0", "1", "0,0 " + R + "," + R + " " + nR + "," + R},        // +v
         {"0", "-1", "0,0 " + R + "," + nR + " " + nR + "," + nR},     // -v
@@ -175,8 +168,8 @@ std::optional<SvgPaint::Fill> SvgPaint::Area(const Paint& paint, const std::stri
     std::optional<std::string> gradient = Gradient(paint, id);
     if (!gradient)
         return std::nullopt;
-    return Fill{std::move(*gradient), "<rect x=\"" + Number(x0) + "\" y=\"" + Number(y0) + "\" width=\"" +
-                                          Number(x1 - x0) + "\" height=\"" + Number(y1 - y0) + "\" fill=\"url(#" +
+    return Fill{std::move(*gradient), "<rect x=\"" + SvgNumber(x0) + "\" y=\"" + SvgNumber(y0) + "\" width=\"" +
+                                          SvgNumber(x1 - x0) + "\" height=\"" + SvgNumber(y1 - y0) + "\" fill=\"url(#" +
                                           id + ")\"/>"};
 }
 

@@ -14,11 +14,11 @@
 
 namespace KestoGDI {
 
-bool PngFile::WritePremultiplied(const std::string& path, const std::uint32_t* pixels, int width, int height,
-                                 std::ptrdiff_t strideBytes)
+std::vector<std::uint8_t> PngFile::EncodePremultiplied(const std::uint32_t* pixels, int width, int height,
+                                                       std::ptrdiff_t strideBytes)
 {
     if (!pixels || width <= 0 || height <= 0)
-        return false;
+        return {};
     // Straight alpha, as PNG stores it: 0xAARRGGBB in little-endian memory is B, G, R, A.
     std::vector<std::uint32_t> straight(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
     for (int y = 0; y < height; ++y) {
@@ -32,8 +32,27 @@ bool PngFile::WritePremultiplied(const std::string& path, const std::uint32_t* p
     image.width = static_cast<png_uint_32>(width);
     image.height = static_cast<png_uint_32>(height);
     image.format = PNG_FORMAT_BGRA;
-    if (png_image_write_to_file(&image, path.c_str(), 0, straight.data(), 0, nullptr))
+    png_alloc_size_t size = 0;
+    if (!png_image_write_to_memory(&image, nullptr, &size, 0, straight.data(), 0, nullptr))
+        return {};
+    std::vector<std::uint8_t> bytes(size);
+    if (!png_image_write_to_memory(&image, bytes.data(), &size, 0, straight.data(), 0, nullptr))
+        return {};
+    bytes.resize(size);
+    return bytes;
+}
+
+bool PngFile::WritePremultiplied(const std::string& path, const std::uint32_t* pixels, int width, int height,
+                                 std::ptrdiff_t strideBytes)
+{
+    const std::vector<std::uint8_t> bytes = EncodePremultiplied(pixels, width, height, strideBytes);
+    if (bytes.empty())
+        return false;
+    std::ofstream file(path, std::ios::binary);
+    if (file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size())) &&
+        file.flush())
         return true;
+    file.close();
     std::remove(path.c_str());
     return false;
 }

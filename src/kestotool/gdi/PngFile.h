@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace KestoGDI {
 
@@ -19,6 +20,9 @@ public:
     // straight alpha; false, and no file left behind, when it cannot be written.
     static bool WritePremultiplied(const std::string& path, const std::uint32_t* pixels, int width, int height,
                                    std::ptrdiff_t strideBytes);
+    // The same PNG in memory; empty when it cannot be encoded.
+    static std::vector<std::uint8_t> EncodePremultiplied(const std::uint32_t* pixels, int width, int height,
+                                                         std::ptrdiff_t strideBytes);
     // The picture in a PNG file as a bitmap (straight-alpha 0xAARRGGBB words), decoded as the
     // image archive's entries are, with their size limits. Null, with the reason in error (when
     // given) in plain words, for a file that cannot be read, is not a PNG or cannot be decoded.

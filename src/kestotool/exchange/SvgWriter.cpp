@@ -1,0 +1,149 @@
+#include "kestotool/exchange/SvgWriter.h"
+
+#include "kestotool/exchange/SvgNumber_p.h"
+#include "kestotool/exchange/SvgPaint.h"
+#include "kestotool/gdi/FillPaint.h"
+#include "kestotool/gdi/PngFile.h"
+#include "kestotool/raster/PreparedPaint.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <limits>
+#include <vector>
+
+namespace KestoTool {
+
+using KestoRaster::Paint;
+using KestoRaster::Path;
+using KestoRaster::Point;
+
+namespace {
+
+std::string Base64(const std::vector<std::uint8_t>& bytes)
+{
+    static constexpr char kDigits[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+    std::string out;
+    out.reserve((bytes.size() + 2) / 3 * 4);
+    for (std::size_t i = 0; i < bytes.size(); i += 3) {
+        const std::uint32_t n = static_cast<std::uint32_t>(bytes[i]) << 16 |
+                                (i + 1 < bytes.size() ? static_cast<std::uint32_t>(bytes[i + 1]) << 8 : 0u) |
+                                (i + 2 < bytes.size() ? bytes[i + 2] : 0u);
+        out += kDigits[n >> 18 & 63];
+        out += kDigits[n >> 12 & 63];
+        out += i + 1 < bytes.size() ? kDigits[n >> 6 & 63] : '=';
+        out += i + 2 < bytes.size() ? kDigits[n & 63] : '=';
+    }
+    return out;
+}
+
+// The outline as path data; its bounds (of every point, controls included) in box.
+std::string PathData(const Path& path, double box[4])
+{
+    box[0] = box[1] = std::numeric_limits<double>::infinity();
+    box[2] = box[3] = -std::numeric_limits<double>::infinity();
+    std::string d;
+    std::size_t at = 0;
+    const auto point = [&] {
+        const Point p = path.Points()[at++];
+        box[0] = std::min(box[0], p.x);
+        box[1] = std::min(box[1], p.y);
+        box[2] = std::max(box[2], p.x);
+        box[3] = std::max(box[3], p.y);
+        return SvgNumber(p.x) + " " + SvgNumber(p.y);
+    };
+    for (const Path::Verb verb : path.Verbs()) {
+        switch (verb) {
+        case Path::Verb::Move: d += "M" + point(); break;
+        case Path::Verb::Line: d += "L" + point(); break;
+        case Path::Verb::Cubic: {
+            const std::string c1 = point(), c2 = point();
+            d += "C" + c1 + " " + c2 + " " + point();
+            break;
+        }
+        case Path::Verb::Close: d += "Z"; break;
+        }
+    }
+    return d;
+}
+
+std::string Hex(const KestoRaster::Rgba& c)
+{
+    char text[8];
+    std::snprintf(text, sizeof text, "#%02x%02x%02x", c.r, c.g, c.b);
+    return text;
+}
+
+} // namespace
+
+SvgWriter::SvgWriter(double width, double height) : m_width(width), m_height(height) {}
+
+std::pair<std::string, std::string> SvgWriter::PaintOf(const Paint& paint, const std::string& id, double x0, double y0,
+                                                       double x1, double y1) const
+{
+    if (std::optional<SvgPaint::Fill> native = SvgPaint::Area(paint, id, x0, y0, x1, y1))
+        return {std::move(native->defs), std::move(native->elements)};
+    // The renderer's picture of the box, whole pixels at the raster scale.
+    const double s = m_rasterScale;
+    const int w = std::clamp(static_cast<int>(std::ceil((x1 - x0) * s)), 1, 1 << 14);
+    const int h = std::clamp(static_cast<int>(std::ceil((y1 - y0) * s)), 1, 1 << 14);
+    const KestoRaster::Affine toImage{w / (x1 - x0), 0, 0, h / (y1 - y0), -x0 * w / (x1 - x0), -y0 * h / (y1 - y0)};
+    std::vector<std::uint32_t> pixels(static_cast<std::size_t>(w) * h);
+    if (paint.transparency) {
+        // A mask's luminance: white where the transparency lets everything through.
+        std::vector<std::uint8_t> levels(pixels.size());
+        KestoRaster::Render(KestoRaster::PreparedPaint(paint, toImage, KestoRaster::Output::Mask8),
+                            {levels.data(), w, h, w, KestoRaster::Output::Mask8}, {0, 0, w, h});
+        std::transform(levels.begin(), levels.end(), pixels.begin(),
+                       [](std::uint8_t m) { return 0xFF000000u | 0x010101u * m; });
+    } else {
+        KestoRaster::Render(KestoRaster::PreparedPaint(paint, toImage, KestoRaster::Output::Argb32),
+                            {pixels.data(), w, h, w * 4, KestoRaster::Output::Argb32}, {0, 0, w, h});
+    }
+    const std::vector<std::uint8_t> png = KestoGDI::PngFile::EncodePremultiplied(pixels.data(), w, h, w * 4);
+    return {"", "<image x=\"" + SvgNumber(x0) + "\" y=\"" + SvgNumber(y0) + "\" width=\"" + SvgNumber(x1 - x0) +
+                    "\" height=\"" + SvgNumber(y1 - y0) + "\" preserveAspectRatio=\"none\" href=\"data:image/png;base64," +
+                    Base64(png) + "\"/>"};
+}
+
+void SvgWriter::AddShape(const Path& outline, const KestoGDI::CFill& fill, const KestoGDI::CFill* transparency,
+                         std::optional<KestoRaster::Rgba> stroke)
+{
+    double box[4];
+    const std::string d = PathData(outline, box);
+    if (!(box[2] > box[0]) || !(box[3] > box[1]))
+        return;
+    const std::string n = std::to_string(m_shapes++);
+    m_defs += "<clipPath id=\"c" + n + "\"><path d=\"" + d + "\"/></clipPath>";
+    std::string group = "<g clip-path=\"url(#c" + n + ")\"";
+    if (transparency) {
+        if (const std::optional<Paint> levels = KestoGDI::FillPaint::From(*transparency, m_rasterScale)) {
+            auto [defs, elements] = PaintOf(*levels, "t" + n, box[0], box[1], box[2], box[3]);
+            m_defs += defs + "<mask id=\"m" + n + "\" maskUnits=\"userSpaceOnUse\" x=\"" + SvgNumber(box[0]) + "\" y=\"" +
+                      SvgNumber(box[1]) + "\" width=\"" + SvgNumber(box[2] - box[0]) + "\" height=\"" +
+                      SvgNumber(box[3] - box[1]) + "\">" + elements + "</mask>";
+            group += " mask=\"url(#m" + n + ")\"";
+        }
+    }
+    std::string elements;
+    if (const std::optional<Paint> paint = KestoGDI::FillPaint::From(fill, m_rasterScale)) {
+        auto [defs, shown] = PaintOf(*paint, "p" + n, box[0], box[1], box[2], box[3]);
+        m_defs += defs;
+        elements = std::move(shown);
+    } else {
+        elements = "<path d=\"" + d + "\" fill=\"#c8c8c8\"/>"; // a kind the renderer does not paint
+    }
+    m_body += group + ">" + elements + "</g>";
+    if (stroke)
+        m_body += "<path d=\"" + d + "\" fill=\"none\" stroke=\"" + Hex(*stroke) +
+                  "\" stroke-width=\"1\" vector-effect=\"non-scaling-stroke\"/>";
+}
+
+std::string SvgWriter::Document() const
+{
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" +
+           SvgNumber(m_width) + "\" height=\"" + SvgNumber(m_height) + "\" viewBox=\"0 0 " + SvgNumber(m_width) + " " +
+           SvgNumber(m_height) + "\"><defs>" + m_defs + "</defs>" + m_body + "</svg>\n";
+}
+
+} // namespace KestoTool

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "kestotool/gdi/CFill.h"
+#include "kestotool/platform/Export.h"
+#include "kestotool/raster/Paint.h"
+#include "kestotool/raster/Path.h"
+
+#include <optional>
+#include <string>
+
+namespace KestoTool {
+
+// An SVG document of shapes painted in order on a page, each an outline filled with a fill and
+// seen through a transparency, as a drawing program paints them. The kinds SVG has a paint for
+// (SvgPaint) are written as such; the others are painted by the renderer into a PNG image over
+// the shape, embedded in the document, at the raster resolution. Coordinates are the drawing's
+// units, one user unit each.
+class KESTO_API SvgWriter {
+public:
+    // The page, in drawing units.
+    SvgWriter(double width, double height);
+
+    // Pixels per drawing unit of the images that stand for kinds SVG has no paint for (and of
+    // the tiles of vector fills); 1 unless set.
+    void SetRasterScale(double pixelsPerUnit) { m_rasterScale = pixelsPerUnit; }
+
+    // A shape: its outline filled with fill, through transparency when given, and then the
+    // outline drawn as a hairline of one pixel in stroke's colour when given.
+    void AddShape(const KestoRaster::Path& outline, const KestoGDI::CFill& fill, const KestoGDI::CFill* transparency,
+                  std::optional<KestoRaster::Rgba> stroke);
+
+    // The whole document.
+    std::string Document() const;
+
+private:
+    // What paints the box [x0, x1] x [y0, y1] with the paint (definitions, elements); an image
+    // from the renderer where SVG has no paint for the kind.
+    std::pair<std::string, std::string> PaintOf(const KestoRaster::Paint& paint, const std::string& id, double x0,
+                                                double y0, double x1, double y1) const;
+
+    double m_width;
+    double m_height;
+    double m_rasterScale = 1;
+    std::string m_defs;
+    std::string m_body;
+    int m_shapes = 0;
+};
+
+} // namespace KestoTool
