@@ -1,0 +1,133 @@
+#include "kestotool/exchange/SvgWriter.h"
+
+#include "kestotool/gdi/CFillConical.h"
+#include "kestotool/gdi/CFillLinear.h"
+#include "kestotool/gdi/CFillRadial.h"
+#include "kestotool/gdi/CLtBitmap.h"
+#include "kestotool/gdi/CRGBColour.h"
+#include "kestotool/gdi/CTransparencyLinear.h"
+#include "kestotool/gdi/FillPaint.h"
+#include "kestotool/gdi/PngFile.h"
+#include "kestotool/raster/Composite.h"
+#include "kestotool/raster/PreparedPaint.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <numeric>
+#include <vector>
+
+using namespace KestoGDI;
+using KestoRaster::Path;
+
+namespace {
+
+constexpr int W = 200, H = 150;
+
+Path Box(double x0, double y0, double x1, double y1)
+{
+    Path p;
+    p.MoveTo({x0, y0});
+    p.LineTo({x1, y0});
+    p.LineTo({x1, y1});
+    p.LineTo({x0, y1});
+    p.Close();
+    return p;
+}
+
+Path Circle(double cx, double cy, double r)
+{
+    const double k = 0.5522847498 * r;
+    Path p;
+    p.MoveTo({cx + r, cy});
+    p.CubicTo({cx + r, cy + k}, {cx + k, cy + r}, {cx, cy + r});
+    p.CubicTo({cx - k, cy + r}, {cx - r, cy + k}, {cx - r, cy});
+    p.CubicTo({cx - r, cy - k}, {cx - k, cy - r}, {cx, cy - r});
+    p.CubicTo({cx + k, cy - r}, {cx + r, cy - k}, {cx + r, cy});
+    p.Close();
+    return p;
+}
+
+template <class Fill>
+RefPtr<CFill> Made(KestoPlatform::CRect box, KestoPlatform::COLORREF start)
+{
+    auto fill = KestoKernel::MakeRef<Fill>();
+    fill->SetDefaultControls(box);
+    ColourIntPairs stops;
+    stops.Add(CRGBColour(start), 0);
+    stops.Add(CRGBColour(0x40E0F0), 10000);
+    fill->SetColourIntPairs(stops);
+    return fill;
+}
+
+struct Shape {
+    Path outline;
+    RefPtr<CFill> fill;
+    RefPtr<CFill> transparency;
+};
+
+} // namespace
+
+// A drawing of a native gradient, a kind SVG has not (an embedded picture) and a gradient
+// through a gradient transparency (a mask), shown by a real SVG renderer as our renderer
+// composites it, away from the outlines' anti-aliased edges.
+TEST(SvgWriter, ARealRendererShowsTheDrawingAsOursDoes)
+{
+    auto levels = KestoKernel::MakeRef<CTransparencyLinear>();
+    levels->SetDefaultControls(KestoPlatform::CRect(40, 60, 180, 140));
+    const std::vector<Shape> shapes{
+        {Box(10, 10, 110, 80), Made<CFillLinear>({10, 10, 110, 80}, 0x2020C0), nullptr},
+        {Circle(130, 70, 45), Made<CFillConical>({85, 25, 175, 115}, 0x20A040), nullptr},
+        {Box(40, 60, 180, 140), Made<CFillRadial>({40, 60, 180, 140}, 0xC02080), levels},
+    };
+    KestoTool::SvgWriter writer(W, H);
+    writer.SetRasterScale(2);
+    for (const Shape& s : shapes)
+        writer.AddShape(s.outline, *s.fill, s.transparency.get(), std::nullopt);
+    const std::string dir = testing::TempDir();
+    std::ofstream(dir + "/drawing.svg") << writer.Document();
+    const std::string command = "rsvg-convert -b white -o '" + dir + "/drawing.png' '" + dir + "/drawing.svg'";
+    ASSERT_EQ(std::system(command.c_str()), 0) << command;
+    const RefPtr<CLtBitmap> shown = PngFile::Read(dir + "/drawing.png");
+    ASSERT_TRUE(shown);
+    ASSERT_EQ(shown->GetWidth(), W);
+
+    // Ours, on white; and where any outline's coverage is partial, widened by 2 px: not compared.
+    std::vector<std::uint32_t> ours(W * H, 0xFFFFFFFFu), colours(W * H);
+    std::vector<std::uint8_t> coverage(W * H), mask(W * H);
+    std::vector<bool> edge(W * H);
+    const KestoRaster::Clip all{0, 0, W, H};
+    for (const Shape& s : shapes) {
+        KestoRaster::Render(KestoRaster::PreparedPaint(*FillPaint::From(*s.fill), {}, KestoRaster::Output::Argb32),
+                            {colours.data(), W, H, W * 4, KestoRaster::Output::Argb32}, all);
+        KestoRaster::RenderCoverage(s.outline, {}, {coverage.data(), W, H, W, KestoRaster::Output::Mask8}, all);
+        for (int i = 0; i < W * H; ++i)
+            if (coverage[i] != 0 && coverage[i] != 255)
+                for (int dy = -2; dy <= 2; ++dy)
+                    for (int dx = -2; dx <= 2; ++dx)
+                        if (const int x = i % W + dx, y = i / W + dy; x >= 0 && x < W && y >= 0 && y < H)
+                            edge[y * W + x] = true;
+        if (s.transparency) {
+            KestoRaster::Render(
+                KestoRaster::PreparedPaint(*FillPaint::From(*s.transparency), {}, KestoRaster::Output::Mask8),
+                {mask.data(), W, H, W, KestoRaster::Output::Mask8}, all);
+            for (int i = 0; i < W * H; ++i)
+                coverage[i] = static_cast<std::uint8_t>((coverage[i] * mask[i] + 127) / 255);
+        }
+        const KestoRaster::Target covered{coverage.data(), W, H, W, KestoRaster::Output::Mask8};
+        KestoRaster::CompositeOver({ours.data(), W, H, W * 4, KestoRaster::Output::Argb32},
+                                   {colours.data(), W, H, W * 4, KestoRaster::Output::Argb32}, &covered, all);
+    }
+    std::vector<int> differences;
+    for (int i = 0; i < W * H; ++i)
+        if (!edge[i])
+            for (const int shift : {0, 8, 16})
+                differences.push_back(std::abs(static_cast<int>(shown->GetBits()[i] >> shift & 0xFF) -
+                                               static_cast<int>(ours[i] >> shift & 0xFF)));
+    std::sort(differences.begin(), differences.end());
+    const double mean = std::accumulate(differences.begin(), differences.end(), 0.0) / static_cast<double>(differences.size());
+    EXPECT_LE(mean, 2.0);
+    EXPECT_LE(differences[differences.size() * 99 / 100], 8);
+}
