@@ -12,13 +12,7 @@ KestoKernel::RefPtr<const KestoGDI::VectorDrawing> SampleMotif()
     const auto solid = [](KestoPlatform::COLORREF c) {
         return KestoKernel::MakeRef<KestoGDI::CFillSolid>(KestoGDI::CRGBColour(c), true);
     };
-    constexpr double c = 20000, r = 16000, k = 0.5523 * r;
-    Path disc;
-    disc.MoveTo({c + r, c});
-    disc.CubicTo({c + r, c + k}, {c + k, c + r}, {c, c + r});
-    disc.CubicTo({c - k, c + r}, {c - r, c + k}, {c - r, c});
-    disc.CubicTo({c - r, c - k}, {c - k, c - r}, {c, c - r});
-    disc.CubicTo({c + k, c - r}, {c + r, c - k}, {c + r, c});
+    const Path disc = Path::Ellipse({20000, 20000}, 16000, 16000);
     auto glow = KestoKernel::MakeRef<KestoGDI::CFillLinear>();
     glow->SetControls({4000, 4000}, {36000, 36000});
     KestoGDI::ColourIntPairs stops;

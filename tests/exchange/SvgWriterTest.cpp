@@ -26,30 +26,6 @@ namespace {
 
 constexpr int W = 200, H = 150;
 
-Path Box(double x0, double y0, double x1, double y1)
-{
-    Path p;
-    p.MoveTo({x0, y0});
-    p.LineTo({x1, y0});
-    p.LineTo({x1, y1});
-    p.LineTo({x0, y1});
-    p.Close();
-    return p;
-}
-
-Path Circle(double cx, double cy, double r)
-{
-    const double k = 0.5522847498 * r;
-    Path p;
-    p.MoveTo({cx + r, cy});
-    p.CubicTo({cx + r, cy + k}, {cx + k, cy + r}, {cx, cy + r});
-    p.CubicTo({cx - k, cy + r}, {cx - r, cy + k}, {cx - r, cy});
-    p.CubicTo({cx - r, cy - k}, {cx - k, cy - r}, {cx, cy - r});
-    p.CubicTo({cx + k, cy - r}, {cx + r, cy - k}, {cx + r, cy});
-    p.Close();
-    return p;
-}
-
 template <class Fill>
 RefPtr<CFill> Made(KestoPlatform::CRect box, KestoPlatform::COLORREF start)
 {
@@ -78,9 +54,9 @@ TEST(SvgWriter, ARealRendererShowsTheDrawingAsOursDoes)
     auto levels = KestoKernel::MakeRef<CTransparencyLinear>();
     levels->SetDefaultControls(KestoPlatform::CRect(40, 60, 180, 140));
     const std::vector<Shape> shapes{
-        {Box(10, 10, 110, 80), Made<CFillLinear>({10, 10, 110, 80}, 0x2020C0), nullptr},
-        {Circle(130, 70, 45), Made<CFillConical>({85, 25, 175, 115}, 0x20A040), nullptr},
-        {Box(40, 60, 180, 140), Made<CFillRadial>({40, 60, 180, 140}, 0xC02080), levels},
+        {Path::Rectangle({10, 10}, {110, 80}), Made<CFillLinear>({10, 10, 110, 80}, 0x2020C0), nullptr},
+        {Path::Ellipse({130, 70}, 45, 45), Made<CFillConical>({85, 25, 175, 115}, 0x20A040), nullptr},
+        {Path::Rectangle({40, 60}, {180, 140}), Made<CFillRadial>({40, 60, 180, 140}, 0xC02080), levels},
     };
     KestoTool::SvgWriter writer(W, H);
     writer.SetRasterScale(2);

@@ -14,13 +14,7 @@ namespace {
 
 KestoRaster::Path Box(double x0, double y0, double x1, double y1)
 {
-    KestoRaster::Path p;
-    p.MoveTo({x0, y0});
-    p.LineTo({x1, y0});
-    p.LineTo({x1, y1});
-    p.LineTo({x0, y1});
-    p.Close();
-    return p;
+    return KestoRaster::Path::Rectangle({x0, y0}, {x1, y1});
 }
 
 RefPtr<const CFill> Solid(KestoPlatform::COLORREF c)

@@ -6,6 +6,32 @@
 
 namespace KestoRaster {
 
+Path Path::Rectangle(Point corner, Point opposite)
+{
+    Path p;
+    p.MoveTo(corner);
+    p.LineTo({opposite.x, corner.y});
+    p.LineTo(opposite);
+    p.LineTo({corner.x, opposite.y});
+    p.Close();
+    return p;
+}
+
+Path Path::Ellipse(Point centre, double rx, double ry)
+{
+    // The control distance that puts a quarter arc's midpoint on the circle.
+    constexpr double kArc = 0.5522847498;
+    const double kx = kArc * rx, ky = kArc * ry, cx = centre.x, cy = centre.y;
+    Path p;
+    p.MoveTo({cx + rx, cy});
+    p.CubicTo({cx + rx, cy + ky}, {cx + kx, cy + ry}, {cx, cy + ry});
+    p.CubicTo({cx - kx, cy + ry}, {cx - rx, cy + ky}, {cx - rx, cy});
+    p.CubicTo({cx - rx, cy - ky}, {cx - kx, cy - ry}, {cx, cy - ry});
+    p.CubicTo({cx + kx, cy - ry}, {cx + rx, cy - ky}, {cx + rx, cy});
+    p.Close();
+    return p;
+}
+
 void Path::MoveTo(Point p)
 {
     m_pieceStart = m_points.size();

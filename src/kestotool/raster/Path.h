@@ -14,6 +14,11 @@ class KESTO_API Path {
 public:
     enum class Verb { Move, Line, Cubic, Close };
 
+    // An upright rectangle between two corners, and an ellipse about a centre with the two
+    // radii, as four quarter arcs (each cubic within 0.03% of the radius of a true arc).
+    static Path Rectangle(Point corner, Point opposite);
+    static Path Ellipse(Point centre, double rx, double ry);
+
     void MoveTo(Point p);
     void LineTo(Point p);
     void CubicTo(Point c1, Point c2, Point end);
