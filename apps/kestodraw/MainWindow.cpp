@@ -5,9 +5,11 @@
 #include "Palette.h"
 #include "PreferencesDialog.h"
 
+#include <kestotool/exchange/SvgWriter.h>
 #include <kestotool/filltool/FillCommands.h>
 #include <kestotool/gdi/FillKinds.h>
 #include <kestotool/platform/CCmdTarget.h>
+#include <kestotool/qt/QtConvert.h>
 
 #include <QActionGroup>
 #include <QApplication>
@@ -113,6 +115,11 @@ void MainWindow::BuildMenus()
         const QString path = QFileDialog::getSaveFileName(this, tr("Export PNG"), QString(), tr("PNG images (*.png)"));
         if (!path.isEmpty())
             ExportPng(path);
+    });
+    file->addAction(tr("Export S&VG..."), this, [this] {
+        const QString path = QFileDialog::getSaveFileName(this, tr("Export SVG"), QString(), tr("SVG drawings (*.svg)"));
+        if (!path.isEmpty())
+            ExportSvg(path);
     });
     file->addSeparator();
     file->addAction(tr("&Quit"), QKeySequence::Quit, this, &QWidget::close);
@@ -324,14 +331,14 @@ bool MainWindow::SaveAs(const QString& path)
     return true;
 }
 
-bool MainWindow::ExportPng(const QString& path)
+template <class Work>
+bool MainWindow::Exporting(const QString& path, Work work)
 {
     if (m_exporting)
         return false;
     const QScopedValueRollback exporting(m_exporting, true);
-    const double scale = std::min(1.0, kExportSide / std::max(m_document.width, m_document.height));
-    // A copy of the drawing is painted on a worker while the window stays live; the progress
-    // shows once the painting has taken half a second, and Cancel stops it at the next shape.
+    // A copy of the drawing is written on a worker while the window stays live; the progress
+    // shows once it has taken half a second, and Cancel stops it at the next shape.
     QProgressDialog progress(tr("Exporting %1...").arg(QFileInfo(path).fileName()), tr("Cancel"), 0, 1000, this);
     progress.setWindowModality(Qt::WindowModal);
     progress.setMinimumDuration(500);
@@ -341,27 +348,69 @@ bool MainWindow::ExportPng(const QString& path)
     QTimer tick;
     connect(&tick, &QTimer::timeout, this, [&] { progress.setValue(static_cast<int>(done * 999)); });
     tick.start(50);
-    QEventLoop painted;
-    QImage page;
+    QEventLoop finished;
+    bool made = false;
     std::thread worker([&, document = m_document] {
-        page = DrawingPainter().PaintPage(document, scale, [&](double share) {
+        made = work(document, [&](double share) {
             done = share;
             return !cancelled;
         });
-        QMetaObject::invokeMethod(&painted, &QEventLoop::quit, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(&finished, &QEventLoop::quit, Qt::QueuedConnection);
     });
-    painted.exec();
+    finished.exec();
     worker.join();
-    if (page.isNull())
-        return false;
+    return made;
+}
 
+void MainWindow::ReportExportError(const QString& title, const QString& path, const QString& reason)
+{
+    m_reportError(title, tr("%1 could not be written: %2").arg(QFileInfo(path).fileName(), reason));
+}
+
+bool MainWindow::ExportPng(const QString& path)
+{
+    const double scale = std::min(1.0, kExportSide / std::max(m_document.width, m_document.height));
+    QImage page;
+    if (!Exporting(path, [&](const Document& document, const DrawingPainter::Going& going) {
+            page = DrawingPainter().PaintPage(document, scale, going);
+            return !page.isNull();
+        }))
+        return false;
     // Written whole or not at all, and with the reason when it fails.
     QSaveFile file(path);
     QImageWriter writer(&file, "PNG");
     if (file.open(QIODevice::WriteOnly) && writer.write(page) && file.commit())
         return true;
-    const QString reason = file.error() != QFileDevice::NoError ? file.errorString() : writer.errorString();
-    m_reportError(tr("Export PNG"), tr("%1 could not be written: %2").arg(QFileInfo(path).fileName(), reason));
+    ReportExportError(tr("Export PNG"), path,
+                      file.error() != QFileDevice::NoError ? file.errorString() : writer.errorString());
+    return false;
+}
+
+bool MainWindow::ExportSvg(const QString& path)
+{
+    // The kinds SVG has no paint for are embedded as pictures at the resolution of a PNG export.
+    const double scale = std::min(1.0, kExportSide / std::max(m_document.width, m_document.height));
+    std::string svg;
+    if (!Exporting(path, [&](const Document& document, const DrawingPainter::Going& going) {
+            KestoTool::SvgWriter writer(document.width, document.height);
+            writer.SetRasterScale(scale);
+            for (std::size_t i = 0; i < document.shapes.size(); ++i) {
+                if (!going(static_cast<double>(i) / static_cast<double>(document.shapes.size())))
+                    return false;
+                const Shape& shape = document.shapes[i];
+                writer.AddShape(KestoToolQt::ToRasterPath(shape.Outline()), *shape.fill, shape.transparency.get(),
+                                KestoRaster::Rgba{70, 70, 70, 255});
+            }
+            svg = writer.Document();
+            return true;
+        }))
+        return false;
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && file.write(svg.data(), static_cast<qint64>(svg.size())) ==
+                                                static_cast<qint64>(svg.size()) &&
+        file.commit())
+        return true;
+    ReportExportError(tr("Export SVG"), path, file.errorString());
     return false;
 }
 

@@ -53,6 +53,9 @@ public:
     // Paints the page on a worker, showing progress when it takes long; false when it could
     // not be written (reported) or was cancelled or another export is under way (not reported).
     bool ExportPng(const QString& path);
+    // The drawing as SVG: native gradients where SVG has the kind, the renderer's pictures
+    // elsewhere; as ExportPng, on a worker.
+    bool ExportSvg(const QString& path);
     void NewDrawing();
     // Takes up a copy that an autosave left (a crash's): the drawing, untitled and unsaved; the
     // copy is removed once this window's own autosave holds it.
@@ -67,6 +70,12 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    // Runs work(drawing copy, going) on a worker while the window stays live, with a progress
+    // dialog once it takes half a second (Cancel makes going answer false); answers work's
+    // answer, or false while another export is under way.
+    template <class Work>
+    bool Exporting(const QString& path, Work work);
+    void ReportExportError(const QString& title, const QString& path, const QString& reason);
     void BuildMenus();
     void BuildToolBars();
     void ShowContextBar();

@@ -147,7 +147,8 @@ bool ScriptPlayer::PlayStep(const QString& line)
         ok = ok && m_window.Open(path);
     } else if (verb == "export") {
         const QString path = file(1);
-        ok = ok && m_window.ExportPng(path);
+        ok = ok && (path.endsWith(QStringLiteral(".svg"), Qt::CaseInsensitive) ? m_window.ExportSvg(path)
+                                                                               : m_window.ExportPng(path));
     } else {
         ok = false;
     }

@@ -44,6 +44,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstdlib>
+#include <numeric>
+
 #include <sys/stat.h>
 
 using KestoDraw::MainWindow;
@@ -689,6 +693,48 @@ TEST_F(KestoDrawWindow, SavedDrawingsReopenByteForByte)
     QFile a(first), b(second);
     ASSERT_TRUE(a.open(QIODevice::ReadOnly) && b.open(QIODevice::ReadOnly));
     EXPECT_EQ(a.readAll(), b.readAll());
+}
+
+// The sample (every kind, fills and transparencies) exported as SVG and shown by a real SVG
+// renderer looks as the program's own PNG export of it, away from the shapes' outlines.
+TEST_F(KestoDrawWindow, TheSvgExportShowsInARealRendererAsThePngExportDoes)
+{
+    const QString svg = folder.filePath("sample.svg"), png = folder.filePath("sample.png");
+    ASSERT_TRUE(window->ExportSvg(svg));
+    ASSERT_TRUE(window->ExportPng(png));
+    const QImage ours = QImage(png).convertToFormat(QImage::Format_RGB32);
+    const QString shown = folder.filePath("shown.png");
+    const QString command = QStringLiteral("rsvg-convert -b white -w %1 -h %2 -o '%3' '%4'")
+                                .arg(ours.width())
+                                .arg(ours.height())
+                                .arg(shown, svg);
+    ASSERT_EQ(std::system(command.toLocal8Bit().constData()), 0) << command.toStdString();
+    const QImage theirs = QImage(shown).convertToFormat(QImage::Format_RGB32);
+    ASSERT_EQ(theirs.size(), ours.size());
+    // Pixels within 2 of an outline differ by anti-aliasing and the hairline alone: left out.
+    const double scale = ours.width() / static_cast<double>(window->GetDocument().width);
+    QImage near(ours.size(), QImage::Format_Grayscale8);
+    near.fill(0);
+    {
+        QPainter painter(&near);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.scale(scale, scale);
+        painter.setPen(QPen(Qt::white, 5 / scale));
+        for (const KestoDraw::Shape& shape : window->GetDocument().shapes)
+            painter.drawPath(shape.Outline());
+    }
+    std::vector<int> differences;
+    for (int y = 0; y < ours.height(); ++y)
+        for (int x = 0; x < ours.width(); ++x)
+            if (qGray(near.pixel(x, y)) == 0)
+                for (const int shift : {0, 8, 16})
+                    differences.push_back(std::abs(static_cast<int>(ours.pixel(x, y) >> shift & 0xFF) -
+                                                   static_cast<int>(theirs.pixel(x, y) >> shift & 0xFF)));
+    std::sort(differences.begin(), differences.end());
+    const double mean =
+        std::accumulate(differences.begin(), differences.end(), 0.0) / static_cast<double>(differences.size());
+    EXPECT_LE(mean, 2.0);
+    EXPECT_LE(differences[differences.size() * 99 / 100], 8);
 }
 
 // A drawing of one rectangle with a linear fill, its box and stops given as JSON text.
