@@ -394,6 +394,7 @@ bool MainWindow::ExportSvg(const QString& path)
     if (!Exporting(path, [&](const Document& document, const DrawingPainter::Going& going) {
             KestoTool::SvgWriter writer(document.width, document.height);
             writer.SetRasterScale(scale);
+            writer.SetPageColour(KestoRaster::Rgba{255, 255, 255, 255}); // as the PNG export's page
             for (std::size_t i = 0; i < document.shapes.size(); ++i) {
                 if (!going(static_cast<double>(i) / static_cast<double>(document.shapes.size())))
                     return false;

@@ -141,9 +141,12 @@ void SvgWriter::AddShape(const Path& outline, const KestoGDI::CFill& fill, const
 
 std::string SvgWriter::Document() const
 {
+    const std::string page = m_page ? "<rect width=\"" + SvgNumber(m_width) + "\" height=\"" + SvgNumber(m_height) +
+                                          "\" fill=\"" + Hex(*m_page) + "\"/>"
+                                    : std::string();
     return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" +
            SvgNumber(m_width) + "\" height=\"" + SvgNumber(m_height) + "\" viewBox=\"0 0 " + SvgNumber(m_width) + " " +
-           SvgNumber(m_height) + "\"><defs>" + m_defs + "</defs>" + m_body + "</svg>\n";
+           SvgNumber(m_height) + "\"><defs>" + m_defs + "</defs>" + page + m_body + "</svg>\n";
 }
 
 } // namespace KestoTool

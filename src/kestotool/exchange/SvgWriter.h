@@ -23,6 +23,8 @@ public:
     // Pixels per drawing unit of the images that stand for kinds SVG has no paint for (and of
     // the tiles of vector fills); 1 unless set.
     void SetRasterScale(double pixelsPerUnit) { m_rasterScale = pixelsPerUnit; }
+    // The page's colour under the shapes (nothing: none, the page is transparent).
+    void SetPageColour(std::optional<KestoRaster::Rgba> colour) { m_page = colour; }
 
     // A shape: its outline filled with fill, through transparency when given, and then the
     // outline drawn as a hairline of one pixel in stroke's colour when given.
@@ -41,6 +43,7 @@ private:
     double m_width;
     double m_height;
     double m_rasterScale = 1;
+    std::optional<KestoRaster::Rgba> m_page;
     std::string m_defs;
     std::string m_body;
     int m_shapes = 0;

@@ -704,7 +704,7 @@ TEST_F(KestoDrawWindow, TheSvgExportShowsInARealRendererAsThePngExportDoes)
     ASSERT_TRUE(window->ExportPng(png));
     const QImage ours = QImage(png).convertToFormat(QImage::Format_RGB32);
     const QString shown = folder.filePath("shown.png");
-    const QString command = QStringLiteral("rsvg-convert -b white -w %1 -h %2 -o '%3' '%4'")
+    const QString command = QStringLiteral("rsvg-convert -w %1 -h %2 -o '%3' '%4'")
                                 .arg(ours.width())
                                 .arg(ours.height())
                                 .arg(shown, svg);
