@@ -1,6 +1,6 @@
 #include "kestotool/exchange/SvgPaint.h"
 
-#include "kestotool/exchange/SvgNumber_p.h"
+#include "kestotool/exchange/SvgText_p.h"
 
 #include <algorithm>
 #include <cmath>
@@ -158,6 +158,12 @@ std::optional<SvgPaint::Fill> Diamond(const Paint& paint, const std::string& id,
     return fill;
 }
 
+std::string Covering(const std::string& id, double x0, double y0, double x1, double y1)
+{
+    return "<rect x=\"" + SvgNumber(x0) + "\" y=\"" + SvgNumber(y0) + "\" width=\"" + SvgNumber(x1 - x0) +
+           "\" height=\"" + SvgNumber(y1 - y0) + "\" fill=\"url(#" + id + ")\"/>";
+}
+
 } // namespace
 
 std::optional<SvgPaint::Fill> SvgPaint::Area(const Paint& paint, const std::string& id, double x0, double y0,
@@ -168,9 +174,7 @@ std::optional<SvgPaint::Fill> SvgPaint::Area(const Paint& paint, const std::stri
     std::optional<std::string> gradient = Gradient(paint, id);
     if (!gradient)
         return std::nullopt;
-    return Fill{std::move(*gradient), "<rect x=\"" + SvgNumber(x0) + "\" y=\"" + SvgNumber(y0) + "\" width=\"" +
-                                          SvgNumber(x1 - x0) + "\" height=\"" + SvgNumber(y1 - y0) + "\" fill=\"url(#" +
-                                          id + ")\"/>"};
+    return Fill{std::move(*gradient), Covering(id, x0, y0, x1, y1)};
 }
 
 } // namespace KestoTool

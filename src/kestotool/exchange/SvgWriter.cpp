@@ -1,6 +1,6 @@
 #include "kestotool/exchange/SvgWriter.h"
 
-#include "kestotool/exchange/SvgNumber_p.h"
+#include "kestotool/exchange/SvgText_p.h"
 #include "kestotool/exchange/SvgPaint.h"
 #include "kestotool/gdi/FillPaint.h"
 #include "kestotool/gdi/PngFile.h"
@@ -19,23 +19,6 @@ using KestoRaster::Path;
 using KestoRaster::Point;
 
 namespace {
-
-std::string Base64(const std::vector<std::uint8_t>& bytes)
-{
-    static constexpr char kDigits[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
-    std::string out;
-    out.reserve((bytes.size() + 2) / 3 * 4);
-    for (std::size_t i = 0; i < bytes.size(); i += 3) {
-        const std::uint32_t n = static_cast<std::uint32_t>(bytes[i]) << 16 |
-                                (i + 1 < bytes.size() ? static_cast<std::uint32_t>(bytes[i + 1]) << 8 : 0u) |
-                                (i + 2 < bytes.size() ? bytes[i + 2] : 0u);
-        out += kDigits[n >> 18 & 63];
-        out += kDigits[n >> 12 & 63];
-        out += i + 1 < bytes.size() ? kDigits[n >> 6 & 63] : '=';
-        out += i + 2 < bytes.size() ? kDigits[n & 63] : '=';
-    }
-    return out;
-}
 
 // The outline as path data; its bounds (of every point, controls included) in box.
 std::string PathData(const Path& path, double box[4])
