@@ -388,17 +388,9 @@ void ToolHost::UpdateTransparency(const CFill* fill, const wchar_t* undoName, bo
 
 void ToolHost::SetFillType(const KestoPlatform::CRuntimeClass* fillClass)
 {
-    Shape* shape = SelectedShape();
-    if (!shape || !fillClass)
-        return;
-    // Which of the shape's fills it replaces: a fill's kind says whether it is a transparency.
-    const RefPtr<CFill> kind = CFill::CreateFromClass(fillClass);
-    if (!kind)
-        return;
-    const RefPtr<CFill> fresh =
-        KestoTool::ToolSession::Convert(FieldOf(*shape, kind->IsTransparency()).get(), fillClass, shape->box);
-    // A step of its own, also when it comes during a drag.
-    RecordCommit(fresh.get(), fresh->IsTransparency() ? L"Transparency Type" : L"Fill Type", fresh->IsTransparency());
+    // A step of its own, the fill of that kind made over the shape with its colours.
+    if (SelectedShape())
+        m_session.ChangeKind(fillClass);
 }
 
 void ToolHost::SetTransparencyType(const KestoPlatform::CRuntimeClass* transparencyClass)
