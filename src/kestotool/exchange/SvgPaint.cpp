@@ -23,6 +23,19 @@ double Blend(const RampStop& s, double t)
     return 3 * r * r * t * s.c1 + 3 * r * t * t * s.c2 + t * t * t;
 }
 
+// A solid paint's colour as fill attributes: the colour and, when not opaque, its opacity; a
+// transparency's level as the grey of a mask's luminance (white where it lets everything
+// through).
+std::string FillAttributes(const Rgba& c, bool level)
+{
+    const int grey = 255 - c.r;
+    char text[64];
+    std::snprintf(text, sizeof text, " fill=\"#%02x%02x%02x\"", level ? grey : c.r, level ? grey : c.g, level ? grey : c.b);
+    if (level || c.a == 255)
+        return text;
+    return text + (" fill-opacity=\"" + SvgNumber(c.a / 255.0) + "\"");
+}
+
 // A stop blend of the way from a to b. A transparency's stops are levels (red, 0 opaque .. 255
 // clear): as a mask's luminance, white lets all through.
 std::string Stop(double position, const Rgba& a, const Rgba& b, double blend, bool levels)
@@ -61,7 +74,10 @@ std::string SvgPaint::Stops(const std::vector<RampStop>& stops, bool levels)
             if (stray <= 0.5 || depth == 8)
                 return;
             split(t0, mid, depth + 1);
-            out += Stop(s.position + (next.position - s.position) * mid, a, b, Blend(s, mid), levels);
+            // On the ramp's own whole positions, as stops are kept, so that reading the stops
+            // back gives the same ramp.
+            const double at = std::round(s.position + (next.position - s.position) * mid);
+            out += Stop(at, a, b, Blend(s, (at - s.position) / (next.position - s.position)), levels);
             split(mid, t1, depth + 1);
         };
         split(0, 1, 0);
@@ -158,10 +174,11 @@ std::optional<SvgPaint::Fill> Diamond(const Paint& paint, const std::string& id,
     return fill;
 }
 
-std::string Covering(const std::string& id, double x0, double y0, double x1, double y1)
+// A rectangle over the area painted as attributes say.
+std::string Covering(double x0, double y0, double x1, double y1, const std::string& attributes)
 {
     return "<rect x=\"" + SvgNumber(x0) + "\" y=\"" + SvgNumber(y0) + "\" width=\"" + SvgNumber(x1 - x0) +
-           "\" height=\"" + SvgNumber(y1 - y0) + "\" fill=\"url(#" + id + ")\"/>";
+           "\" height=\"" + SvgNumber(y1 - y0) + "\"" + attributes + "/>";
 }
 
 } // namespace
@@ -171,10 +188,12 @@ std::optional<SvgPaint::Fill> SvgPaint::Area(const Paint& paint, const std::stri
 {
     if (paint.kind == Paint::Kind::Square)
         return Diamond(paint, id, x0, y0, x1, y1);
+    if (paint.kind == Paint::Kind::Solid && !paint.colours.empty())
+        return Fill{"", Covering(x0, y0, x1, y1, FillAttributes(paint.colours[0], paint.transparency))};
     std::optional<std::string> gradient = Gradient(paint, id);
     if (!gradient)
         return std::nullopt;
-    return Fill{std::move(*gradient), Covering(id, x0, y0, x1, y1)};
+    return Fill{std::move(*gradient), Covering(x0, y0, x1, y1, " fill=\"url(#" + id + ")\"")};
 }
 
 } // namespace KestoTool

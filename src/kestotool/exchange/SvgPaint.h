@@ -23,9 +23,10 @@ public:
         std::string defs;
         std::string elements;
     };
-    // The paint over the area [x0, x1] x [y0, y1], ids starting with id: the gradient kinds as a
-    // rectangle of their gradient; a square (diamond) paint exactly, as four wedges from its
-    // centre, each a linear gradient along its axis. Nothing for a kind not written natively.
+    // The paint over the area [x0, x1] x [y0, y1], ids starting with id: a solid colour and the
+    // gradient kinds as a rectangle of their colour or gradient; a square (diamond) paint
+    // exactly, as four wedges from its centre, each a linear gradient along its axis. Nothing
+    // for a kind not written natively.
     static std::optional<Fill> Area(const KestoRaster::Paint& paint, const std::string& id, double x0, double y0,
                                     double x1, double y1);
 

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "kestotool/gdi/CFill.h"
+#include "kestotool/kernel/RefPtr.h"
+#include "kestotool/platform/Export.h"
+#include "kestotool/raster/Paint.h"
+#include "kestotool/raster/Path.h"
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace KestoTool {
+
+// Reads the part of SVG a designer's drawing is made of into shapes with fills of this model:
+// rect, circle, ellipse, polygon, polyline and path (every command, arcs included), in groups
+// with transforms; solid fills and linear and radial gradients (href chains, both unit
+// systems, gradientTransform, stops), fill-opacity and opacity. A group clipped to one outline
+// holding one painted element reads as that outline with the element's paint, and a mask
+// painted with one gradient or colour as a transparency, which is how SvgWriter writes the
+// kinds SVG has a paint for: reading back what it wrote gives equal fills for those kinds.
+//
+// Everything else (strokes, text, images, filters, patterns, other clips and masks, style
+// sheets) is passed over and named once in the list of what was skipped. A file that is no
+// SVG, or that is damaged or outside the limits, is refused with the reason; reading never
+// expands XML entities.
+class KESTO_API SvgReader {
+public:
+    SvgReader() = delete;
+
+    struct Limits {
+        std::size_t bytes = std::size_t(64) << 20;
+        std::size_t shapes = 10000;
+        std::size_t segments = 1000000; // path segments in the whole file
+        int depth = 64;                 // nesting of groups
+        double page = 1 << 20;          // the page's longer side, in drawing units
+    };
+
+    struct Shape {
+        KestoRaster::Path outline; // drawing units
+        KestoKernel::RefPtr<const KestoGDI::CFill> fill;
+        KestoKernel::RefPtr<const KestoGDI::CFill> transparency; // null: none
+    };
+
+    struct Drawing {
+        double width = 0;
+        double height = 0;
+        // The colour of a first rectangle that covers the page exactly in one solid colour,
+        // which SVG has no other way to say; it is not among the shapes.
+        std::optional<KestoRaster::Rgba> page;
+        std::vector<Shape> shapes;
+        // What was not read, each named once, in the order met.
+        std::vector<std::string> skipped;
+    };
+
+    struct Result {
+        std::optional<Drawing> drawing;
+        std::string error; // why there is no drawing
+    };
+
+    // One user unit of the outermost viewBox (or of the page, without one) is one drawing unit
+    // scaled to the page's width and height, which units (px, pt, mm, cm, in) turn into pixels.
+    static Result Read(std::string_view text, const Limits& limits);
+    static Result Read(std::string_view text) { return Read(text, Limits()); }
+};
+
+} // namespace KestoTool
