@@ -1,11 +1,11 @@
 #include "kestotool/exchange/SvgPaint.h"
 
+#include "kestotool/exchange/StraightStops_p.h"
 #include "kestotool/exchange/SvgText_p.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
-#include <functional>
 
 namespace KestoTool {
 
@@ -15,13 +15,6 @@ using KestoRaster::RampStop;
 using KestoRaster::Rgba;
 
 namespace {
-
-// The blend of a stop towards the next at t in 0..1 (the renderer's curve).
-double Blend(const RampStop& s, double t)
-{
-    const double r = 1 - t;
-    return 3 * r * r * t * s.c1 + 3 * r * t * t * s.c2 + t * t * t;
-}
 
 // A solid paint's colour as fill attributes: the colour and, when not opaque, its opacity; a
 // transparency's level as the grey of a mask's luminance (white where it lets everything
@@ -36,18 +29,16 @@ std::string FillAttributes(const Rgba& c, bool level)
     return text + (" fill-opacity=\"" + SvgNumber(c.a / 255.0) + "\"");
 }
 
-// A stop blend of the way from a to b. A transparency's stops are levels (red, 0 opaque .. 255
-// clear): as a mask's luminance, white lets all through.
-std::string Stop(double position, const Rgba& a, const Rgba& b, double blend, bool levels)
+// A stop element. A transparency's stops are levels (red, 0 opaque .. 255 clear): as a mask's
+// luminance, white lets all through.
+std::string Stop(const RampStop& s, bool levels)
 {
-    const auto mix = [blend](std::uint8_t x, std::uint8_t y) {
-        return static_cast<int>(std::lround(x + (y - x) * blend));
-    };
-    const int grey = 255 - mix(a.r, b.r);
+    const Rgba& c = s.colour;
+    const int grey = 255 - c.r;
     char text[128];
     std::snprintf(text, sizeof text, "<stop offset=\"%s\" stop-color=\"#%02x%02x%02x\" stop-opacity=\"%s\"/>",
-                  SvgNumber(position / 10000).c_str(), levels ? grey : mix(a.r, b.r), levels ? grey : mix(a.g, b.g),
-                  levels ? grey : mix(a.b, b.b), SvgNumber(levels ? 1.0 : mix(a.a, b.a) / 255.0).c_str());
+                  SvgNumber(s.position / 10000).c_str(), levels ? grey : c.r, levels ? grey : c.g, levels ? grey : c.b,
+                  SvgNumber(levels ? 1.0 : c.a / 255.0).c_str());
     return text;
 }
 
@@ -56,32 +47,8 @@ std::string Stop(double position, const Rgba& a, const Rgba& b, double blend, bo
 std::string SvgPaint::Stops(const std::vector<RampStop>& stops, bool levels)
 {
     std::string out;
-    for (std::size_t i = 0; i < stops.size(); ++i) {
-        const RampStop& s = stops[i];
-        out += Stop(s.position, s.colour, s.colour, 0, levels);
-        if (i + 1 == stops.size() || (s.c1 == 1.0 / 3 && s.c2 == 2.0 / 3))
-            continue;
-        const RampStop& next = stops[i + 1];
-        const Rgba& a = s.colour;
-        const Rgba& b = next.colour;
-        const double span = std::max({std::abs(a.r - b.r), std::abs(a.g - b.g), std::abs(a.b - b.b),
-                                      std::abs(a.a - b.a)});
-        // Halves a piece of the curve until the straight line between its ends strays less
-        // than half a level from it (at most 2^8 pieces a segment).
-        const std::function<void(double, double, int)> split = [&](double t0, double t1, int depth) {
-            const double mid = (t0 + t1) / 2;
-            const double stray = std::abs(Blend(s, mid) - (Blend(s, t0) + Blend(s, t1)) / 2) * span;
-            if (stray <= 0.5 || depth == 8)
-                return;
-            split(t0, mid, depth + 1);
-            // On the ramp's own whole positions, as stops are kept, so that reading the stops
-            // back gives the same ramp.
-            const double at = std::round(s.position + (next.position - s.position) * mid);
-            out += Stop(at, a, b, Blend(s, (at - s.position) / (next.position - s.position)), levels);
-            split(mid, t1, depth + 1);
-        };
-        split(0, 1, 0);
-    }
+    for (const RampStop& s : StraightStops(stops))
+        out += Stop(s, levels);
     return out;
 }
 

@@ -155,7 +155,11 @@ void Arc(KestoRaster::Path& out, const K2DLtGeneral& m, Point p, double rx, doub
         span += 2 * std::numbers::pi;
     else if (!sweep && span > 0)
         span -= 2 * std::numbers::pi;
-    const int pieces = std::max(1, static_cast<int>(std::ceil(std::abs(span) / (std::numbers::pi / 2) - 1e-9)));
+    if (!std::isfinite(cx) || !std::isfinite(cy) || !std::isfinite(span) || !std::isfinite(rx * ry)) {
+        out.LineTo(user(end.x, end.y)); // radii or ends too large to place an arc: its chord
+        return;
+    }
+    const int pieces = std::clamp(static_cast<int>(std::ceil(std::abs(span) / (std::numbers::pi / 2) - 1e-9)), 1, 4);
     const double step = span / pieces, k = 4.0 / 3 * std::tan(step / 4);
     const auto on = [&](double x, double y) { // the unit circle's point on the ellipse
         return user(cx + rx * cs * x - ry * sn * y, cy + rx * sn * x + ry * cs * y);
