@@ -1,10 +1,12 @@
 #include "MainWindow.h"
 
 #include "DocumentFile.h"
+#include "ExportOptionsDialog.h"
 #include "KindIcon.h"
 #include "Palette.h"
 #include "PreferencesDialog.h"
 
+#include <kestotool/exchange/PdfWriter.h>
 #include <kestotool/exchange/SvgWriter.h>
 #include <kestotool/filltool/FillCommands.h>
 #include <kestotool/gdi/FillKinds.h>
@@ -46,6 +48,11 @@ constexpr const char* kFileFilter = "kestodraw drawings (*.kdraw)";
 constexpr int kKindIconSide = 16;
 // Exported pictures are at most this wide or high.
 constexpr double kExportSide = 2000;
+// A drawing unit is a pixel at 96 per inch.
+constexpr double kMmPerPixel = 25.4 / 96;
+constexpr double kA3LongerSideMm = 420;
+// Exports draw each shape's outline in the canvas's outline grey.
+constexpr KestoRaster::Rgba kOutline{70, 70, 70, 255};
 
 } // namespace
 
@@ -118,8 +125,19 @@ void MainWindow::BuildMenus()
     });
     file->addAction(tr("Export S&VG..."), this, [this] {
         const QString path = QFileDialog::getSaveFileName(this, tr("Export SVG"), QString(), tr("SVG drawings (*.svg)"));
-        if (!path.isEmpty())
-            ExportSvg(path);
+        if (path.isEmpty())
+            return;
+        ExportOptionsDialog options(false, DefaultExportOptions(false), this);
+        if (options.exec() == QDialog::Accepted)
+            ExportSvg(path, options.Options());
+    });
+    file->addAction(tr("Export P&DF..."), this, [this] {
+        const QString path = QFileDialog::getSaveFileName(this, tr("Export PDF"), QString(), tr("PDF documents (*.pdf)"));
+        if (path.isEmpty())
+            return;
+        ExportOptionsDialog options(true, DefaultExportOptions(true), this);
+        if (options.exec() == QDialog::Accepted)
+            ExportPdf(path, options.Options());
     });
     file->addSeparator();
     file->addAction(tr("&Quit"), QKeySequence::Quit, this, &QWidget::close);
@@ -386,33 +404,69 @@ bool MainWindow::ExportPng(const QString& path)
     return false;
 }
 
-bool MainWindow::ExportSvg(const QString& path)
+MainWindow::ExportOptions MainWindow::DefaultExportOptions(bool pdf) const
 {
-    // The kinds SVG has no paint for are embedded as pictures at the resolution of a PNG export.
-    const double scale = std::min(1.0, kExportSide / std::max(m_document.width, m_document.height));
+    const double longer = std::max(m_document.width, m_document.height);
+    if (pdf)
+        return {std::min(longer * kMmPerPixel, kA3LongerSideMm), 300};
+    return {longer * kMmPerPixel, 96 * std::min(1.0, kExportSide / longer)};
+}
+
+bool MainWindow::WriteWhole(const QString& title, const QString& path, const std::string& bytes)
+{
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) &&
+        file.write(bytes.data(), static_cast<qint64>(bytes.size())) == static_cast<qint64>(bytes.size()) && file.commit())
+        return true;
+    ReportExportError(title, path, file.errorString());
+    return false;
+}
+
+bool MainWindow::ExportSvg(const QString& path, const ExportOptions& options)
+{
     std::string svg;
     if (!Exporting(path, [&](const Document& document, const DrawingPainter::Going& going) {
             KestoTool::SvgWriter writer(document.width, document.height);
-            writer.SetRasterScale(scale);
+            writer.SetRasterScale(options.dpi / 96); // the drawing's units are pixels at 96 per inch
             writer.SetPageColour(KestoRaster::Rgba{255, 255, 255, 255}); // as the PNG export's page
             for (std::size_t i = 0; i < document.shapes.size(); ++i) {
                 if (!going(static_cast<double>(i) / static_cast<double>(document.shapes.size())))
                     return false;
                 const Shape& shape = document.shapes[i];
                 writer.AddShape(KestoToolQt::ToRasterPath(shape.Outline()), *shape.fill, shape.transparency.get(),
-                                KestoRaster::Rgba{70, 70, 70, 255});
+                                kOutline);
             }
             svg = writer.Document();
             return true;
         }))
         return false;
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(svg.data(), static_cast<qint64>(svg.size())) ==
-                                                static_cast<qint64>(svg.size()) &&
-        file.commit())
-        return true;
-    ReportExportError(tr("Export SVG"), path, file.errorString());
-    return false;
+    return WriteWhole(tr("Export SVG"), path, svg);
+}
+
+bool MainWindow::ExportPdf(const QString& path, const ExportOptions& options)
+{
+    std::string pdf;
+    bool failed = false; // the PDF library could not finish the document
+    if (!Exporting(path, [&](const Document& document, const DrawingPainter::Going& going) {
+            const double points = options.longerSideMm / 25.4 * 72 / std::max(document.width, document.height);
+            KestoTool::PdfWriter writer(document.width, document.height, points, options.dpi);
+            writer.SetPageColour(KestoRaster::Rgba{255, 255, 255, 255});
+            for (std::size_t i = 0; i < document.shapes.size(); ++i) {
+                if (!going(static_cast<double>(i) / static_cast<double>(document.shapes.size())))
+                    return false;
+                const Shape& shape = document.shapes[i];
+                writer.AddShape(KestoToolQt::ToRasterPath(shape.Outline()), *shape.fill, shape.transparency.get(),
+                                kOutline);
+            }
+            pdf = writer.Document();
+            failed = pdf.empty();
+            return !failed;
+        })) {
+        if (failed)
+            ReportExportError(tr("Export PDF"), path, tr("the PDF library could not make the document"));
+        return false;
+    }
+    return WriteWhole(tr("Export PDF"), path, pdf);
 }
 
 void MainWindow::NewDrawing()

@@ -53,9 +53,23 @@ public:
     // Paints the page on a worker, showing progress when it takes long; false when it could
     // not be written (reported) or was cancelled or another export is under way (not reported).
     bool ExportPng(const QString& path);
+    // The size and resolution of an SVG or PDF export: the page's longer side (PDF; SVG keeps
+    // the drawing's units, a pixel each) and the resolution of the pictures that stand for the
+    // kinds the format has no paint for.
+    struct ExportOptions {
+        double longerSideMm = 0;
+        double dpi = 0;
+    };
+    // SVG: pictures as sharp as the PNG export's; PDF: the drawing at a pixel a unit but no
+    // larger than A3, pictures at 300 dpi.
+    ExportOptions DefaultExportOptions(bool pdf) const;
     // The drawing as SVG: native gradients where SVG has the kind, the renderer's pictures
     // elsewhere; as ExportPng, on a worker.
-    bool ExportSvg(const QString& path);
+    bool ExportSvg(const QString& path) { return ExportSvg(path, DefaultExportOptions(false)); }
+    bool ExportSvg(const QString& path, const ExportOptions& options);
+    // The drawing as PDF: shadings and patch meshes where PDF has the kind, pictures elsewhere.
+    bool ExportPdf(const QString& path) { return ExportPdf(path, DefaultExportOptions(true)); }
+    bool ExportPdf(const QString& path, const ExportOptions& options);
     void NewDrawing();
     // Takes up a copy that an autosave left (a crash's): the drawing, untitled and unsaved; the
     // copy is removed once this window's own autosave holds it.
@@ -76,6 +90,8 @@ private:
     template <class Work>
     bool Exporting(const QString& path, Work work);
     void ReportExportError(const QString& title, const QString& path, const QString& reason);
+    // Writes the bytes whole or not at all; reports why not.
+    bool WriteWhole(const QString& title, const QString& path, const std::string& bytes);
     void BuildMenus();
     void BuildToolBars();
     void ShowContextBar();

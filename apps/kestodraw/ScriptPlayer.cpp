@@ -147,8 +147,8 @@ bool ScriptPlayer::PlayStep(const QString& line)
         ok = ok && m_window.Open(path);
     } else if (verb == "export") {
         const QString path = file(1);
-        ok = ok && (path.endsWith(QStringLiteral(".svg"), Qt::CaseInsensitive) ? m_window.ExportSvg(path)
-                                                                               : m_window.ExportPng(path));
+        const auto is = [&path](const char* suffix) { return path.endsWith(QLatin1String(suffix), Qt::CaseInsensitive); };
+        ok = ok && (is(".svg") ? m_window.ExportSvg(path) : is(".pdf") ? m_window.ExportPdf(path) : m_window.ExportPng(path));
     } else {
         ok = false;
     }
