@@ -22,6 +22,22 @@ QPainterPath Shape::Outline() const
         }
         path.closeSubpath();
         break;
+    case Kind::Curves: {
+        const std::vector<KestoRaster::Point>& p = curves.Points();
+        std::size_t at = 0;
+        for (const KestoRaster::Path::Verb verb : curves.Verbs()) {
+            switch (verb) {
+            case KestoRaster::Path::Verb::Move: path.moveTo(p[at].x, p[at].y), at += 1; break;
+            case KestoRaster::Path::Verb::Line: path.lineTo(p[at].x, p[at].y), at += 1; break;
+            case KestoRaster::Path::Verb::Cubic:
+                path.cubicTo(p[at].x, p[at].y, p[at + 1].x, p[at + 1].y, p[at + 2].x, p[at + 2].y);
+                at += 3;
+                break;
+            case KestoRaster::Path::Verb::Close: path.closeSubpath(); break;
+            }
+        }
+        break;
+    }
     }
     return path;
 }
@@ -31,7 +47,8 @@ const wchar_t* Shape::Description() const
     switch (kind) {
     case Kind::Rectangle: return L"Rectangle: ";
     case Kind::Ellipse: return L"Ellipse: ";
-    case Kind::Path: return L"Path: ";
+    case Kind::Path:
+    case Kind::Curves: return L"Path: ";
     }
     return L"";
 }
@@ -39,9 +56,13 @@ const wchar_t* Shape::Description() const
 void Shape::Offset(int dx, int dy)
 {
     const auto move = [dx, dy](const KestoPlatform::CPoint& p) { return Kesto2D::OffsetPoint(p, dx, dy); };
+    const KestoPlatform::CRect before = box;
     box = KestoPlatform::CRect(move(box.TopLeft()), move(box.BottomRight()));
     for (KestoPlatform::CPoint& p : points)
         p = move(p);
+    // The curves move as far as the box did (which stops at the coordinate range).
+    if (!curves.IsEmpty())
+        curves = curves.Mapped({1, 0, 0, 1, double(box.left - before.left), double(box.top - before.top)});
     const Kesto2D::K2DLtGeneral shift(Kesto2D::K2DLtTranslate(dx, dy));
     for (KestoKernel::RefPtr<const KestoGDI::CFill>* f : {&fill, &transparency}) {
         if (!*f)

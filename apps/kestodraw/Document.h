@@ -3,21 +3,25 @@
 #include <kestotool/gdi/CFill.h>
 #include <kestotool/platform/CPoint.h>
 #include <kestotool/platform/CRect.h>
+#include <kestotool/raster/Path.h>
 
 #include <QPainterPath>
 
+#include <algorithm>
 #include <vector>
 
 namespace KestoDraw {
 
-// One shape of a drawing, in document units: a rectangle, an ellipse in its box, or a closed
-// path through its corners. Fills are shared and never changed once a shape holds them.
+// One shape of a drawing, in document units: a rectangle, an ellipse in its box, a closed path
+// through its corners, or an outline of lines and curves (as an imported drawing brings them).
+// Fills are shared and never changed once a shape holds them.
 struct Shape {
-    enum class Kind { Rectangle, Ellipse, Path };
+    enum class Kind { Rectangle, Ellipse, Path, Curves };
 
     Kind kind = Kind::Rectangle;
     KestoPlatform::CRect box;                                // normalized; a path's bounds
     std::vector<KestoPlatform::CPoint> points;               // a path's corners
+    KestoRaster::Path curves;                                // the outline of curves
     KestoKernel::RefPtr<const KestoGDI::CFill> fill;         // never null
     KestoKernel::RefPtr<const KestoGDI::CFill> transparency; // null: none
 
@@ -25,7 +29,11 @@ struct Shape {
     // Whether the other shape has the same outline (fills aside).
     bool SameOutline(const Shape& other) const
     {
-        return kind == other.kind && box == other.box && points == other.points;
+        return kind == other.kind && box == other.box && points == other.points &&
+               curves.Verbs() == other.curves.Verbs() &&
+               std::equal(curves.Points().begin(), curves.Points().end(), other.curves.Points().begin(),
+                          other.curves.Points().end(),
+                          [](const auto& a, const auto& b) { return a.x == b.x && a.y == b.y; });
     }
     // The name that starts every hint line about the shape ("Rectangle: ").
     const wchar_t* Description() const;

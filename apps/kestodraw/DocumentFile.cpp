@@ -25,7 +25,6 @@ namespace {
 constexpr int kMaxPage = 1 << 20;
 // Far beyond what a person draws, and bounded so that a hostile file's painting stays bounded.
 constexpr int kMaxPathCorners = 20000;
-constexpr int kMaxShapes = 10000;
 constexpr qint64 kMaxFileBytes = qint64(256) << 20;
 
 const char* KindName(Shape::Kind kind)
@@ -34,8 +33,23 @@ const char* KindName(Shape::Kind kind)
     case Shape::Kind::Rectangle: return "rectangle";
     case Shape::Kind::Ellipse: return "ellipse";
     case Shape::Kind::Path: return "path";
+    case Shape::Kind::Curves: return "curves";
     }
     return "";
+}
+
+// The whole units that hold the outline's points (its controls too), within the coordinate range.
+KestoPlatform::CRect CurvesBox(const KestoRaster::Path& curves)
+{
+    double box[4] = {1e300, 1e300, -1e300, -1e300};
+    for (const KestoRaster::Point p : curves.Points())
+        box[0] = std::min(box[0], p.x), box[1] = std::min(box[1], p.y), box[2] = std::max(box[2], p.x),
+        box[3] = std::max(box[3], p.y);
+    const auto whole = [](double v) {
+        return static_cast<int>(std::clamp(v, -double(Kesto2D::CoordinateLimit), double(Kesto2D::CoordinateLimit)));
+    };
+    return KestoPlatform::CRect(whole(std::floor(box[0])), whole(std::floor(box[1])), whole(std::ceil(box[2])),
+                                whole(std::ceil(box[3])));
 }
 
 QJsonObject WriteShape(const Shape& shape)
@@ -49,6 +63,8 @@ QJsonObject WriteShape(const Shape& shape)
             points.append(QJsonArray{p.x, p.y});
         out["points"] = points;
     }
+    if (shape.kind == Shape::Kind::Curves)
+        out["outline"] = FillJson::WritePath(shape.curves);
     if (shape.transparency)
         out["transparency"] = FillJson::Write(*shape.transparency);
     return out;
@@ -75,9 +91,11 @@ Shape ReadShape(const QJsonValue& value, FillJson::Pictures& pictures)
         shape.kind = Shape::Kind::Ellipse;
     else if (kind == "path")
         shape.kind = Shape::Kind::Path;
+    else if (kind == "curves")
+        shape.kind = Shape::Kind::Curves;
     else
         throw FormatError(
-            QStringLiteral("a shape's kind should be rectangle, ellipse or path, not \"%1\"").arg(Excerpt(kind)));
+            QStringLiteral("a shape's kind should be rectangle, ellipse, path or curves, not \"%1\"").arg(Excerpt(kind)));
     const QJsonArray box = Array(in, "box");
     if (box.size() != 4)
         throw FormatError(QStringLiteral("\"box\" should be four numbers: left, top, right, bottom"));
@@ -101,6 +119,14 @@ Shape ReadShape(const QJsonValue& value, FillJson::Pictures& pictures)
         const auto [ys, ye] = std::minmax_element(shape.points.begin(), shape.points.end(),
                                                   [](const auto& a, const auto& b) { return a.y < b.y; });
         shape.box = KestoPlatform::CRect(xs->x, ys->y, xe->x, ye->y);
+    }
+    if (shape.kind == Shape::Kind::Curves) {
+        const QJsonArray outline = Array(in, "outline");
+        if (outline.isEmpty() || outline.size() > DocumentFile::MaxOutlineSegments)
+            throw FormatError(
+                QStringLiteral("an outline should have 1 to %1 segments").arg(DocumentFile::MaxOutlineSegments));
+        shape.curves = FillJson::ReadPath(outline);
+        shape.box = CurvesBox(shape.curves);
     }
     shape.fill = FillJson::Read(in.value("fill"), &pictures);
     if (shape.fill->IsTransparency())
@@ -149,9 +175,9 @@ Document DocumentFile::Read(const QByteArray& bytes)
     document.width = Coordinate(page[0], "the page width", 1, kMaxPage);
     document.height = Coordinate(page[1], "the page height", 1, kMaxPage);
     const QJsonArray shapes = Array(root, "shapes");
-    if (shapes.size() > kMaxShapes)
+    if (shapes.size() > DocumentFile::MaxShapes)
         throw FormatError(
-            QStringLiteral("it has %1 shapes; a drawing holds at most %2").arg(shapes.size()).arg(kMaxShapes));
+            QStringLiteral("it has %1 shapes; a drawing holds at most %2").arg(shapes.size()).arg(DocumentFile::MaxShapes));
     FillJson::Pictures pictures;
     for (const QJsonValue& shape : shapes)
         document.shapes.push_back(ReadShape(shape, pictures));

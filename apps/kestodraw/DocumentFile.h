@@ -16,6 +16,10 @@ public:
     DocumentFile() = delete;
 
     static constexpr int Version = 1;
+    // Far beyond what a person draws, and bounded so that a hostile file's painting stays
+    // bounded; a drawing brought in from elsewhere is held to the same.
+    static constexpr int MaxShapes = 10000;
+    static constexpr int MaxOutlineSegments = 100000;
 
     static QByteArray Write(const Document& document);
     // The drawing in bytes; throws FormatError saying what is wrong with anything else.

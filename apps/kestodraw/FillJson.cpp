@@ -128,69 +128,13 @@ RefPtr<const CLtBitmap> ReadBitmap(const QString& base64)
     return bitmap;
 }
 
-QJsonArray WritePath(const KestoRaster::Path& path)
-{
-    using Verb = KestoRaster::Path::Verb;
-    QJsonArray out;
-    auto point = path.Points().begin();
-    const auto take = [&](QJsonArray& segment, int count) {
-        for (int i = 0; i < count; ++i, ++point)
-            segment << point->x << point->y;
-    };
-    for (const Verb verb : path.Verbs()) {
-        QJsonArray segment;
-        switch (verb) {
-        case Verb::Move:
-            segment << "M";
-            take(segment, 1);
-            break;
-        case Verb::Line:
-            segment << "L";
-            take(segment, 1);
-            break;
-        case Verb::Cubic:
-            segment << "C";
-            take(segment, 3);
-            break;
-        case Verb::Close: segment << "Z"; break;
-        }
-        out.append(segment);
-    }
-    return out;
-}
-
-KestoRaster::Path ReadPath(const QJsonArray& in)
-{
-    KestoRaster::Path path;
-    for (const QJsonValue& value : in) {
-        const QJsonArray segment = value.toArray();
-        const QString verb = segment.isEmpty() ? QString() : segment[0].toString();
-        const qsizetype numbers = verb == "M" || verb == "L" ? 2 : verb == "C" ? 6 : verb == "Z" ? 0 : -1;
-        if (numbers < 0 || segment.size() != numbers + 1)
-            throw FormatError(QStringLiteral("a path segment should be [\"M\", x, y], [\"L\", x, y], "
-                                             "[\"C\", x1, y1, x2, y2, x, y] or [\"Z\"]"));
-        std::array<KestoRaster::Point, 3> p{};
-        for (qsizetype i = 0; i < numbers; ++i)
-            (i % 2 ? p[i / 2].y : p[i / 2].x) = Number(segment[i + 1], "a path point", -kLimit, kLimit);
-        if (verb == "M")
-            path.MoveTo(p[0]);
-        else if (verb == "L")
-            path.LineTo(p[0]);
-        else if (verb == "C")
-            path.CubicTo(p[0], p[1], p[2]);
-        else
-            path.Close();
-    }
-    return path;
-}
-
 KestoKernel::RefPtr<CFill> ReadFill(const QJsonValue& value, int depth, FillJson::Pictures* pictures);
 
 QJsonObject WriteDrawing(const VectorDrawing& drawing)
 {
     QJsonArray shapes;
     for (const VectorDrawing::Shape& shape : drawing.GetShapes()) {
-        QJsonObject s{{"path", WritePath(shape.outline)}};
+        QJsonObject s{{"path", FillJson::WritePath(shape.outline)}};
         if (shape.fill)
             s["fill"] = FillJson::Write(*shape.fill);
         shapes.append(s);
@@ -206,7 +150,7 @@ RefPtr<const VectorDrawing> ReadDrawing(const QJsonObject& in, int depth, FillJs
         RefPtr<const CFill> fill;
         if (s.contains("fill"))
             fill = ReadFill(s.value("fill"), depth + 1, pictures);
-        drawing->AddShape(ReadPath(Array(s, "path")), std::move(fill));
+        drawing->AddShape(FillJson::ReadPath(Array(s, "path")), std::move(fill));
     }
     return drawing;
 }
@@ -397,6 +341,62 @@ KestoKernel::RefPtr<CFill> ReadFill(const QJsonValue& value, int depth, FillJson
 }
 
 } // namespace
+
+QJsonArray FillJson::WritePath(const KestoRaster::Path& path)
+{
+    using Verb = KestoRaster::Path::Verb;
+    QJsonArray out;
+    auto point = path.Points().begin();
+    const auto take = [&](QJsonArray& segment, int count) {
+        for (int i = 0; i < count; ++i, ++point)
+            segment << point->x << point->y;
+    };
+    for (const Verb verb : path.Verbs()) {
+        QJsonArray segment;
+        switch (verb) {
+        case Verb::Move:
+            segment << "M";
+            take(segment, 1);
+            break;
+        case Verb::Line:
+            segment << "L";
+            take(segment, 1);
+            break;
+        case Verb::Cubic:
+            segment << "C";
+            take(segment, 3);
+            break;
+        case Verb::Close: segment << "Z"; break;
+        }
+        out.append(segment);
+    }
+    return out;
+}
+
+KestoRaster::Path FillJson::ReadPath(const QJsonArray& in)
+{
+    KestoRaster::Path path;
+    for (const QJsonValue& value : in) {
+        const QJsonArray segment = value.toArray();
+        const QString verb = segment.isEmpty() ? QString() : segment[0].toString();
+        const qsizetype numbers = verb == "M" || verb == "L" ? 2 : verb == "C" ? 6 : verb == "Z" ? 0 : -1;
+        if (numbers < 0 || segment.size() != numbers + 1)
+            throw FormatError(QStringLiteral("a path segment should be [\"M\", x, y], [\"L\", x, y], "
+                                             "[\"C\", x1, y1, x2, y2, x, y] or [\"Z\"]"));
+        std::array<KestoRaster::Point, 3> p{};
+        for (qsizetype i = 0; i < numbers; ++i)
+            (i % 2 ? p[i / 2].y : p[i / 2].x) = Number(segment[i + 1], "a path point", -kLimit, kLimit);
+        if (verb == "M")
+            path.MoveTo(p[0]);
+        else if (verb == "L")
+            path.LineTo(p[0]);
+        else if (verb == "C")
+            path.CubicTo(p[0], p[1], p[2]);
+        else
+            path.Close();
+    }
+    return path;
+}
 
 QJsonObject FillJson::Write(const CFill& fill)
 {

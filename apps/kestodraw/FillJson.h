@@ -3,7 +3,9 @@
 #include <kestotool/gdi/CColour.h>
 #include <kestotool/gdi/CFill.h>
 #include <kestotool/gdi/CLtBitmap.h>
+#include <kestotool/raster/Path.h>
 
+#include <QJsonArray>
 #include <QJsonObject>
 
 #include <map>
@@ -43,6 +45,9 @@ public:
 
     static QJsonObject WriteColour(const KestoGDI::CColour& colour);
     static std::unique_ptr<KestoGDI::CColour> ReadColour(const QJsonValue& value);
+    // An outline as segments ["M", x, y], ["L", x, y], ["C", x1, y1, x2, y2, x, y], ["Z"].
+    static QJsonArray WritePath(const KestoRaster::Path& path);
+    static KestoRaster::Path ReadPath(const QJsonArray& in);
 };
 
 } // namespace KestoDraw

@@ -7,6 +7,7 @@
 #include "PreferencesDialog.h"
 
 #include <kestotool/exchange/PdfWriter.h>
+#include <kestotool/exchange/SvgReader.h>
 #include <kestotool/exchange/SvgWriter.h>
 #include <kestotool/filltool/FillCommands.h>
 #include <kestotool/gdi/FillKinds.h>
@@ -117,6 +118,11 @@ void MainWindow::BuildMenus()
         const QString path = QFileDialog::getSaveFileName(this, tr("Save Drawing"), m_path, tr(kFileFilter));
         if (!path.isEmpty())
             SaveAs(path);
+    });
+    file->addAction(tr("&Import SVG..."), this, [this] {
+        const QString path = QFileDialog::getOpenFileName(this, tr("Import SVG"), QString(), tr("SVG drawings (*.svg)"));
+        if (!path.isEmpty())
+            ImportSvg(path);
     });
     file->addAction(tr("&Export PNG..."), QKeySequence(Qt::CTRL | Qt::Key_E), this, [this] {
         const QString path = QFileDialog::getSaveFileName(this, tr("Export PNG"), QString(), tr("PNG images (*.png)"));
@@ -467,6 +473,63 @@ bool MainWindow::ExportPdf(const QString& path, const ExportOptions& options)
         return false;
     }
     return WriteWhole(tr("Export PDF"), path, pdf);
+}
+
+bool MainWindow::ImportSvg(const QString& path)
+{
+    const QString name = QFileInfo(path).fileName();
+    const KestoTool::SvgReader::Limits limits{.shapes = DocumentFile::MaxShapes,
+                                              .pathSegments = DocumentFile::MaxOutlineSegments};
+    QFile file(path);
+    QString error;
+    std::optional<KestoTool::SvgReader::Drawing> drawing;
+    if (!file.open(QIODevice::ReadOnly)) {
+        error = file.errorString();
+    } else if (file.size() > static_cast<qint64>(limits.bytes)) {
+        error = tr("it is %1 MB; SVG files up to %2 MB are read").arg(file.size() >> 20).arg(limits.bytes >> 20);
+    } else {
+        const QByteArray bytes = file.readAll();
+        KestoTool::SvgReader::Result read =
+            KestoTool::SvgReader::Read(std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())), limits);
+        error = QString::fromStdString(read.error);
+        drawing = std::move(read.drawing);
+    }
+    if (!drawing) {
+        m_reportError(tr("Import SVG"), tr("%1 could not be imported: %2").arg(name, error));
+        return false;
+    }
+    Document imported;
+    imported.width = static_cast<int>(std::lround(drawing->width));
+    imported.height = static_cast<int>(std::lround(drawing->height));
+    for (KestoTool::SvgReader::Shape& read : drawing->shapes) {
+        Shape shape;
+        shape.kind = Shape::Kind::Curves;
+        shape.curves = std::move(read.outline);
+        const QRectF bounds = shape.Outline().controlPointRect();
+        shape.box = KestoPlatform::CRect(static_cast<int>(std::floor(bounds.left())), static_cast<int>(std::floor(bounds.top())),
+                                         static_cast<int>(std::ceil(bounds.right())),
+                                         static_cast<int>(std::ceil(bounds.bottom())));
+        shape.fill = std::move(read.fill);
+        shape.transparency = std::move(read.transparency);
+        imported.shapes.push_back(std::move(shape));
+    }
+    if (drawing->page && !(*drawing->page == KestoRaster::Rgba{255, 255, 255, 255}))
+        drawing->skipped.push_back("the page's colour");
+    m_document = std::move(imported);
+    m_path.clear();
+    m_undo.clear();
+    m_undo.resetClean();
+    m_canvas->DocumentReplaced();
+    m_canvas->FitPage();
+    UpdateTitle();
+    if (!drawing->skipped.empty()) {
+        QStringList skipped;
+        for (const std::string& what : drawing->skipped)
+            skipped << QString::fromStdString(what);
+        m_reportError(tr("Import SVG"), tr("%1 holds what kestodraw does not draw, left out: %2.")
+                                            .arg(name, skipped.join(QStringLiteral(", "))));
+    }
+    return true;
 }
 
 void MainWindow::NewDrawing()

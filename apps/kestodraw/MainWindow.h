@@ -70,6 +70,9 @@ public:
     // The drawing as PDF: shadings and patch meshes where PDF has the kind, pictures elsewhere.
     bool ExportPdf(const QString& path) { return ExportPdf(path, DefaultExportOptions(true)); }
     bool ExportPdf(const QString& path, const ExportOptions& options);
+    // A new, untitled drawing of what an SVG file holds (SvgReader); what it could not read is
+    // listed once. On failure reports why and keeps the current drawing.
+    bool ImportSvg(const QString& path);
     void NewDrawing();
     // Takes up a copy that an autosave left (a crash's): the drawing, untitled and unsaved; the
     // copy is removed once this window's own autosave holds it.

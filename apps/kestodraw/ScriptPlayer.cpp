@@ -106,8 +106,8 @@ bool ScriptPlayer::PlayStep(const QString& line)
                                                     : QKeyCombination());
         for (const QAction* action : m_window.findChildren<QAction*>()) {
             if (ok && !action->shortcut().isEmpty() && action->shortcut() == pressed) {
-                m_error = QStringLiteral("\"%1\" is the key of %2, which opens a dialog: use the command, save, open "
-                                         "or export steps")
+                m_error = QStringLiteral("\"%1\" is the key of %2, which opens a dialog: use the command, save, open, "
+                                         "import or export steps")
                               .arg(JsonRead::Excerpt(text), action->text().remove('&'));
                 return false;
             }
@@ -145,6 +145,9 @@ bool ScriptPlayer::PlayStep(const QString& line)
     } else if (verb == "open") {
         const QString path = file(1);
         ok = ok && m_window.Open(path);
+    } else if (verb == "import") {
+        const QString path = file(1);
+        ok = ok && m_window.ImportSvg(path);
     } else if (verb == "export") {
         const QString path = file(1);
         const auto is = [&path](const char* suffix) { return path.endsWith(QLatin1String(suffix), Qt::CaseInsensitive); };

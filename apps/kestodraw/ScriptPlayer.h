@@ -24,7 +24,8 @@ class MainWindow;
 //   kind TYPE                                (the type box or the tool's type combo: a type number)
 //   command undo|redo|fit|zoom-in|zoom-out|delete|autosave
 //   hold                                     (stays there until the program is closed or killed)
-//   save PATH   open PATH   export PATH      (relative paths lie in the output folder)
+//   save PATH   open PATH   import PATH.svg   export PATH (.png, .svg or .pdf; relative paths lie
+//                                            in the output folder)
 class ScriptPlayer {
 public:
     ScriptPlayer(MainWindow& window, const QDir& output) : m_window(window), m_output(output) {}

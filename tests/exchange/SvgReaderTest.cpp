@@ -121,7 +121,7 @@ TEST(SvgReader, RefusesDamagedAndHostileFiles)
     } cases[] = {
         {arc.substr(0, arc.size() / 2), "well-formed"},
         {laughs, "entities"},
-        {commands, "path segments"},
+        {commands, "segments"},
         {"<svg xmlns='http://www.w3.org/2000/svg' width='1e308' height='10'/>", "the page is"},
         {"<html><body/></html>", "not SVG"},
         {"", "well-formed"},

@@ -59,22 +59,7 @@ Point Apply(const K2DLtGeneral& m, Point p)
 
 Path Mapped(const Path& path, const K2DLtGeneral& m)
 {
-    Path out;
-    std::size_t at = 0;
-    const auto next = [&] { return Apply(m, path.Points()[at++]); };
-    for (const Path::Verb verb : path.Verbs()) {
-        switch (verb) {
-        case Path::Verb::Move: out.MoveTo(next()); break;
-        case Path::Verb::Line: out.LineTo(next()); break;
-        case Path::Verb::Cubic: {
-            const Point c1 = next(), c2 = next();
-            out.CubicTo(c1, c2, next());
-            break;
-        }
-        case Path::Verb::Close: out.Close(); break;
-        }
-    }
-    return out;
+    return path.Mapped({m.GetM11(), m.GetM12(), m.GetM21(), m.GetM22(), m.GetTranslation().dx, m.GetTranslation().dy});
 }
 
 // A shape as read, its paint still in the renderer's terms (solid, linear, radial, elliptical,
@@ -449,7 +434,10 @@ std::optional<Path> Reader::Outline(const pugi::xml_node& node, std::string_view
         data = node.attribute("d").value();
     }
     if (!data.empty()) {
-        SvgSyntax::PathData read = SvgSyntax::Path(data, {}, m_limits.segments - m_segments);
+        const std::size_t room = std::min(m_limits.pathSegments, m_limits.segments - m_segments);
+        SvgSyntax::PathData read = SvgSyntax::Path(data, {}, room);
+        if (read.tooMany && room == m_limits.pathSegments)
+            throw Refused("a path has more than " + std::to_string(m_limits.pathSegments) + " segments");
         if (read.tooMany)
             throw Refused("the file has more than " + std::to_string(m_limits.segments) + " path segments");
         path = std::move(read.path);

@@ -33,7 +33,8 @@ public:
     struct Limits {
         std::size_t bytes = std::size_t(64) << 20;
         std::size_t shapes = 10000;
-        std::size_t segments = 1000000; // path segments in the whole file
+        std::size_t segments = 1000000;    // path segments in the whole file
+        std::size_t pathSegments = 100000; // in one shape's outline
         int depth = 64;                 // nesting of groups
         double page = 1 << 20;          // the page's longer side, in drawing units
     };
@@ -60,8 +61,9 @@ public:
         std::string error; // why there is no drawing
     };
 
-    // One user unit of the outermost viewBox (or of the page, without one) is one drawing unit
-    // scaled to the page's width and height, which units (px, pt, mm, cm, in) turn into pixels.
+    // The page's width and height are its size in drawing units (pixels at 96 per inch: pt, pc,
+    // mm, cm and in are turned into pixels); the outermost viewBox is fitted into it, centred,
+    // its aspect kept.
     static Result Read(std::string_view text, const Limits& limits);
     static Result Read(std::string_view text) { return Read(text, Limits()); }
 };

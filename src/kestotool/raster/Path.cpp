@@ -32,6 +32,14 @@ Path Path::Ellipse(Point centre, double rx, double ry)
     return p;
 }
 
+Path Path::Mapped(const Affine& m) const
+{
+    Path out = *this;
+    for (Point& p : out.m_points)
+        p = m.Apply(p);
+    return out;
+}
+
 void Path::MoveTo(Point p)
 {
     m_pieceStart = m_points.size();

@@ -25,6 +25,9 @@ public:
     // Ends the current piece; the next LineTo or CubicTo starts from its first point again.
     void Close();
     bool IsEmpty() const { return m_verbs.empty(); }
+    // The same path with every point mapped through m (an affine map takes lines and cubics to
+    // lines and cubics, so the mapped path is exact).
+    Path Mapped(const Affine& m) const;
 
     // The pieces as closed polygons under toDevice, each cubic divided finely enough that no
     // point strays more than tolerance (device pixels) from the curve. Pieces with a point that
