@@ -161,7 +161,8 @@ QImage DrawingPainter::PaintPage(const Document& document, double pixelsPerUnit,
 
 std::pair<QRect, double> DrawingPainter::UniformInside(const Shape& shape, const QTransform& view)
 {
-    if (shape.transparency || shape.kind == Shape::Kind::Path)
+    // Only a rectangle's and an ellipse's insides are known from their box.
+    if (shape.transparency || (shape.kind != Shape::Kind::Rectangle && shape.kind != Shape::Kind::Ellipse))
         return {};
     const std::optional<KestoRaster::Paint>& paint = CachedOf(*shape.fill, view.m11()).paint;
     if (!paint || paint->transparency || paint->kind == Paint::Kind::Bitmap)

@@ -499,6 +499,15 @@ TEST(DrawingPainter, WhatShapesAboveHideOrVeilIsNotPaintedAndThePictureIsTheSame
         }
         document.shapes.push_back(sample.shapes[3]);
         document.shapes.push_back(sample.shapes[0]);
+        // An opaque triangle of curves (an imported shape) hides only what its outline covers.
+        KestoDraw::Shape triangle = sample.shapes[1];
+        triangle.kind = KestoDraw::Shape::Kind::Curves;
+        triangle.curves.MoveTo({2000, 1000});
+        triangle.curves.LineTo({3000, 2000});
+        triangle.curves.LineTo({2000, 2000});
+        triangle.curves.Close();
+        triangle.box = KestoPlatform::CRect(2000, 1000, 3000, 2000);
+        document.shapes.push_back(triangle);
         const QTransform view = QTransform::fromScale(0.1, 0.1);
         const auto picture = [&](bool allAtOnce, std::int64_t* work) {
             QImage image(400, 300, QImage::Format_ARGB32_Premultiplied);
