@@ -1,5 +1,6 @@
 #include "kestotool/exchange/SvgWriter.h"
 
+#include "kestotool/gdi/CFillBitmap.h"
 #include "kestotool/gdi/CFillConical.h"
 #include "kestotool/gdi/CFillLinear.h"
 #include "kestotool/gdi/CFillRadial.h"
@@ -46,14 +47,23 @@ struct Shape {
 
 } // namespace
 
-// A drawing of a native gradient, a kind SVG has not (an embedded picture) and a gradient
-// through a gradient transparency (a mask), shown by a real SVG renderer as our renderer
+// A drawing of a native gradient, a kind SVG has not (an embedded picture), a turned bitmap
+// of mirrored tiles (a pattern) and a gradient through a gradient transparency (a mask), shown by a real SVG renderer as our renderer
 // composites it, away from the outlines' anti-aliased edges.
 TEST(SvgWriter, ARealRendererShowsTheDrawingAsOursDoes)
 {
     auto levels = KestoKernel::MakeRef<CTransparencyLinear>();
     levels->SetDefaultControls(KestoPlatform::CRect(40, 60, 180, 140));
+    // A small bitmap, turned and mirrored: an SVG pattern of its texels.
+    auto bitmap = KestoKernel::MakeRef<CLtBitmap>(8, 6);
+    for (int i = 0; i < 8 * 6; ++i)
+        bitmap->GetBits()[i] = (i % 8 + i / 8) % 3 ? 0xFF2050C0u : 0xFFF0C020u;
+    auto tiles = KestoKernel::MakeRef<CFillBitmap>();
+    tiles->SetBitmap(bitmap);
+    tiles->SetControls({120, 20}, {150, 35}, {110, 45});
+    tiles->SetWantInvertedTiling(true);
     const std::vector<Shape> shapes{
+        {Path::Rectangle({100, 5}, {195, 60}), tiles, nullptr},
         {Path::Rectangle({10, 10}, {110, 80}), Made<CFillLinear>({10, 10, 110, 80}, 0x2020C0), nullptr},
         {Path::Ellipse({130, 70}, 45, 45), Made<CFillConical>({85, 25, 175, 115}, 0x20A040), nullptr},
         {Path::Rectangle({40, 60}, {180, 140}), Made<CFillRadial>({40, 60, 180, 140}, 0xC02080), levels},

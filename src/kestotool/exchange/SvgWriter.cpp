@@ -57,23 +57,12 @@ std::string Hex(const KestoRaster::Rgba& c)
     return text;
 }
 
-} // namespace
-
-SvgWriter::SvgWriter(double width, double height) : m_width(width), m_height(height) {}
-
-std::pair<std::string, std::string> SvgWriter::PaintOf(const Paint& paint, const std::string& id, double x0, double y0,
-                                                       double x1, double y1) const
+// The paint as a PNG data URL: rendered through toImage into a w x h picture, premultiplied; a
+// transparency as a mask's luminance (white where it lets everything through).
+std::string PngOf(const Paint& paint, const KestoRaster::Affine& toImage, int w, int h)
 {
-    if (std::optional<SvgPaint::Fill> native = SvgPaint::Area(paint, id, x0, y0, x1, y1))
-        return {std::move(native->defs), std::move(native->elements)};
-    // The renderer's picture of the box, whole pixels at the raster scale.
-    const double s = m_rasterScale;
-    const int w = std::clamp(static_cast<int>(std::ceil((x1 - x0) * s)), 1, 1 << 14);
-    const int h = std::clamp(static_cast<int>(std::ceil((y1 - y0) * s)), 1, 1 << 14);
-    const KestoRaster::Affine toImage{w / (x1 - x0), 0, 0, h / (y1 - y0), -x0 * w / (x1 - x0), -y0 * h / (y1 - y0)};
     std::vector<std::uint32_t> pixels(static_cast<std::size_t>(w) * h);
     if (paint.transparency) {
-        // A mask's luminance: white where the transparency lets everything through.
         std::vector<std::uint8_t> levels(pixels.size());
         KestoRaster::Render(KestoRaster::PreparedPaint(paint, toImage, KestoRaster::Output::Mask8),
                             {levels.data(), w, h, w, KestoRaster::Output::Mask8}, {0, 0, w, h});
@@ -83,10 +72,61 @@ std::pair<std::string, std::string> SvgWriter::PaintOf(const Paint& paint, const
         KestoRaster::Render(KestoRaster::PreparedPaint(paint, toImage, KestoRaster::Output::Argb32),
                             {pixels.data(), w, h, w * 4, KestoRaster::Output::Argb32}, {0, 0, w, h});
     }
-    const std::vector<std::uint8_t> png = KestoGDI::PngFile::EncodePremultiplied(pixels.data(), w, h, w * 4);
+    return "data:image/png;base64," + Base64(KestoGDI::PngFile::EncodePremultiplied(pixels.data(), w, h, w * 4));
+}
+
+// A bitmap paint (a vector fill's tile among them) as an SVG pattern: one period of the tiling
+// (the tile, or two by two of them mirrored) in the tile's own pixels, placed by the paint's
+// points. The picture is the period's texels as the renderer shows them (recoloured, mirrored)
+// with a one-texel border of the neighbouring periods' texels, so that a renderer's smoothing
+// at the period's edges blends into the next period and no seam shows. Nothing for a paint
+// without a picture or with degenerate points.
+std::optional<std::string> BitmapPattern(const Paint& paint, const std::string& id)
+{
+    const std::vector<Point>& p = paint.points;
+    if (paint.kind != Paint::Kind::Bitmap || !paint.image || paint.image->width <= 0 || paint.image->height <= 0 ||
+        p.size() < 3)
+        return std::nullopt;
+    const double cross = (p[1].x - p[0].x) * (p[2].y - p[0].y) - (p[1].y - p[0].y) * (p[2].x - p[0].x);
+    if (!(std::abs(cross) > 0) || !std::isfinite(cross))
+        return std::nullopt;
+    const int w = paint.image->width, h = paint.image->height;
+    const int period = paint.mirroredTiles ? 2 : 1;
+    // Texel (i, j) of the period is pixel (1 + i, 1 + j) of the picture.
+    Paint texels = paint;
+    texels.points = {{1, 1}, {1.0 + w, 1}, {1, 1.0 + h}};
+    const std::string png = PngOf(texels, {}, w * period + 2, h * period + 2);
+    const double ax = (p[1].x - p[0].x) / w, ay = (p[1].y - p[0].y) / w;
+    const double bx = (p[2].x - p[0].x) / h, by = (p[2].y - p[0].y) / h;
+    return "<pattern id=\"" + id + "\" patternUnits=\"userSpaceOnUse\" x=\"0\" y=\"0\" width=\"" +
+           std::to_string(w * period) + "\" height=\"" + std::to_string(h * period) + "\" patternTransform=\"matrix(" +
+           SvgNumber(ax) + " " + SvgNumber(ay) + " " + SvgNumber(bx) + " " + SvgNumber(by) + " " + SvgNumber(p[0].x) +
+           " " + SvgNumber(p[0].y) + ")\"><image x=\"-1\" y=\"-1\" width=\"" + std::to_string(w * period + 2) +
+           "\" height=\"" + std::to_string(h * period + 2) + "\"" +
+           (paint.nearest ? " style=\"image-rendering:pixelated\"" : "") + " href=\"" + png + "\"/></pattern>";
+}
+
+} // namespace
+
+SvgWriter::SvgWriter(double width, double height) : m_width(width), m_height(height) {}
+
+std::pair<std::string, std::string> SvgWriter::PaintOf(const Paint& paint, const std::string& id, double x0, double y0,
+                                                       double x1, double y1) const
+{
+    if (std::optional<SvgPaint::Fill> native = SvgPaint::Area(paint, id, x0, y0, x1, y1))
+        return {std::move(native->defs), std::move(native->elements)};
+    if (std::optional<std::string> pattern = BitmapPattern(paint, id))
+        return {std::move(*pattern), "<rect x=\"" + SvgNumber(x0) + "\" y=\"" + SvgNumber(y0) + "\" width=\"" +
+                                         SvgNumber(x1 - x0) + "\" height=\"" + SvgNumber(y1 - y0) + "\" fill=\"url(#" +
+                                         id + ")\"/>"};
+    // The renderer's picture of the box, whole pixels at the raster scale.
+    const double s = m_rasterScale;
+    const int w = std::clamp(static_cast<int>(std::ceil((x1 - x0) * s)), 1, 1 << 14);
+    const int h = std::clamp(static_cast<int>(std::ceil((y1 - y0) * s)), 1, 1 << 14);
+    const KestoRaster::Affine toImage{w / (x1 - x0), 0, 0, h / (y1 - y0), -x0 * w / (x1 - x0), -y0 * h / (y1 - y0)};
     return {"", "<image x=\"" + SvgNumber(x0) + "\" y=\"" + SvgNumber(y0) + "\" width=\"" + SvgNumber(x1 - x0) +
-                    "\" height=\"" + SvgNumber(y1 - y0) + "\" preserveAspectRatio=\"none\" href=\"data:image/png;base64," +
-                    Base64(png) + "\"/>"};
+                    "\" height=\"" + SvgNumber(y1 - y0) + "\" preserveAspectRatio=\"none\" href=\"" +
+                    PngOf(paint, toImage, w, h) + "\"/>"};
 }
 
 void SvgWriter::AddShape(const Path& outline, const KestoGDI::CFill& fill, const KestoGDI::CFill* transparency,
