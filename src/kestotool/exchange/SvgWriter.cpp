@@ -2,6 +2,7 @@
 
 #include "kestotool/exchange/SvgText_p.h"
 #include "kestotool/exchange/SvgPaint.h"
+#include "kestotool/gdi/CFillVector.h"
 #include "kestotool/gdi/FillPaint.h"
 #include "kestotool/gdi/PngFile.h"
 #include "kestotool/raster/PreparedPaint.h"
@@ -55,6 +56,13 @@ std::string Hex(const KestoRaster::Rgba& c)
     char text[8];
     std::snprintf(text, sizeof text, "#%02x%02x%02x", c.r, c.g, c.b);
     return text;
+}
+
+// A rectangle over the box painted with the paint server id.
+std::string Covering(const double box[4], const std::string& id)
+{
+    return "<rect x=\"" + SvgNumber(box[0]) + "\" y=\"" + SvgNumber(box[1]) + "\" width=\"" + SvgNumber(box[2] - box[0]) +
+           "\" height=\"" + SvgNumber(box[3] - box[1]) + "\" fill=\"url(#" + id + ")\"/>";
 }
 
 // The paint as a PNG data URL: rendered through toImage into a w x h picture, premultiplied; a
@@ -111,16 +119,16 @@ std::optional<std::string> BitmapPattern(const Paint& paint, const std::string& 
 SvgWriter::SvgWriter(double width, double height) : m_width(width), m_height(height) {}
 
 std::pair<std::string, std::string> SvgWriter::PaintOf(const Paint& paint, const std::string& id, double x0, double y0,
-                                                       double x1, double y1) const
+                                                       double x1, double y1, double rasterScale)
 {
     if (std::optional<SvgPaint::Fill> native = SvgPaint::Area(paint, id, x0, y0, x1, y1))
         return {std::move(native->defs), std::move(native->elements)};
-    if (std::optional<std::string> pattern = BitmapPattern(paint, id))
-        return {std::move(*pattern), "<rect x=\"" + SvgNumber(x0) + "\" y=\"" + SvgNumber(y0) + "\" width=\"" +
-                                         SvgNumber(x1 - x0) + "\" height=\"" + SvgNumber(y1 - y0) + "\" fill=\"url(#" +
-                                         id + ")\"/>"};
+    if (std::optional<std::string> pattern = BitmapPattern(paint, id)) {
+        const double box[4] = {x0, y0, x1, y1};
+        return {std::move(*pattern), Covering(box, id)};
+    }
     // The renderer's picture of the box, whole pixels at the raster scale.
-    const double s = m_rasterScale;
+    const double s = rasterScale;
     const int w = std::clamp(static_cast<int>(std::ceil((x1 - x0) * s)), 1, 1 << 14);
     const int h = std::clamp(static_cast<int>(std::ceil((y1 - y0) * s)), 1, 1 << 14);
     const KestoRaster::Affine toImage{w / (x1 - x0), 0, 0, h / (y1 - y0), -x0 * w / (x1 - x0), -y0 * h / (y1 - y0)};
@@ -136,30 +144,87 @@ void SvgWriter::AddShape(const Path& outline, const KestoGDI::CFill& fill, const
     const std::string d = PathData(outline, box);
     if (!(box[2] > box[0]) || !(box[3] > box[1]))
         return;
-    const std::string n = std::to_string(m_shapes++);
-    m_defs += "<clipPath id=\"c" + n + "\"><path d=\"" + d + "\"/></clipPath>";
+    Markup shape = ShapeMarkup(outline, fill, transparency, std::to_string(m_shapes++), m_rasterScale, 0);
+    m_defs += shape.defs;
+    m_body += shape.body;
+    if (stroke)
+        m_body += "<path d=\"" + d + "\" fill=\"none\" stroke=\"" + Hex(*stroke) +
+                  "\" stroke-width=\"1\" vector-effect=\"non-scaling-stroke\"/>";
+}
+
+SvgWriter::Markup SvgWriter::ShapeMarkup(const Path& outline, const KestoGDI::CFill& fill,
+                                         const KestoGDI::CFill* transparency, const std::string& n, double rasterScale,
+                                         int depth) const
+{
+    double box[4];
+    const std::string d = PathData(outline, box);
+    if (!(box[2] > box[0]) || !(box[3] > box[1]))
+        return {};
+    Markup out;
+    out.defs = "<clipPath id=\"c" + n + "\"><path d=\"" + d + "\"/></clipPath>";
     std::string group = "<g clip-path=\"url(#c" + n + ")\"";
     if (transparency) {
-        if (const std::optional<Paint> levels = KestoGDI::FillPaint::From(*transparency, m_rasterScale)) {
-            auto [defs, elements] = PaintOf(*levels, "t" + n, box[0], box[1], box[2], box[3]);
-            m_defs += defs + "<mask id=\"m" + n + "\" maskUnits=\"userSpaceOnUse\" x=\"" + SvgNumber(box[0]) + "\" y=\"" +
-                      SvgNumber(box[1]) + "\" width=\"" + SvgNumber(box[2] - box[0]) + "\" height=\"" +
-                      SvgNumber(box[3] - box[1]) + "\">" + elements + "</mask>";
+        if (const std::optional<Paint> levels = KestoGDI::FillPaint::From(*transparency, rasterScale)) {
+            auto [defs, elements] = PaintOf(*levels, "t" + n, box[0], box[1], box[2], box[3], rasterScale);
+            out.defs += defs + "<mask id=\"m" + n + "\" maskUnits=\"userSpaceOnUse\" x=\"" + SvgNumber(box[0]) +
+                        "\" y=\"" + SvgNumber(box[1]) + "\" width=\"" + SvgNumber(box[2] - box[0]) + "\" height=\"" +
+                        SvgNumber(box[3] - box[1]) + "\">" + elements + "</mask>";
             group += " mask=\"url(#m" + n + ")\"";
         }
     }
     std::string elements;
-    if (const std::optional<Paint> paint = KestoGDI::FillPaint::From(fill, m_rasterScale)) {
-        auto [defs, shown] = PaintOf(*paint, "p" + n, box[0], box[1], box[2], box[3]);
-        m_defs += defs;
+    const auto* vector = dynamic_cast<const KestoGDI::CFillVector*>(&fill);
+    std::optional<std::string> tiles;
+    if (vector && depth < kMaxVectorNesting)
+        tiles = VectorPattern(*vector, "p" + n, rasterScale, depth);
+    if (tiles) {
+        out.defs += *tiles;
+        elements = Covering(box, "p" + n);
+    } else if (const std::optional<Paint> paint = KestoGDI::FillPaint::From(fill, rasterScale)) {
+        auto [defs, shown] = PaintOf(*paint, "p" + n, box[0], box[1], box[2], box[3], rasterScale);
+        out.defs += defs;
         elements = std::move(shown);
     } else {
         elements = "<path d=\"" + d + "\" fill=\"#c8c8c8\"/>"; // a kind the renderer does not paint
     }
-    m_body += group + ">" + elements + "</g>";
-    if (stroke)
-        m_body += "<path d=\"" + d + "\" fill=\"none\" stroke=\"" + Hex(*stroke) +
-                  "\" stroke-width=\"1\" vector-effect=\"non-scaling-stroke\"/>";
+    out.body = group + ">" + elements + "</g>";
+    return out;
+}
+
+std::optional<std::string> SvgWriter::VectorPattern(const KestoGDI::CFillVector& fill, const std::string& id,
+                                                    double rasterScale, int depth) const
+{
+    const std::optional<KestoGDI::FillPaint::VectorGrid> grid = KestoGDI::FillPaint::GridOf(fill, rasterScale);
+    if (!grid || grid->instances.empty())
+        return std::nullopt;
+    // The drawing once, in its own coordinates; its pictures as sharp as the tile's pixels.
+    const KestoRaster::Affine& first = grid->instances.front();
+    const double scale = std::sqrt(std::abs(first.Determinant()));
+    std::string defs, drawing;
+    const std::vector<KestoGDI::VectorDrawing::Shape>& shapes = fill.GetMetaInstance()->GetShapes();
+    for (std::size_t k = 0; k < shapes.size(); ++k) {
+        if (!shapes[k].fill)
+            continue;
+        Markup shape = ShapeMarkup(shapes[k].outline, *shapes[k].fill, nullptr, id + "-" + std::to_string(k), scale,
+                                   depth + 1);
+        defs += shape.defs;
+        drawing += shape.body;
+    }
+    // Each instance, and its copies a cell away on every side: what it puts outside the cell
+    // comes in again from the other side.
+    std::string uses;
+    for (const KestoRaster::Affine& m : grid->instances)
+        for (const int oy : {-grid->height, 0, grid->height})
+            for (const int ox : {-grid->width, 0, grid->width})
+                uses += "<use href=\"#" + id + "-d\" transform=\"matrix(" + SvgNumber(m.a) + " " + SvgNumber(m.b) + " " +
+                        SvgNumber(m.c) + " " + SvgNumber(m.d) + " " + SvgNumber(m.e + ox) + " " + SvgNumber(m.f + oy) +
+                        ")\"/>";
+    const double w = grid->width, h = grid->height;
+    return defs + "<g id=\"" + id + "-d\">" + drawing + "</g><pattern id=\"" + id +
+           "\" patternUnits=\"userSpaceOnUse\" x=\"0\" y=\"0\" width=\"" + std::to_string(grid->width) +
+           "\" height=\"" + std::to_string(grid->height) + "\" patternTransform=\"matrix(" + SvgNumber(grid->a.x / w) +
+           " " + SvgNumber(grid->a.y / w) + " " + SvgNumber(grid->b.x / h) + " " + SvgNumber(grid->b.y / h) + " " +
+           SvgNumber(grid->origin.x) + " " + SvgNumber(grid->origin.y) + ")\">" + uses + "</pattern>";
 }
 
 std::string SvgWriter::Document() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kestotool/gdi/CFill.h"
+#include "kestotool/gdi/CFillVector.h"
 #include "kestotool/platform/Export.h"
 #include "kestotool/raster/Paint.h"
 #include "kestotool/raster/Path.h"
@@ -12,9 +13,11 @@ namespace KestoTool {
 
 // An SVG document of shapes painted in order on a page, each an outline filled with a fill and
 // seen through a transparency, as a drawing program paints them. The kinds SVG has a paint for
-// (SvgPaint) are written as such; the others are painted by the renderer into a PNG image over
-// the shape, embedded in the document, at the raster resolution. Coordinates are the drawing's
-// units, one user unit each.
+// (SvgPaint) are written as such; a bitmap fill is a pattern of its texels, a vector fill a
+// pattern of its drawing's own shapes and fills; the other kinds (conical, three- and
+// four-colour, plasma) are painted by the renderer into a PNG image over the shape, embedded in
+// the document, at the raster resolution. Coordinates are the drawing's units, one user unit
+// each.
 class KESTO_API SvgWriter {
 public:
     // The page, in drawing units.
@@ -35,10 +38,27 @@ public:
     std::string Document() const;
 
 private:
-    // What paints the box [x0, x1] x [y0, y1] with the paint (definitions, elements); an image
-    // from the renderer where SVG has no paint for the kind.
-    std::pair<std::string, std::string> PaintOf(const KestoRaster::Paint& paint, const std::string& id, double x0,
-                                                double y0, double x1, double y1) const;
+    // A vector fill in a vector fill's drawing is written as a pattern down to this depth, and
+    // as a picture below it.
+    static constexpr int kMaxVectorNesting = 2;
+
+    struct Markup {
+        std::string defs;
+        std::string body;
+    };
+    // A shape's definitions and elements, ids ending in n; pictures at rasterScale pixels a
+    // unit. A vector fill is a pattern of its drawing's own shapes (depth counts the drawings
+    // it is inside).
+    Markup ShapeMarkup(const KestoRaster::Path& outline, const KestoGDI::CFill& fill,
+                       const KestoGDI::CFill* transparency, const std::string& n, double rasterScale, int depth) const;
+    // The pattern that tiles a vector fill: its cell holding the drawing's shapes under each
+    // instance's map; nothing for a fill without a grid.
+    std::optional<std::string> VectorPattern(const KestoGDI::CFillVector& fill, const std::string& id,
+                                             double rasterScale, int depth) const;
+    // What paints the box [x0, x1] x [y0, y1] with the paint (definitions, elements): SVG's own
+    // paint, a pattern for a bitmap, else an image from the renderer at rasterScale.
+    static std::pair<std::string, std::string> PaintOf(const KestoRaster::Paint& paint, const std::string& id,
+                                                       double x0, double y0, double x1, double y1, double rasterScale);
 
     double m_width;
     double m_height;

@@ -137,39 +137,54 @@ private:
     }
 };
 
-// The grid of a vector fill repeats one cell, spanned from the tile's origin by the steps to
-// its x and y neighbours; with turned neighbours it repeats every second instance, so the
-// painted cell holds 2 x 2 instances.
 void PaintOfKind::Visit(const CFillVector& fill)
 {
     Paint& p = Start(Paint::Kind::Bitmap, fill);
     p.points.clear();
+    const std::optional<FillPaint::VectorGrid> grid = FillPaint::GridOf(fill, m_pixelsPerUnit);
+    if (!grid)
+        return;
+    p.points = {grid->origin, {grid->origin.x + grid->a.x, grid->origin.y + grid->a.y},
+                {grid->origin.x + grid->b.x, grid->origin.y + grid->b.y}};
+    const RefPtr<const CLtBitmap> tile = fill.GetMetaInstance()->Tile(grid->width, grid->height, grid->instances);
+    if (!tile || tile->IsEmpty())
+        return;
+    auto image = std::make_shared<Paint::Image>();
+    image->width = tile->GetWidth();
+    image->height = tile->GetHeight();
+    image->argb.assign(tile->GetBits(), tile->GetBits() + static_cast<std::size_t>(image->width) * image->height);
+    p.image = std::move(image);
+}
+
+} // namespace
+
+// The grid of a vector fill repeats one cell, spanned from the tile's origin by the steps to
+// its x and y neighbours; with turned neighbours it repeats every second instance, so the
+// painted cell holds 2 x 2 instances.
+std::optional<FillPaint::VectorGrid> FillPaint::GridOf(const CFillVector& fill, double pixelsPerUnit)
+{
     const CFillVector::Box placed = fill.GetPlacedBox();
     const CFillVector::Box box{fill.ToSpread(placed.origin), fill.ToSpread(placed.xEnd), fill.ToSpread(placed.yEnd)};
     const CFillVector::Neighbours next = fill.NeighbourOrigins(
         box, {1, 1}, CFillVector::TileRotationTransform(CFillVector::MeasureTileRotation(box.origin, box.yEnd)));
-    const VectorDrawing* drawing = fill.GetMetaInstance();
     const bool turned = fill.GetAdditionalRotation() != 0 || fill.GetAdditionalRotation2() != 0;
     const int period = turned ? 2 : 1;
     const K2DVector a = (next.a - box.origin) * period;
     const K2DVector b = (next.b - box.origin) * period;
-    for (const K2DDblPoint& q : {box.origin, box.origin + a, box.origin + b})
-        p.points.push_back({q.x, q.y});
     const K2DVector x = box.xEnd - box.origin;
     const K2DVector y = box.yEnd - box.origin;
-    if (!drawing || a.Cross(b) == 0 || x.Cross(y) == 0 || !(m_pixelsPerUnit > 0))
-        return;
+    if (!fill.GetMetaInstance() || a.Cross(b) == 0 || x.Cross(y) == 0 || !(pixelsPerUnit > 0))
+        return std::nullopt;
     const auto side = [&](const K2DVector& v) {
-        return static_cast<int>(std::clamp(std::round(v.Length() * m_pixelsPerUnit), 1.0, double(kMaxTileSide)));
+        return static_cast<int>(std::clamp(std::round(v.Length() * pixelsPerUnit), 1.0, double(kMaxTileSide)));
     };
-    const int width = side(a);
-    const int height = side(b);
+    VectorGrid grid{{box.origin.x, box.origin.y}, {a.dx, a.dy}, {b.dx, b.dy}, side(a), side(b), {}};
     // Spread space to tile pixels: the inverse of the cell's map.
-    const K2DLtGeneral cell(a.dx / width, a.dy / width, b.dx / height, b.dy / height, box.origin.x, box.origin.y);
+    const K2DLtGeneral cell(a.dx / grid.width, a.dy / grid.width, b.dx / grid.height, b.dy / grid.height, box.origin.x,
+                            box.origin.y);
     const K2DLtGeneral toTile = cell.GetInverse();
     const K2DLtGeneral place = fill.DrawingToBox(box);
     const K2DDblPoint centre = box.origin + (x + y) * 0.5;
-    std::vector<KestoRaster::Affine> instances;
     for (int j = 0; j < period; ++j) {
         for (int i = 0; i < period; ++i) {
             const double degrees = (i ? fill.GetAdditionalRotation2() : 0) + (j ? fill.GetAdditionalRotation() : 0);
@@ -181,21 +196,12 @@ void PaintOfKind::Visit(const CFillVector& fill)
                     .Then(Kesto2D::K2DLtTranslate((next.a - box.origin).dx * i + (next.b - box.origin).dx * j,
                                                   (next.a - box.origin).dy * i + (next.b - box.origin).dy * j))
                     .Then(toTile);
-            instances.push_back(
+            grid.instances.push_back(
                 {m.GetM11(), m.GetM12(), m.GetM21(), m.GetM22(), m.GetTranslation().dx, m.GetTranslation().dy});
         }
     }
-    const RefPtr<const CLtBitmap> tile = drawing->Tile(width, height, instances);
-    if (!tile || tile->IsEmpty())
-        return;
-    auto image = std::make_shared<Paint::Image>();
-    image->width = tile->GetWidth();
-    image->height = tile->GetHeight();
-    image->argb.assign(tile->GetBits(), tile->GetBits() + static_cast<std::size_t>(image->width) * image->height);
-    p.image = std::move(image);
+    return grid;
 }
-
-} // namespace
 
 std::optional<KestoRaster::Paint> FillPaint::From(const CFill& fill, double pixelsPerUnit)
 {

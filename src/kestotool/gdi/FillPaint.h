@@ -1,10 +1,12 @@
 #pragma once
 
 #include "kestotool/gdi/CFill.h"
+#include "kestotool/gdi/CFillVector.h"
 #include "kestotool/platform/Export.h"
 #include "kestotool/raster/Paint.h"
 
 #include <optional>
+#include <vector>
 
 namespace KestoGDI {
 
@@ -21,6 +23,18 @@ public:
     // tile of its grid's cell, drawn at pixelsPerUnit device pixels per unit of the fill's
     // space. The discrete mesh, which the renderer does not paint, answers nothing.
     static std::optional<KestoRaster::Paint> From(const CFill& fill, double pixelsPerUnit = 1);
+
+    // The grid a vector fill repeats, as its paint tiles it: one cell from origin along the
+    // steps a and b (the fill's space), width x height pixels at pixelsPerUnit, holding the
+    // drawing under each map of instances (drawing to cell pixels, later over earlier; what
+    // one puts outside the cell comes in again from the other side). Nothing for a fill without
+    // a drawing, a degenerate grid or a scale that is not positive.
+    struct VectorGrid {
+        KestoRaster::Point origin, a, b;
+        int width = 0, height = 0;
+        std::vector<KestoRaster::Affine> instances;
+    };
+    static std::optional<VectorGrid> GridOf(const CFillVector& fill, double pixelsPerUnit);
 
     // Shows fill over what canvas (an Argb32 target) holds inside clip, placed by fillToDevice
     // at pixelsPerUnit: a fill composited over it, a transparency as the dark blue it would let
