@@ -25,7 +25,10 @@ ExportOptionsDialog::ExportOptionsDialog(bool pdf, const MainWindow::ExportOptio
     m_dpi->setDecimals(0);
     m_dpi->setSuffix(tr(" dpi"));
     m_dpi->setValue(options.dpi);
-    form->addRow(tr("Pictures of conical, plasma and bitmap fills at:"), m_dpi);
+    // The kinds each format has no paint of its own for.
+    form->addRow(pdf ? tr("Pictures of conical, plasma, bitmap and vector fills at:")
+                     : tr("Pictures of conical, three- and four-colour and plasma fills at:"),
+                 m_dpi);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

@@ -141,6 +141,24 @@ TEST(SvgReader, RefusesDamagedAndHostileFiles)
     EXPECT_EQ(huge.drawing->shapes.size(), 1u); // the circle
     EXPECT_TRUE(Mentions(huge.drawing->skipped, "coordinate range"));
 
+    // Many different things to skip, and a gradient of many stops that many shapes use: the
+    // list and the reading stay bounded.
+    std::string many = "<svg xmlns='http://www.w3.org/2000/svg'><linearGradient id='g'>";
+    for (int i = 0; i < 1100; ++i)
+        many += "<stop offset='" + std::to_string(i / 1100.0) + "' stop-color='#102030'/>";
+    many += "</linearGradient>";
+    for (int i = 0; i < 300; ++i)
+        many += "<rect width='5' height='5' fill='url(#g)'/><g transform='bad" + std::to_string(i) + "'/>";
+    many += "</svg>";
+    const auto start = std::chrono::steady_clock::now();
+    const SvgReader::Result bounded = SvgReader::Read(many);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
+    ASSERT_TRUE(bounded.drawing) << bounded.error;
+    EXPECT_EQ(bounded.drawing->shapes.size(), 300u);
+    EXPECT_EQ(bounded.drawing->skipped.size(), 65u);
+    EXPECT_EQ(bounded.drawing->skipped.back(), "more");
+    EXPECT_TRUE(Mentions(bounded.drawing->skipped, "stops past 1024"));
+
     std::string deep = "<svg xmlns='http://www.w3.org/2000/svg'>";
     for (int i = 0; i < 100000; ++i)
         deep += "<g>";

@@ -80,6 +80,11 @@ struct Context {
     double opacity = 1;
 };
 
+// The most things a file's list of what was skipped names, and the most stops read of one
+// gradient (far more than any gradient a person makes).
+constexpr std::size_t kMaxSkipped = 64;
+constexpr std::size_t kMaxStops = 1024;
+
 class Reader {
 public:
     Reader(const SvgReader::Limits& limits, SvgReader::Drawing& drawing) : m_limits(limits), m_drawing(drawing) {}
@@ -87,10 +92,14 @@ public:
     void Document(const pugi::xml_document& document);
 
 private:
+    // Names what was not read, once; a file that keeps finding new things to skip is named
+    // as doing so after kMaxSkipped of them.
     void Skip(std::string what)
     {
-        if (std::find(m_drawing.skipped.begin(), m_drawing.skipped.end(), what) == m_drawing.skipped.end())
-            m_drawing.skipped.push_back(std::move(what));
+        if (m_drawing.skipped.size() > kMaxSkipped ||
+            std::find(m_drawing.skipped.begin(), m_drawing.skipped.end(), what) != m_drawing.skipped.end())
+            return;
+        m_drawing.skipped.push_back(m_drawing.skipped.size() == kMaxSkipped ? std::string("more") : std::move(what));
     }
 
     std::optional<std::string_view> Property(const pugi::xml_node& node, const char* name) const
@@ -124,6 +133,29 @@ private:
     // wedges) it clips; any other clip is reported and the shapes read whole.
     void Clipped(const pugi::xml_node& clip, const Context& context, std::vector<Read>& inside);
     std::optional<Paint> Mask(const pugi::xml_node& mask, const Context& context, int depth);
+    struct Stop {
+        double offset;
+        Rgba colour;
+        double opacity;
+    };
+    // A gradient's own stops, read once however many shapes use it: offsets 0..1 in order.
+    const std::vector<Stop>& StopsOf(const pugi::xml_node& gradient)
+    {
+        auto [at, fresh] = m_stops.try_emplace(gradient.internal_object());
+        if (!fresh)
+            return at->second;
+        double last = 0;
+        for (const pugi::xml_node& stop : gradient.children("stop")) {
+            if (at->second.size() == kMaxStops) {
+                Skip("gradient stops past " + std::to_string(kMaxStops));
+                break;
+            }
+            last = std::max(last, SvgSyntax::Fraction(stop.attribute("offset").value()).value_or(0));
+            at->second.push_back({last, SvgSyntax::Colour(Property(stop, "stop-color").value_or("black")).value_or(Rgba{}),
+                                  SvgSyntax::Fraction(Property(stop, "stop-opacity").value_or("1")).value_or(1)});
+        }
+        return at->second;
+    }
     pugi::xml_node Referenced(std::string_view id) const
     {
         const auto it = m_ids.find(std::string(id));
@@ -133,6 +165,7 @@ private:
     const SvgReader::Limits& m_limits;
     SvgReader::Drawing& m_drawing;
     std::map<std::string, pugi::xml_node, std::less<>> m_ids;
+    std::map<const void*, std::vector<Stop>> m_stops;
     double m_viewWidth = 0, m_viewHeight = 0;
     std::size_t m_segments = 0;
 };
@@ -512,14 +545,10 @@ std::optional<Paint> Reader::Gradient(const pugi::xml_node& gradient, const Cont
     for (const pugi::xml_node& g : chain) {
         if (!g.child("stop"))
             continue;
-        double last = 0;
-        for (const pugi::xml_node& stop : g.children("stop")) {
-            const double offset = std::max(last, SvgSyntax::Fraction(stop.attribute("offset").value()).value_or(0));
-            last = offset;
-            Rgba colour = SvgSyntax::Colour(Property(stop, "stop-color").value_or("black")).value_or(Rgba{});
-            const double opacity = SvgSyntax::Fraction(Property(stop, "stop-opacity").value_or("1")).value_or(1);
-            colour.a = static_cast<std::uint8_t>(std::lround(255 * opacity * alpha));
-            paint.stops.push_back({offset * 10000, colour});
+        for (const Stop& stop : StopsOf(g)) {
+            Rgba colour = stop.colour;
+            colour.a = static_cast<std::uint8_t>(std::lround(255 * stop.opacity * alpha));
+            paint.stops.push_back({stop.offset * 10000, colour});
         }
         break;
     }
