@@ -5,7 +5,9 @@
 // scaled 256 x 256 repeated tile, and a memset of the frame. Pixels are
 // reported as items; the table printed at the end gives each row's ratio to its pixman
 // counterpart (or to memset, or for 1,000 stops to the 2-stop row), which stays stable on a
-// noisy machine.
+// noisy machine. Then 3840 x 2160 frames in bands on 1, 2 and every thread (ratio to one
+// thread), and 7680 x 4320 frames beside a memset of theirs.
+#include "kestotool/raster/Bands.h"
 #include "kestotool/raster/PreparedPaint.h"
 
 #include <benchmark/benchmark.h>
@@ -152,14 +154,30 @@ void Pixman(benchmark::State& state, const std::string& what, int stops, bool ro
     pixman_image_unref(dst);
 }
 
-void Memset(benchmark::State& state)
+// A frame of w x h in bands on threads (the 1920 x 1080 paint scaled to the frame).
+void KestoBands(benchmark::State& state, Paint::Kind kind, int w, int h, int threads)
 {
-    std::vector<std::uint32_t> frame(static_cast<std::size_t>(W) * H);
+    const Paint paint = KindPaint(kind, 8, false, false);
+    const PreparedPaint prepared(paint, Affine{double(w) / W, 0, 0, double(h) / H, 0, 0}, Output::Argb32);
+    std::vector<std::uint32_t> frame(static_cast<std::size_t>(w) * h);
+    const Target target{frame.data(), w, h, w * 4, Output::Argb32};
+    SetRenderThreads(threads);
+    for (auto _ : state) {
+        RenderInBands(prepared, target, {0, 0, w, h});
+        benchmark::DoNotOptimize(frame.data());
+    }
+    SetRenderThreads(0);
+    state.SetItemsProcessed(state.iterations() * w * h);
+}
+
+void Memset(benchmark::State& state, int w, int h)
+{
+    std::vector<std::uint32_t> frame(static_cast<std::size_t>(w) * h);
     for (auto _ : state) {
         std::memset(frame.data(), 0x5A, frame.size() * 4);
         benchmark::ClobberMemory();
     }
-    state.SetItemsProcessed(state.iterations() * W * H);
+    state.SetItemsProcessed(state.iterations() * w * h);
 }
 
 const char* Name(Paint::Kind k)
@@ -249,7 +267,36 @@ int main(int argc, char** argv)
             benchmark::RegisterBenchmark(("pixman/" + what + (rotated ? "/rotated" : "/aligned")).c_str(), Pixman, what,
                                          8, rotated)
                 ->Unit(benchmark::kMillisecond);
-    benchmark::RegisterBenchmark("memset", Memset)->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("memset", Memset, W, H)->Unit(benchmark::kMillisecond);
+    // Every core at 4K, each row against the same kind on one thread; at 8K, where the frame
+    // goes to memory, against a memset of that frame.
+    std::vector<std::pair<std::string, std::string>> against;
+    const int cores = RenderThreads();
+    for (const Paint::Kind kind : {Paint::Kind::Linear, Paint::Kind::Radial, Paint::Kind::FourColour}) {
+        const std::string base = std::string("kesto-4k/") + Name(kind) + "/threads:1";
+        std::vector<int> counts{1, 2};
+        if (cores > 2)
+            counts.push_back(cores);
+        for (const int threads : counts) {
+            const std::string name = std::string("kesto-4k/") + Name(kind) + "/threads:" + std::to_string(threads);
+            benchmark::RegisterBenchmark(name.c_str(), KestoBands, kind, 3840, 2160, threads)
+                ->Unit(benchmark::kMillisecond)
+                ->UseRealTime();
+            if (threads != 1)
+                against.emplace_back(name, base);
+        }
+    }
+    benchmark::RegisterBenchmark("memset-8k", Memset, 7680, 4320)->Unit(benchmark::kMillisecond);
+    for (const Paint::Kind kind : {Paint::Kind::Linear, Paint::Kind::Radial})
+        for (const int threads : {1, cores}) {
+            const std::string name = std::string("kesto-8k/") + Name(kind) + "/threads:" + std::to_string(threads);
+            if (threads == cores && cores == 1)
+                continue;
+            benchmark::RegisterBenchmark(name.c_str(), KestoBands, kind, 7680, 4320, threads)
+                ->Unit(benchmark::kMillisecond)
+                ->UseRealTime();
+            against.emplace_back(name, "memset-8k");
+        }
 
     benchmark::Initialize(&argc, argv);
     RatioReporter reporter;
@@ -277,6 +324,12 @@ int main(int argc, char** argv)
         const double theirs = rate(base);
         std::printf("%-48s %8.0f  %6.2fx %s\n", row.c_str(), mine / 1e6, theirs > 0 ? mine / theirs : 0.0,
                     base.c_str());
+    }
+    for (const auto& [row, base] : against) {
+        const double mine = rate(row), theirs = rate(base);
+        if (mine > 0)
+            std::printf("%-48s %8.0f  %6.2fx %s\n", row.c_str(), mine / 1e6, theirs > 0 ? mine / theirs : 0.0,
+                        base.c_str());
     }
     return 0;
 }

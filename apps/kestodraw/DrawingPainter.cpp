@@ -2,6 +2,7 @@
 
 #include <kestotool/gdi/FillPaint.h>
 #include <kestotool/qt/QtConvert.h>
+#include <kestotool/raster/Bands.h>
 #include <kestotool/raster/Composite.h>
 #include <kestotool/raster/Path.h>
 #include <kestotool/raster/PreparedPaint.h>
@@ -245,7 +246,7 @@ QRect DrawingPainter::Render(const Shape& shape, const QTransform& view, const Q
     // as much in page faults as the rendering itself.
     const auto colours = Scratch(m_colours, w, h);
     if (const std::optional<PreparedPaint> prepared = Prepare(fill, scale, toLayer, Output::Argb32))
-        KestoRaster::Render(*prepared, colours, all);
+        KestoRaster::RenderInBands(*prepared, colours, all);
     else
         Fill(colours, 0xFFC8C8C8); // a kind the renderer does not paint shows as plain grey
 
@@ -257,7 +258,7 @@ QRect DrawingPainter::Render(const Shape& shape, const QTransform& view, const Q
     if (transparency) {
         if (const std::optional<PreparedPaint> mask = Prepare(*transparency, scale, toLayer, Output::Mask8)) {
             m_levels.resize(m_coverage.size());
-            KestoRaster::Render(*mask, {m_levels.data(), w, h, w, Output::Mask8}, all);
+            KestoRaster::RenderInBands(*mask, {m_levels.data(), w, h, w, Output::Mask8}, all);
             for (std::size_t i = 0; i < m_coverage.size(); ++i)
                 m_coverage[i] = static_cast<std::uint8_t>((m_coverage[i] * m_levels[i] + 127) / 255);
         }

@@ -1,3 +1,4 @@
+#include "kestotool/raster/Bands.h"
 #include "kestotool/raster/Isa.h"
 #include "kestotool/raster/PreparedPaint.h"
 #include "kestotool/raster/Shading_p.h"
@@ -408,4 +409,36 @@ TEST(Render, APaintPreparedAgainWithTheSameColoursSharesItsTable)
     shifted.recolour = true;
     shifted.stops = recoloured.stops;
     EXPECT_FALSE(PreparedPaint(shifted, {}, Output::Argb32, &placed).SharesTexelsWith(placed));
+}
+
+// Bands rendered at once on 1, 2 and 3 threads give the one-thread frame byte for byte, for
+// every kind in both outputs, whole and clipped.
+TEST(Render, BandsOnSeveralThreadsGiveTheOneThreadFrame)
+{
+    constexpr int w = W * 6, h = H * 6; // big enough to be cut into bands
+    const Affine larger{6, 0, 0, 6, 0, 0};
+    for (const auto& [name, paint] : Paints()) {
+        for (const Output out : {Output::Argb32, Output::Mask8}) {
+            SCOPED_TRACE(std::string(name) + (out == Output::Argb32 ? " argb" : " mask"));
+            const PreparedPaint prepared(paint, larger, out);
+            const int bytes = out == Output::Argb32 ? 4 : 1;
+            std::vector<std::uint8_t> one(static_cast<std::size_t>(w) * h * bytes);
+            Render(prepared, {one.data(), w, h, w * bytes, out}, {0, 0, w, h});
+            for (const int threads : {1, 2, 3}) {
+                SetRenderThreads(threads);
+                for (const Clip clip : {Clip{0, 0, w, h}, Clip{-9, 17, w - 31, h + 40}}) {
+                    std::vector<std::uint8_t> banded(one.size(), 0xA5), expected(one.size(), 0xA5);
+                    for (int y = std::max(clip.y0, 0); y < std::min(clip.y1, h); ++y)
+                        for (int x = std::max(clip.x0, 0); x < std::min(clip.x1, w); ++x)
+                            for (int b = 0; b < bytes; ++b) {
+                                const std::size_t i = (static_cast<std::size_t>(y) * w + x) * bytes + b;
+                                expected[i] = one[i];
+                            }
+                    RenderInBands(prepared, {banded.data(), w, h, w * bytes, out}, clip);
+                    EXPECT_TRUE(banded == expected) << threads << " threads, clip from " << clip.x0 << "," << clip.y0;
+                }
+            }
+            SetRenderThreads(0);
+        }
+    }
 }

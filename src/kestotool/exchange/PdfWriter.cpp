@@ -2,6 +2,7 @@
 
 #include "kestotool/exchange/StraightStops_p.h"
 #include "kestotool/gdi/FillPaint.h"
+#include "kestotool/raster/Bands.h"
 #include "kestotool/raster/PreparedPaint.h"
 
 #include <cairo-pdf.h>
@@ -108,7 +109,7 @@ void PaintImage(cairo_t* cr, const Paint& paint, const Box& box, double pixelsPe
     // The renderer's words are the image's: native 32-bit, alpha on top, premultiplied.
     cairo_surface_flush(image);
     const KestoRaster::Affine toImage{w / bw, 0, 0, h / bh, -box[0] * w / bw, -box[1] * h / bh};
-    KestoRaster::Render(KestoRaster::PreparedPaint(paint, toImage, KestoRaster::Output::Argb32),
+    KestoRaster::RenderInBands(KestoRaster::PreparedPaint(paint, toImage, KestoRaster::Output::Argb32),
                         {cairo_image_surface_get_data(image), w, h, cairo_image_surface_get_stride(image),
                          KestoRaster::Output::Argb32},
                         {0, 0, w, h});

@@ -5,6 +5,7 @@
 #include "kestotool/gdi/CFillVector.h"
 #include "kestotool/gdi/FillPaint.h"
 #include "kestotool/gdi/PngFile.h"
+#include "kestotool/raster/Bands.h"
 #include "kestotool/raster/PreparedPaint.h"
 
 #include <algorithm>
@@ -72,12 +73,12 @@ std::string PngOf(const Paint& paint, const KestoRaster::Affine& toImage, int w,
     std::vector<std::uint32_t> pixels(static_cast<std::size_t>(w) * h);
     if (paint.transparency) {
         std::vector<std::uint8_t> levels(pixels.size());
-        KestoRaster::Render(KestoRaster::PreparedPaint(paint, toImage, KestoRaster::Output::Mask8),
+        KestoRaster::RenderInBands(KestoRaster::PreparedPaint(paint, toImage, KestoRaster::Output::Mask8),
                             {levels.data(), w, h, w, KestoRaster::Output::Mask8}, {0, 0, w, h});
         std::transform(levels.begin(), levels.end(), pixels.begin(),
                        [](std::uint8_t m) { return 0xFF000000u | 0x010101u * m; });
     } else {
-        KestoRaster::Render(KestoRaster::PreparedPaint(paint, toImage, KestoRaster::Output::Argb32),
+        KestoRaster::RenderInBands(KestoRaster::PreparedPaint(paint, toImage, KestoRaster::Output::Argb32),
                             {pixels.data(), w, h, w * 4, KestoRaster::Output::Argb32}, {0, 0, w, h});
     }
     return "data:image/png;base64," + Base64(KestoGDI::PngFile::EncodePremultiplied(pixels.data(), w, h, w * 4));
