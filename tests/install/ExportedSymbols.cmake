@@ -14,7 +14,8 @@ set(public_KestoPlatform
   WindowPeer Backend SetBackend ScreenMetrics DDX_Control DDX_Text)
 set(public_Kesto2D K2DDblPoint K2DArrayPoint K2DCurve K2DLtGeneral KCAngle K2DGeometry K2DStraightLine
   RoundHalfAwayFromZero MulDiv MulDivWide ClampToInt RoundHalfUp AddHalfAndTruncate SaturateToRange RoundToRange)
-set(public_KestoRaster Affine Path PreparedPaint Render RenderReference RenderCoverage CompositeOver Straight
+set(public_KestoRaster Affine Path PreparedPaint Render RenderReference RenderCoverage RenderInBands SetRenderThreads
+  RenderThreads CompositeOver Straight
   IsaAvailable ActiveIsa SetActiveIsa IsaName)
 # A few that a host must find.
 set(required KestoTool::Version KestoTool::FillToolFactory::Create KestoTool::Init KestoPlatform::CWnd
