@@ -176,6 +176,11 @@ inline VU Gather(const T* __restrict base, VI index)
         return reinterpret_cast<VU>(
             _mm512_mask_i32gather_epi32(_mm512_setzero_si512(), 0xFFFF, reinterpret_cast<__m512i>(index), base, 4));
     else
+#elif defined(__AVX2__)
+    if constexpr (sizeof(T) == 4)
+        return reinterpret_cast<VU>(
+            _mm256_i32gather_epi32(reinterpret_cast<const int*>(base), reinterpret_cast<__m256i>(index), 4));
+    else
 #endif
     {
         VU r{};
@@ -249,8 +254,9 @@ inline void StoreLanes(VU value, int s, int first, int last, std::uint8_t* __res
 enum class Reads { NearWords, Words, Bytes };
 
 // A row's table, ready for whole blocks. With AVX-512 the 256 entries stay in registers and a
-// block is looked up with permutes and blends (gathers are slow on many processors); each read
-// keeps what it needs.
+// block is looked up with permutes and blends (gathers are slow on many processors); with AVX2
+// a smooth ramp's vector reads a window of 16 entries with two permutes, other indices gather.
+// Each read keeps what it needs.
 template <Reads R>
 class Lookup {
 public:
@@ -258,6 +264,16 @@ public:
     {
 #if !defined(__AVX512F__)
         m_table = table;
+#if defined(__AVX2__)
+        if constexpr (R == Reads::NearWords) {
+            // The table with its end entries repeated 8 times past each end, for window reads.
+            for (int k = 0; k < 8; ++k) {
+                m_padded[k] = table[0];
+                m_padded[8 + 256 + k] = table[255];
+            }
+            __builtin_memcpy(m_padded + 8, table, 256 * sizeof *table);
+        }
+#endif
 #else
         __m512i entries[16];
         for (int k = 0; k < 16; ++k)
@@ -312,6 +328,18 @@ public:
         if (_mm512_cmpge_epu32_mask(d, _mm512_set1_epi32(32)) != 0)
             return Words(i);
         return reinterpret_cast<VU>(Window(i[0], reinterpret_cast<__m512i>(i)));
+#elif defined(__AVX2__)
+        // Within 8 entries of the first: a window of 16, two 8-entry permutes and a blend.
+        const __m256i d = _mm256_sub_epi32(reinterpret_cast<__m256i>(i), _mm256_set1_epi32(i[0] - 8));
+        if (!_mm256_testz_si256(d, _mm256_set1_epi32(~15)))
+            return Words(i);
+        const std::uint32_t* window = m_padded + i[0]; // entry i[0] - 8, with the padding's 8
+        const __m256i low = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(window));
+        const __m256i high = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(window + 8));
+        const __m256i upper = _mm256_slli_epi32(d, 28); // bit 3 of the offset as the blend's sign bit
+        return reinterpret_cast<VU>(_mm256_blendv_ps(
+            _mm256_castsi256_ps(_mm256_permutevar8x32_epi32(low, d)),
+            _mm256_castsi256_ps(_mm256_permutevar8x32_epi32(high, d)), _mm256_castsi256_ps(upper)));
 #else
         return Gather(m_table, i);
 #endif
@@ -435,6 +463,9 @@ private:
     alignas(64) std::uint32_t m_padded[16 + 256 + 16];
 #else
     const std::uint32_t* __restrict m_table;
+#if defined(__AVX2__)
+    alignas(32) std::uint32_t m_padded[R == Reads::NearWords ? 8 + 256 + 8 : 1];
+#endif
 #endif
 };
 
