@@ -176,11 +176,6 @@ inline VU Gather(const T* __restrict base, VI index)
         return reinterpret_cast<VU>(
             _mm512_mask_i32gather_epi32(_mm512_setzero_si512(), 0xFFFF, reinterpret_cast<__m512i>(index), base, 4));
     else
-#elif defined(__AVX2__)
-    if constexpr (sizeof(T) == 4)
-        return reinterpret_cast<VU>(
-            _mm256_i32gather_epi32(reinterpret_cast<const int*>(base), reinterpret_cast<__m256i>(index), 4));
-    else
 #endif
     {
         VU r{};
@@ -255,8 +250,8 @@ enum class Reads { NearWords, Words, Bytes };
 
 // A row's table, ready for whole blocks. With AVX-512 the 256 entries stay in registers and a
 // block is looked up with permutes and blends (gathers are slow on many processors); with AVX2
-// a smooth ramp's vector reads a window of 16 entries with two permutes, other indices gather.
-// Each read keeps what it needs.
+// a smooth ramp's vector reads a window of 16 entries with two permutes (AVX2's gather is
+// slower than eight loads on the processors measured). Each read keeps what it needs.
 template <Reads R>
 class Lookup {
 public:
