@@ -5,11 +5,13 @@
 
 #include "kestotool/raster/KernelsRows.inc"
 
+#include "kestotool/raster/KernelsAvx2Paths.inc"
+
 namespace KestoRaster::Kernels {
 
 const KernelSet& Avx2()
 {
-    return KernelSetWith<NoFastPaths>;
+    return KernelSetWith<Avx2Paths>;
 }
 
 } // namespace KestoRaster::Kernels
