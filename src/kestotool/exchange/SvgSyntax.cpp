@@ -222,7 +222,7 @@ std::optional<Rgba> Colour(std::string_view text)
     text = Trimmed(text);
     if (text.size() == 4 || text.size() == 7) {
         if (text.front() == '#') {
-            int v[6];
+            int v[6] = {};
             for (std::size_t i = 1; i < text.size(); ++i)
                 if ((v[i - 1] = HexDigit(text[i])) < 0)
                     return std::nullopt;

@@ -39,11 +39,10 @@ std::string PathData(const Path& path, double box[4])
     };
     for (const Path::Verb verb : path.Verbs()) {
         switch (verb) {
-        case Path::Verb::Move: d += "M" + point(); break;
-        case Path::Verb::Line: d += "L" + point(); break;
+        case Path::Verb::Move: d += 'M', d += point(); break;
+        case Path::Verb::Line: d += 'L', d += point(); break;
         case Path::Verb::Cubic: {
-            const std::string c1 = point(), c2 = point();
-            d += "C" + c1 + " " + c2 + " " + point();
+            d += 'C', d += point(), d += ' ', d += point(), d += ' ', d += point();
             break;
         }
         case Path::Verb::Close: d += "Z"; break;
