@@ -182,3 +182,20 @@ TEST(PdfWriter, ARealRendererShowsTheDrawingAsOursDoes)
     ExpectShownAsOurs(shapes, "pdftoppm -png -singlefile -r 72 '" + dir + "/drawing.pdf' '" + dir + "/shown'",
                       dir + "/shown.png");
 }
+
+// A shape reaching far past the page costs a picture of the page, not of the shape.
+TEST(Writers, APictureCoversOnlyWhatThePageShows)
+{
+    const RefPtr<CFill> conical = Made<CFillConical>({0, 0, W, H}, 0x20A040);
+    const Path far = Path::Rectangle({-1e6, -1e6}, {1e6, 1e6});
+    KestoTool::SvgWriter svg(W, H);
+    svg.AddShape(far, *conical, nullptr, std::nullopt);
+    const std::string document = svg.Document();
+    EXPECT_NE(document.find("<image x=\"0\" y=\"0\" width=\"200\" height=\"150\""), std::string::npos);
+    EXPECT_LT(document.size(), 200'000u);
+    KestoTool::PdfWriter pdf(W, H, 1, 72);
+    pdf.AddShape(far, *conical, nullptr, std::nullopt);
+    const std::string pdfDocument = pdf.Document();
+    EXPECT_NE(pdfDocument.find("/Width 200"), std::string::npos);
+    EXPECT_LT(pdfDocument.size(), 200'000u);
+}

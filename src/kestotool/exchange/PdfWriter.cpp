@@ -26,6 +26,7 @@ struct PdfWriter::Surface {
     std::string bytes;
     cairo_surface_t* surface = nullptr;
     cairo_t* cr = nullptr;
+    double width = 0, height = 0; // the page, in drawing units
     double pointsPerUnit = 0.75;
     double pixelsPerUnit = 1;
 
@@ -320,6 +321,7 @@ PdfWriter::PdfWriter(double width, double height, double pointsPerUnit, double r
     : m_surface(std::make_unique<Surface>())
 {
     Surface& s = *m_surface;
+    s.width = width, s.height = height;
     s.pointsPerUnit = pointsPerUnit;
     s.pixelsPerUnit = rasterDpi / 72 * pointsPerUnit;
     s.surface = cairo_pdf_surface_create_for_stream(Append, &s.bytes, width * pointsPerUnit, height * pointsPerUnit);
@@ -342,7 +344,10 @@ void PdfWriter::AddShape(const Path& outline, const KestoGDI::CFill& fill, const
                          std::optional<Rgba> stroke)
 {
     cairo_t* cr = m_surface->cr;
-    const Box box = Bounds(outline);
+    // Only what the page shows is painted: a shape far past the page costs no larger picture.
+    Box box = Bounds(outline);
+    box = {std::max(box[0], 0.0), std::max(box[1], 0.0), std::min(box[2], m_surface->width),
+           std::min(box[3], m_surface->height)};
     if (!cr || !(box[2] > box[0]) || !(box[3] > box[1]))
         return;
     const double pixels = m_surface->pixelsPerUnit;

@@ -15,9 +15,9 @@ namespace KestoTool {
 // seen through a transparency, as a drawing program paints them. Linear, radial and elliptical
 // fills are the format's own shadings, a square (diamond) fill four of them, one per wedge;
 // three- and four-colour fills are patch meshes with a colour at each corner, exact wherever
-// their colours blend without clipping; the other kinds are images painted by the renderer.
-// A transparency is a soft mask painted the same way. Shapes are painted as they are added;
-// the document is whole once taken.
+// their colours blend without clipping; the other kinds are images painted by the renderer
+// over what the page shows of the shape. A transparency is a soft mask painted the same way.
+// Shapes are painted as they are added; the document is whole once taken.
 class KESTO_API PdfWriter {
 public:
     // The page, in drawing units; pointsPerUnit sizes it (0.75: a unit is a pixel at 96 per

@@ -158,6 +158,11 @@ SvgWriter::Markup SvgWriter::ShapeMarkup(const Path& outline, const KestoGDI::CF
 {
     double box[4];
     const std::string d = PathData(outline, box);
+    if (depth == 0) {
+        // Only what the page shows is painted: a shape far past the page costs no larger picture.
+        box[0] = std::max(box[0], 0.0), box[1] = std::max(box[1], 0.0);
+        box[2] = std::min(box[2], m_width), box[3] = std::min(box[3], m_height);
+    }
     if (!(box[2] > box[0]) || !(box[3] > box[1]))
         return {};
     Markup out;

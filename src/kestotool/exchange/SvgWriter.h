@@ -15,9 +15,9 @@ namespace KestoTool {
 // seen through a transparency, as a drawing program paints them. The kinds SVG has a paint for
 // (SvgPaint) are written as such; a bitmap fill is a pattern of its texels, a vector fill a
 // pattern of its drawing's own shapes and fills; the other kinds (conical, three- and
-// four-colour, plasma) are painted by the renderer into a PNG image over the shape, embedded in
-// the document, at the raster resolution. Coordinates are the drawing's units, one user unit
-// each.
+// four-colour, plasma) are painted by the renderer, at the raster resolution, into a PNG image
+// over what the page shows of the shape, embedded in the document. Coordinates are the
+// drawing's units, one user unit each.
 class KESTO_API SvgWriter {
 public:
     // The page, in drawing units.
