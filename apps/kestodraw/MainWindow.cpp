@@ -428,6 +428,24 @@ bool MainWindow::WriteWhole(const QString& title, const QString& path, const std
     return false;
 }
 
+namespace {
+
+// Hands the drawing's shapes to an SVG or PDF writer in painting order, each with its outline in
+// the canvas's grey; false once going says the export was cancelled.
+template <class Writer>
+bool AddShapes(const Document& document, const DrawingPainter::Going& going, Writer& writer)
+{
+    for (std::size_t i = 0; i < document.shapes.size(); ++i) {
+        if (!going(static_cast<double>(i) / static_cast<double>(document.shapes.size())))
+            return false;
+        const Shape& shape = document.shapes[i];
+        writer.AddShape(KestoToolQt::ToRasterPath(shape.Outline()), *shape.fill, shape.transparency.get(), kOutline);
+    }
+    return true;
+}
+
+} // namespace
+
 bool MainWindow::ExportSvg(const QString& path, const ExportOptions& options)
 {
     std::string svg;
@@ -435,13 +453,8 @@ bool MainWindow::ExportSvg(const QString& path, const ExportOptions& options)
             KestoTool::SvgWriter writer(document.width, document.height);
             writer.SetRasterScale(options.dpi / 96); // the drawing's units are pixels at 96 per inch
             writer.SetPageColour(KestoRaster::Rgba{255, 255, 255, 255}); // as the PNG export's page
-            for (std::size_t i = 0; i < document.shapes.size(); ++i) {
-                if (!going(static_cast<double>(i) / static_cast<double>(document.shapes.size())))
-                    return false;
-                const Shape& shape = document.shapes[i];
-                writer.AddShape(KestoToolQt::ToRasterPath(shape.Outline()), *shape.fill, shape.transparency.get(),
-                                kOutline);
-            }
+            if (!AddShapes(document, going, writer))
+                return false;
             svg = writer.Document();
             return true;
         }))
@@ -457,13 +470,8 @@ bool MainWindow::ExportPdf(const QString& path, const ExportOptions& options)
             const double points = options.longerSideMm / 25.4 * 72 / std::max(document.width, document.height);
             KestoTool::PdfWriter writer(document.width, document.height, points, options.dpi);
             writer.SetPageColour(KestoRaster::Rgba{255, 255, 255, 255});
-            for (std::size_t i = 0; i < document.shapes.size(); ++i) {
-                if (!going(static_cast<double>(i) / static_cast<double>(document.shapes.size())))
-                    return false;
-                const Shape& shape = document.shapes[i];
-                writer.AddShape(KestoToolQt::ToRasterPath(shape.Outline()), *shape.fill, shape.transparency.get(),
-                                kOutline);
-            }
+            if (!AddShapes(document, going, writer))
+                return false;
             pdf = writer.Document();
             failed = pdf.empty();
             return !failed;
