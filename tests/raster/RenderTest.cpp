@@ -6,10 +6,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 #include <cstdlib>
 #include <numbers>
 #include <string>
+#include <thread>
 #include <vector>
 
 using namespace KestoRaster;
@@ -441,4 +443,29 @@ TEST(Render, BandsOnSeveralThreadsGiveTheOneThreadFrame)
             SetRenderThreads(0);
         }
     }
+}
+
+// Callers on several threads at once (the page's layers are built off the window's thread), each
+// handing out frames just big enough to be banded, share the helpers and get whole frames back.
+TEST(Render, ManyCallersShareTheBandThreadsAndEachGetsItsWholeFrame)
+{
+    constexpr int w = 256, h = 256;
+    const PreparedPaint prepared(PaintNamed("solid"), Affine{}, Output::Argb32);
+    std::vector<std::uint8_t> one(static_cast<std::size_t>(w) * h * 4);
+    Render(prepared, {one.data(), w, h, w * 4, Output::Argb32}, {0, 0, w, h});
+    SetRenderThreads(6);
+    std::atomic<int> wrong = 0;
+    std::vector<std::thread> callers;
+    for (int c = 0; c < 3; ++c)
+        callers.emplace_back([&] {
+            std::vector<std::uint8_t> frame(one.size());
+            for (int i = 0; i < 100; ++i) {
+                RenderInBands(prepared, {frame.data(), w, h, w * 4, Output::Argb32}, {0, 0, w, h});
+                wrong += frame != one;
+            }
+        });
+    for (std::thread& t : callers)
+        t.join();
+    SetRenderThreads(0);
+    EXPECT_EQ(wrong, 0);
 }

@@ -93,10 +93,12 @@ private:
     {
         std::unique_lock lock(m_lock);
         for (;;) {
-            m_wake.wait(lock, [&] { return m_stopping || Open() != nullptr; });
+            // The job is taken by the same look that woke us: a caller claims bands without the
+            // lock, so a second look could find its last band gone.
+            std::shared_ptr<Job> job;
+            m_wake.wait(lock, [&] { return m_stopping || (job = Open()) != nullptr; });
             if (m_stopping)
                 return;
-            const std::shared_ptr<Job> job = Open();
             ++job->joined;
             lock.unlock();
             Work(*job);
