@@ -248,10 +248,22 @@ inline void StoreLanes(VU value, int s, int first, int last, std::uint8_t* __res
 // any indices, or a mask's bytes.
 enum class Reads { NearWords, Words, Bytes };
 
+// The window of table entries that NearWords read last, kept by its caller from one vector of a
+// block to the next where the indices step steadily (a linear ramp's): the next ones usually lie
+// in it, and are then read with no load at all. Only AVX2 keeps one.
+struct NearWindow {
+#if defined(__AVX2__) && !defined(__AVX512F__)
+    __m256i entries = _mm256_setzero_si256();
+    __m256i base = _mm256_set1_epi32(-1024); // no index lies at or above it within 8 entries
+#endif
+};
+constexpr bool kKeepsWindow = sizeof(NearWindow) > 1;
+
 // A row's table, ready for whole blocks. With AVX-512 the 256 entries stay in registers and a
 // block is looked up with permutes and blends (gathers are slow on many processors); with AVX2
-// a smooth ramp's vector reads a window of 16 entries with two permutes (AVX2's gather is
-// slower than eight loads on the processors measured). Each read keeps what it needs.
+// a smooth ramp's vector reads a window of 8 entries with one permute, or of 16 with two where
+// its indices spread further (AVX2's gather is slower than eight loads on the processors
+// measured). Each read keeps what it needs.
 template <Reads R>
 class Lookup {
 public:
@@ -324,21 +336,47 @@ public:
             return Words(i);
         return reinterpret_cast<VU>(Window(i[0], reinterpret_cast<__m512i>(i)));
 #elif defined(__AVX2__)
-        // Within 8 entries of the first: a window of 16, two 8-entry permutes and a blend.
-        const __m256i d = _mm256_sub_epi32(reinterpret_cast<__m256i>(i), _mm256_set1_epi32(i[0] - 8));
-        if (!_mm256_testz_si256(d, _mm256_set1_epi32(~15)))
-            return Words(i);
-        const std::uint32_t* window = m_padded + i[0]; // entry i[0] - 8, with the padding's 8
-        const __m256i low = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(window));
-        const __m256i high = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(window + 8));
-        const __m256i upper = _mm256_slli_epi32(d, 28); // bit 3 of the offset as the blend's sign bit
-        return reinterpret_cast<VU>(_mm256_blendv_ps(
-            _mm256_castsi256_ps(_mm256_permutevar8x32_epi32(low, d)),
-            _mm256_castsi256_ps(_mm256_permutevar8x32_epi32(high, d)), _mm256_castsi256_ps(upper)));
+        return NearWords(i, nullptr);
 #else
         return Gather(m_table, i);
 #endif
     }
+
+#if defined(__AVX2__) && !defined(__AVX512F__)
+    // The same, first from the window kept from the vector before where there is one.
+    VU NearWords(VI i, NearWindow* kept) const
+    {
+        static_assert(R == Reads::NearWords);
+        // Within the window kept from the vector before: one permute.
+        const __m256i v = reinterpret_cast<__m256i>(i);
+        if (kept) {
+            const __m256i in = _mm256_sub_epi32(v, kept->base);
+            if (__builtin_expect(_mm256_testz_si256(in, _mm256_set1_epi32(~7)), 1))
+                return reinterpret_cast<VU>(_mm256_permutevar8x32_epi32(kept->entries, in));
+        }
+        // Within 7 entries above the lower of the ends (a gentle ramp, whose indices along a
+        // vector rise or fall): the window of 8 from there, kept for the next vector.
+        const int least = i[0] < i[kLanes - 1] ? i[0] : i[kLanes - 1];
+        const __m256i near = _mm256_sub_epi32(v, _mm256_set1_epi32(least));
+        if (__builtin_expect(_mm256_testz_si256(near, _mm256_set1_epi32(~7)), 1)) {
+            const __m256i entries = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(m_padded + 8 + least));
+            if (kept)
+                *kept = {entries, _mm256_set1_epi32(least)};
+            return reinterpret_cast<VU>(_mm256_permutevar8x32_epi32(entries, near));
+        }
+        // Within 8 entries of the first: a window of 16, two 8-entry permutes and a blend.
+        const __m256i d = _mm256_sub_epi32(reinterpret_cast<__m256i>(i), _mm256_set1_epi32(i[0] - 8));
+        if (__builtin_expect(!_mm256_testz_si256(d, _mm256_set1_epi32(~15)), 0))
+            return Words(i);
+        const std::uint32_t* around = m_padded + i[0]; // entry i[0] - 8, with the padding's 8
+        const __m256i low = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(around));
+        const __m256i high = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(around + 8));
+        const __m256i upper = _mm256_slli_epi32(d, 28); // bit 3 of the offset as the blend's sign bit
+        return reinterpret_cast<VU>(_mm256_blendv_ps(
+            _mm256_castsi256_ps(_mm256_permutevar8x32_epi32(low, d)),
+            _mm256_castsi256_ps(_mm256_permutevar8x32_epi32(high, d)), _mm256_castsi256_ps(upper)));
+    }
+#endif
 
     // A whole block's mask values from its vectors of indices. With AVX-512 the block's 64
     // indices are packed into one register of bytes and looked up together.
