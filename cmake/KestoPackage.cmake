@@ -23,8 +23,9 @@ install(FILES ${PROJECT_BINARY_DIR}/kestotool.pc DESTINATION ${CMAKE_INSTALL_LIB
 install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT runtime)
 install(FILES CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT dev)
 
-# Debian packages: libkestotool0 (the library and its archive) and libkestotool-dev (headers,
-# the CMake package, kestotool.pc, the Qt back end). scripts/package builds them.
+# Debian packages: libkestotool0 (the library and its archive), libkestotool-dev (headers, the
+# CMake package, kestotool.pc, the Qt back end) and, with Qt, kestodraw (the program, its menu
+# entry, file type and icon). scripts/package builds them.
 set(CPACK_PACKAGE_NAME kestotool)
 set(CPACK_PACKAGE_VENDOR "KestoTool developers")
 set(CPACK_PACKAGE_CONTACT "KestoTool developers <kestotool@localhost>")
@@ -34,6 +35,10 @@ set(CPACK_GENERATOR DEB)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_COMPONENTS_ALL runtime dev)
 set(CPACK_COMPONENT_DEV_DEPENDS runtime)
+if(KESTO_WITH_QT)
+  list(APPEND CPACK_COMPONENTS_ALL app)
+  set(CPACK_COMPONENT_APP_DEPENDS runtime)
+endif()
 set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION libs)
@@ -49,5 +54,13 @@ set(CPACK_DEBIAN_DEV_DESCRIPTION "KestoTool fill and transparency tools (develop
  (KestoTool::Qt) for hosts of libkestotool.")
 if(KESTO_WITH_QT)
   set(CPACK_DEBIAN_DEV_PACKAGE_RECOMMENDS qt6-base-dev)
+  set(CPACK_DEBIAN_APP_PACKAGE_NAME kestodraw)
+  set(CPACK_DEBIAN_APP_PACKAGE_SECTION graphics)
+  set(CPACK_DEBIAN_APP_PACKAGE_SHLIBDEPS ON)
+  set(CPACK_DEBIAN_APP_PACKAGE_RECOMMENDS qt6-qpa-plugins)
+  set(CPACK_DEBIAN_APP_DESCRIPTION "small vector drawing program built on KestoTool's fill tools
+ Draw shapes and edit their fills and transparencies by their handles on the canvas: linear,
+ radial, elliptical, conical and square gradients, three- and four-colour, plasma, bitmap and
+ vector fills. Saves .kdraw drawings; exports PNG, SVG and PDF; imports SVG.")
 endif()
 include(CPack)

@@ -46,7 +46,7 @@ QString Autosave::Folder()
 
 Autosave::Autosave(const Document& document, QObject* parent)
     : QObject(parent), m_document(document),
-      m_path(Folder() + QStringLiteral("/%1.kdraw").arg(QCoreApplication::applicationPid()))
+      m_path(Folder() + QStringLiteral("/%1-%2.kdraw").arg(QCoreApplication::applicationPid()).arg(++s_windows))
 {
     m_timer.setSingleShot(true);
     // At the minute's end what came meanwhile is written, and a new minute starts; with nothing
@@ -126,8 +126,9 @@ QStringList Autosave::Orphans()
     QFileInfoList copies = QDir(Folder()).entryInfoList({QStringLiteral("*.kdraw")}, QDir::Files, QDir::Time);
     QStringList orphans;
     for (const QFileInfo& copy : copies) {
+        // "pid-n", the n-th window of process pid (or "pid", as copies were named once).
         bool number = false;
-        const qint64 pid = copy.completeBaseName().toLongLong(&number);
+        const qint64 pid = copy.completeBaseName().section('-', 0, 0).toLongLong(&number);
         if (number && pid != QCoreApplication::applicationPid() && !Running(pid))
             orphans << copy.absoluteFilePath();
     }

@@ -15,8 +15,8 @@ namespace KestoDraw {
 // loss costs at most a minute of work: the copy is written a minute after the last, or at once
 // for the first change after a quiet minute, never into the user's own file. A clean exit
 // removes it; a copy left by a process that is gone is what a later start offers to recover.
-// One file per running process (autosave/<pid>.kdraw). The copies the timer asks for are written
-// on a thread of their own, so that a slow disk never holds up the window.
+// One file per window of a running process (autosave/<pid>-<window>.kdraw). The copies the timer
+// asks for are written on a thread of their own, so that a slow disk never holds up the window.
 class Autosave : public QObject {
     Q_OBJECT
 public:
@@ -45,6 +45,9 @@ private:
     void WriteInBackground();
     // Waits for the write under way, if any; one that failed leaves its changes pending.
     void Finish();
+
+    // Windows of this process so far: each window's copy is named by the process and its number.
+    static inline int s_windows = 0;
 
     const Document& m_document;
     QString m_path;

@@ -18,10 +18,10 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QEventLoop>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QEventLoop>
 #include <QImageWriter>
 #include <QLabel>
 #include <QMenuBar>
@@ -32,8 +32,8 @@
 #include <QScopedValueRollback>
 #include <QStatusBar>
 #include <QStyle>
-#include <QToolBar>
 #include <QTimer>
+#include <QToolBar>
 #include <QToolButton>
 
 #include <algorithm>
@@ -100,10 +100,12 @@ void MainWindow::BuildMenus()
             NewDrawing();
     });
     file->addAction(tr("&Open..."), QKeySequence::Open, this, [this] {
-        if (!MaybeSave())
-            return;
         const QString path = QFileDialog::getOpenFileName(this, tr("Open Drawing"), QString(), tr(kFileFilter));
-        if (!path.isEmpty())
+        if (path.isEmpty())
+            return;
+        if (MainWindow* showing = Showing(path); showing && showing != this)
+            Bring(showing);
+        else if (MaybeSave())
             Open(path);
     });
     file->addAction(tr("&Save"), QKeySequence::Save, this, [this] {
@@ -120,7 +122,8 @@ void MainWindow::BuildMenus()
             SaveAs(path);
     });
     file->addAction(tr("&Import SVG..."), this, [this] {
-        const QString path = QFileDialog::getOpenFileName(this, tr("Import SVG"), QString(), tr("SVG drawings (*.svg)"));
+        const QString path =
+            QFileDialog::getOpenFileName(this, tr("Import SVG"), QString(), tr("SVG drawings (*.svg)"));
         if (!path.isEmpty())
             ImportSvg(path);
     });
@@ -130,7 +133,8 @@ void MainWindow::BuildMenus()
             ExportPng(path);
     });
     file->addAction(tr("Export S&VG..."), this, [this] {
-        const QString path = QFileDialog::getSaveFileName(this, tr("Export SVG"), QString(), tr("SVG drawings (*.svg)"));
+        const QString path =
+            QFileDialog::getSaveFileName(this, tr("Export SVG"), QString(), tr("SVG drawings (*.svg)"));
         if (path.isEmpty())
             return;
         ExportOptionsDialog options(false, DefaultExportOptions(false), this);
@@ -138,7 +142,8 @@ void MainWindow::BuildMenus()
             ExportSvg(path, options.Options());
     });
     file->addAction(tr("Export P&DF..."), this, [this] {
-        const QString path = QFileDialog::getSaveFileName(this, tr("Export PDF"), QString(), tr("PDF documents (*.pdf)"));
+        const QString path =
+            QFileDialog::getSaveFileName(this, tr("Export PDF"), QString(), tr("PDF documents (*.pdf)"));
         if (path.isEmpty())
             return;
         ExportOptionsDialog options(true, DefaultExportOptions(true), this);
@@ -320,6 +325,51 @@ bool MainWindow::Open(const QString& path)
     return true;
 }
 
+MainWindow* MainWindow::Showing(const QString& path)
+{
+    const QString file = QFileInfo(path).canonicalFilePath();
+    if (file.isEmpty())
+        return nullptr;
+    for (QWidget* widget : QApplication::topLevelWidgets())
+        if (auto* window = qobject_cast<MainWindow*>(widget);
+            window && !window->m_path.isEmpty() && QFileInfo(window->m_path).canonicalFilePath() == file)
+            return window;
+    return nullptr;
+}
+
+void MainWindow::Bring(MainWindow* window)
+{
+    window->show();
+    window->raise();
+    window->activateWindow();
+}
+
+QList<MainWindow*> MainWindow::OpenEach(const QStringList& paths, MainWindow* empty)
+{
+    QList<MainWindow*> windows;
+    for (const QString& path : paths) {
+        if (MainWindow* showing = Showing(path)) {
+            Bring(showing);
+            windows << showing;
+            continue;
+        }
+        MainWindow* window = empty;
+        if (!window) {
+            window = new MainWindow;
+            window->setAttribute(Qt::WA_DeleteOnClose);
+            window->resize(1100, 760);
+            window->show();
+        }
+        if (window->Open(path)) {
+            windows << window;
+            empty = window == empty ? nullptr : empty;
+        } else if (window != empty) {
+            window->close();
+        }
+    }
+    return windows;
+}
+
 bool MainWindow::Recover(const QString& copy)
 {
     QString error;
@@ -422,7 +472,8 @@ bool MainWindow::WriteWhole(const QString& title, const QString& path, const std
 {
     QSaveFile file(path);
     if (file.open(QIODevice::WriteOnly) &&
-        file.write(bytes.data(), static_cast<qint64>(bytes.size())) == static_cast<qint64>(bytes.size()) && file.commit())
+        file.write(bytes.data(), static_cast<qint64>(bytes.size())) == static_cast<qint64>(bytes.size()) &&
+        file.commit())
         return true;
     ReportExportError(title, path, file.errorString());
     return false;
@@ -497,8 +548,8 @@ bool MainWindow::ImportSvg(const QString& path)
         error = tr("it is %1 MB; SVG files up to %2 MB are read").arg(file.size() >> 20).arg(limits.bytes >> 20);
     } else {
         const QByteArray bytes = file.readAll();
-        KestoTool::SvgReader::Result read =
-            KestoTool::SvgReader::Read(std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())), limits);
+        KestoTool::SvgReader::Result read = KestoTool::SvgReader::Read(
+            std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())), limits);
         error = QString::fromStdString(read.error);
         drawing = std::move(read.drawing);
     }
@@ -514,9 +565,9 @@ bool MainWindow::ImportSvg(const QString& path)
         shape.kind = Shape::Kind::Curves;
         shape.curves = std::move(read.outline);
         const QRectF bounds = shape.Outline().controlPointRect();
-        shape.box = KestoPlatform::CRect(static_cast<int>(std::floor(bounds.left())), static_cast<int>(std::floor(bounds.top())),
-                                         static_cast<int>(std::ceil(bounds.right())),
-                                         static_cast<int>(std::ceil(bounds.bottom())));
+        shape.box = KestoPlatform::CRect(
+            static_cast<int>(std::floor(bounds.left())), static_cast<int>(std::floor(bounds.top())),
+            static_cast<int>(std::ceil(bounds.right())), static_cast<int>(std::ceil(bounds.bottom())));
         shape.fill = std::move(read.fill);
         shape.transparency = std::move(read.transparency);
         imported.shapes.push_back(std::move(shape));
@@ -534,8 +585,9 @@ bool MainWindow::ImportSvg(const QString& path)
         QStringList skipped;
         for (const std::string& what : drawing->skipped)
             skipped << QString::fromStdString(what);
-        m_reportError(tr("Import SVG"), tr("%1 holds what kestodraw does not draw, left out: %2.")
-                                            .arg(name, skipped.join(QStringLiteral(", "))));
+        m_reportError(
+            tr("Import SVG"),
+            tr("%1 holds what kestodraw does not draw, left out: %2.").arg(name, skipped.join(QStringLiteral(", "))));
     }
     return true;
 }

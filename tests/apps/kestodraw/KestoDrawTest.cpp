@@ -676,6 +676,37 @@ TEST_F(KestoDrawWindow, SavedDrawingsReopenByteForByte)
     EXPECT_EQ(a.readAll(), b.readAll());
 }
 
+// Drawings named at the start each get a window of their own; a drawing a window already shows,
+// by any name, brings that window forward instead of opening again.
+TEST_F(KestoDrawWindow, EachDrawingOpensInItsOwnWindowAndOneAlreadyOpenIsBroughtForward)
+{
+    const QString other = folder.filePath("other.kdraw"), alias = folder.filePath("alias.kdraw");
+    ASSERT_TRUE(QFile::copy(kSample, other));
+    ASSERT_TRUE(QFile::link(other, alias));
+    const QList<KestoDraw::MainWindow*> shown = KestoDraw::MainWindow::OpenEach({kSample, other, alias});
+    ASSERT_EQ(shown.size(), 3);
+    EXPECT_EQ(shown[0], window.get()); // the fixture's window shows the sample already
+    ASSERT_NE(shown[1], window.get());
+    EXPECT_EQ(shown[1]->Path(), other);
+    EXPECT_EQ(shown[2], shown[1]);
+    EXPECT_TRUE(shown[1]->testAttribute(Qt::WA_DeleteOnClose));
+    EXPECT_EQ(KestoDraw::MainWindow::Showing(folder.filePath("missing.kdraw")), nullptr);
+
+    // A window that shows nothing yet takes the first drawing; the next gets a window of its own.
+    const QString third = folder.filePath("third.kdraw");
+    ASSERT_TRUE(QFile::copy(kSample, third));
+    KestoDraw::MainWindow empty;
+    shown[1]->close(); // deleted once the events run
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    const QList<KestoDraw::MainWindow*> next = KestoDraw::MainWindow::OpenEach({third, other}, &empty);
+    ASSERT_EQ(next.size(), 2);
+    EXPECT_EQ(next[0], &empty);
+    EXPECT_EQ(empty.Path(), third);
+    EXPECT_NE(next[1], window.get());
+    EXPECT_EQ(KestoDraw::MainWindow::Showing(alias), next[1]);
+    delete next[1];
+}
+
 // A drawing of one rectangle with a linear fill, its box and stops given as JSON text.
 QByteArray Small(const char* box, const char* stops)
 {
