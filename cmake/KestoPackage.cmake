@@ -57,6 +57,9 @@ if(KESTO_WITH_QT)
   set(CPACK_DEBIAN_APP_PACKAGE_NAME kestodraw)
   set(CPACK_DEBIAN_APP_PACKAGE_SECTION graphics)
   set(CPACK_DEBIAN_APP_PACKAGE_SHLIBDEPS ON)
+  # dpkg-shlibdeps finds libKestoTool in the build (its own package, libkestotool0, is a
+  # dependency of the component already).
+  set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
   set(CPACK_DEBIAN_APP_PACKAGE_RECOMMENDS qt6-qpa-plugins)
   set(CPACK_DEBIAN_APP_DESCRIPTION "small vector drawing program built on KestoTool's fill tools
  Draw shapes and edit their fills and transparencies by their handles on the canvas: linear,
