@@ -44,7 +44,7 @@ namespace KestoDraw {
 
 namespace {
 
-constexpr const char* kFileFilter = "kestodraw drawings (*.kdraw)";
+constexpr const char* kFileFilter = QT_TRANSLATE_NOOP("KestoDraw::MainWindow", "kestodraw drawings (*.kdraw)");
 // The side of a kind's picture in the type boxes, in pixels.
 constexpr int kKindIconSide = 16;
 // Exported pictures are at most this wide or high.
@@ -413,7 +413,8 @@ bool MainWindow::Exporting(const QString& path, Work work)
     const QScopedValueRollback exporting(m_exporting, true);
     // A copy of the drawing is written on a worker while the window stays live; the progress
     // shows once it has taken half a second, and Cancel stops it at the next shape.
-    QProgressDialog progress(tr("Exporting %1...").arg(QFileInfo(path).fileName()), tr("Cancel"), 0, 1000, this);
+    QProgressDialog progress(MainWindow::tr("Exporting %1...").arg(QFileInfo(path).fileName()), MainWindow::tr("Cancel"),
+                             0, 1000, this);
     progress.setWindowModality(Qt::WindowModal);
     progress.setMinimumDuration(500);
     std::atomic<double> done = 0;

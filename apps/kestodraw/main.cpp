@@ -8,6 +8,7 @@
 #include "FileRead.h"
 #include "MainWindow.h"
 #include "ScriptPlayer.h"
+#include "Translations.h"
 
 #include <kestotool/qt/QtBackend.h>
 #include <kestotool/tool/ToolIdMap.h>
@@ -120,6 +121,7 @@ int main(int argc, char** argv)
     options.addOption(out);
     options.addOption(recover);
     options.process(app);
+    KestoDraw::InstallTranslations(QLocale());
 
     KestoToolQt::QtBackend backend;
     KestoPlatform::SetBackend(&backend);

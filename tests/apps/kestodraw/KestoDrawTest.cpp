@@ -9,6 +9,7 @@
 #include "PageLayers.h"
 #include "Palette.h"
 #include "ScriptPlayer.h"
+#include "Translations.h"
 
 #include "kestotool/dialogs/GradientFillDlg.h"
 #include "kestotool/filltool/FillCommands.h"
@@ -32,6 +33,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QLabel>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
@@ -705,6 +707,23 @@ TEST_F(KestoDrawWindow, EachDrawingOpensInItsOwnWindowAndOneAlreadyOpenIsBrought
     EXPECT_NE(next[1], window.get());
     EXPECT_EQ(KestoDraw::MainWindow::Showing(alias), next[1]);
     delete next[1];
+}
+
+// With a German locale the program speaks German, Qt's own buttons too, its hints keeping their
+// |key| marks; a locale it has no translation for gives English.
+TEST_F(KestoDrawWindow, AGermanLocaleGivesGermanTextsAndAnotherEnglish)
+{
+    ASSERT_TRUE(KestoDraw::InstallTranslations(QLocale(QLocale::German, QLocale::Germany)));
+    {
+        KestoDraw::MainWindow german;
+        EXPECT_EQ(german.menuBar()->actions().first()->text(), "&Datei");
+        EXPECT_EQ(QApplication::translate("KestoDraw::Canvas", "|Drag| to draw a rectangle."),
+                  "|Ziehen|, um ein Rechteck zu zeichnen.");
+        EXPECT_EQ(QApplication::translate("QPlatformTheme", "Cancel"), "Abbrechen");
+    }
+    EXPECT_FALSE(KestoDraw::InstallTranslations(QLocale(QLocale::English, QLocale::UnitedStates)));
+    KestoDraw::MainWindow english;
+    EXPECT_EQ(english.menuBar()->actions().first()->text(), "&File");
 }
 
 // A drawing of one rectangle with a linear fill, its box and stops given as JSON text.

@@ -1,0 +1,385 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>KestoDraw::Canvas</name>
+    <message>
+        <source>|Drag| to draw a rectangle.</source>
+        <translation>|Ziehen|, um ein Rechteck zu zeichnen.</translation>
+    </message>
+    <message>
+        <source>|Drag| to draw an ellipse.</source>
+        <translation>|Ziehen|, um eine Ellipse zu zeichnen.</translation>
+    </message>
+    <message>
+        <source>|Drag| to draw a closed path.</source>
+        <translation>|Ziehen|, um einen geschlossenen Pfad zu zeichnen.</translation>
+    </message>
+    <message>
+        <source>|Click| a shape to select it, |drag| a shape to move it.</source>
+        <translation>Eine Form |anklicken|, um sie auszuwählen; eine Form |ziehen|, um sie zu verschieben.</translation>
+    </message>
+    <message>
+        <source>%1|Drag| over the shape to give it a linear %2, or choose a kind in the type box.</source>
+        <translation>%1Über die Form |ziehen|, um ihr eine lineare %2 zu geben, oder im Typfeld eine Art wählen.</translation>
+    </message>
+    <message>
+        <source>transparency</source>
+        <translation>Transparenz</translation>
+    </message>
+    <message>
+        <source>fill</source>
+        <translation>Füllung</translation>
+    </message>
+    <message>
+        <source>Move Shape</source>
+        <translation>Form verschieben</translation>
+    </message>
+    <message>
+        <source>Add Path</source>
+        <translation>Pfad hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add Ellipse</source>
+        <translation>Ellipse hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add Rectangle</source>
+        <translation>Rechteck hinzufügen</translation>
+    </message>
+    <message>
+        <source>Drop Colour</source>
+        <translation>Farbe ablegen</translation>
+    </message>
+    <message>
+        <source>Painting the page...</source>
+        <translation>Die Seite wird gezeichnet…</translation>
+    </message>
+</context>
+<context>
+    <name>KestoDraw::ExportOptionsDialog</name>
+    <message>
+        <source>PDF Options</source>
+        <translation>PDF-Optionen</translation>
+    </message>
+    <message>
+        <source>SVG Options</source>
+        <translation>SVG-Optionen</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source>Page&apos;s longer side:</source>
+        <translation>Längere Seitenkante:</translation>
+    </message>
+    <message>
+        <source> dpi</source>
+        <translation> dpi</translation>
+    </message>
+    <message>
+        <source>Pictures of conical, plasma, bitmap and vector fills at:</source>
+        <translation>Bilder konischer Füllungen, Plasma-, Bitmap- und Vektorfüllungen mit:</translation>
+    </message>
+    <message>
+        <source>Pictures of conical, three- and four-colour and plasma fills at:</source>
+        <translation>Bilder konischer Füllungen, Drei- und Vierfarbfüllungen und Plasmafüllungen mit:</translation>
+    </message>
+</context>
+<context>
+    <name>KestoDraw::MainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;Neu</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>Ö&amp;ffnen…</translation>
+    </message>
+    <message>
+        <source>Open Drawing</source>
+        <translation>Zeichnung öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Save Drawing</source>
+        <translation>Zeichnung speichern</translation>
+    </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>Speichern &amp;unter…</translation>
+    </message>
+    <message>
+        <source>&amp;Import SVG...</source>
+        <translation>SVG &amp;importieren…</translation>
+    </message>
+    <message>
+        <source>Import SVG</source>
+        <translation>SVG importieren</translation>
+    </message>
+    <message>
+        <source>SVG drawings (*.svg)</source>
+        <translation>SVG-Zeichnungen (*.svg)</translation>
+    </message>
+    <message>
+        <source>&amp;Export PNG...</source>
+        <translation>Als &amp;PNG exportieren…</translation>
+    </message>
+    <message>
+        <source>Export PNG</source>
+        <translation>PNG exportieren</translation>
+    </message>
+    <message>
+        <source>PNG images (*.png)</source>
+        <translation>PNG-Bilder (*.png)</translation>
+    </message>
+    <message>
+        <source>Export S&amp;VG...</source>
+        <translation>Als S&amp;VG exportieren…</translation>
+    </message>
+    <message>
+        <source>Export SVG</source>
+        <translation>SVG exportieren</translation>
+    </message>
+    <message>
+        <source>Export P&amp;DF...</source>
+        <translation>Als P&amp;DF exportieren…</translation>
+    </message>
+    <message>
+        <source>Export PDF</source>
+        <translation>PDF exportieren</translation>
+    </message>
+    <message>
+        <source>PDF documents (*.pdf)</source>
+        <translation>PDF-Dokumente (*.pdf)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>&amp;Delete Shape</source>
+        <translation>Form &amp;löschen</translation>
+    </message>
+    <message>
+        <source>Edit &amp;Fill...</source>
+        <translation>&amp;Füllung bearbeiten…</translation>
+    </message>
+    <message>
+        <source>Edit &amp;Transparency...</source>
+        <translation>&amp;Transparenz bearbeiten…</translation>
+    </message>
+    <message>
+        <source>&amp;Preferences...</source>
+        <translation>&amp;Einstellungen…</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>&amp;Vergrößern</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>Ver&amp;kleinern</translation>
+    </message>
+    <message>
+        <source>&amp;Fit Page</source>
+        <translation>Ganze &amp;Seite</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Werkzeuge</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Auswählen</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rechteck</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Pfad</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Füllung</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>Transparenz</translation>
+    </message>
+    <message>
+        <source>The fill tools edit the selection&apos;s fill</source>
+        <translation>Die Füllwerkzeuge bearbeiten die Füllung der Auswahl</translation>
+    </message>
+    <message>
+        <source>The fill tools edit the selection&apos;s transparency</source>
+        <translation>Die Füllwerkzeuge bearbeiten die Transparenz der Auswahl</translation>
+    </message>
+    <message>
+        <source>Fill Tool</source>
+        <translation>Füllwerkzeug</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Edit Transparency</source>
+        <translation>Transparenz bearbeiten</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>Palette</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>Unbenannt</translation>
+    </message>
+    <message>
+        <source>%1 could not be opened: %2</source>
+        <translation>%1 konnte nicht geöffnet werden: %2</translation>
+    </message>
+    <message>
+        <source>Recover Drawing</source>
+        <translation>Zeichnung wiederherstellen</translation>
+    </message>
+    <message>
+        <source>The drawing kept when kestodraw stopped could not be read: %1</source>
+        <translation>Die Zeichnung, die kestodraw beim Abbruch aufbewahrt hat, konnte nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>%1 could not be saved: %2</source>
+        <translation>%1 konnte nicht gespeichert werden: %2</translation>
+    </message>
+    <message>
+        <source>%1 could not be written: %2</source>
+        <translation>%1 konnte nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>the PDF library could not make the document</source>
+        <translation>die PDF-Bibliothek konnte das Dokument nicht erzeugen</translation>
+    </message>
+    <message>
+        <source>it is %1 MB; SVG files up to %2 MB are read</source>
+        <translation>sie ist %1 MB groß; SVG-Dateien werden bis %2 MB gelesen</translation>
+    </message>
+    <message>
+        <source>%1 could not be imported: %2</source>
+        <translation>%1 konnte nicht importiert werden: %2</translation>
+    </message>
+    <message>
+        <source>%1 holds what kestodraw does not draw, left out: %2.</source>
+        <translation>%1 enthält, was kestodraw nicht zeichnet; ausgelassen: %2.</translation>
+    </message>
+    <message>
+        <source>kestodraw</source>
+        <translation>kestodraw</translation>
+    </message>
+    <message>
+        <source>Save the changes to the drawing?</source>
+        <translation>Die Änderungen an der Zeichnung speichern?</translation>
+    </message>
+    <message>
+        <source>kestodraw drawings (*.kdraw)</source>
+        <translation>kestodraw-Zeichnungen (*.kdraw)</translation>
+    </message>
+    <message>
+        <source>Exporting %1...</source>
+        <translation>%1 wird exportiert…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>KestoDraw::Palette</name>
+    <message>
+        <source>Drag a colour onto a fill&apos;s line or handle; click one to recolour the current handle</source>
+        <translation>Eine Farbe auf die Linie oder einen Griff einer Füllung ziehen; eine Farbe anklicken, um den aktuellen Griff umzufärben</translation>
+    </message>
+</context>
+<context>
+    <name>KestoDraw::PreferencesDialog</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source> units</source>
+        <translation> Einheiten</translation>
+    </message>
+    <message>
+        <source>Snap to grid:</source>
+        <translation>Am Raster ausrichten:</translation>
+    </message>
+    <message>
+        <source>Shift constrains angles to steps of:</source>
+        <translation>Umschalt beschränkt Winkel auf Schritte von:</translation>
+    </message>
+</context>
+<context>
+    <name>KestoDraw::ToolHost</name>
+    <message>
+        <source>Delete Shape</source>
+        <translation>Form löschen</translation>
+    </message>
+    <message>
+        <source>Edit Transparency</source>
+        <translation>Transparenz bearbeiten</translation>
+    </message>
+    <message>
+        <source>Edit Fill</source>
+        <translation>Füllung bearbeiten</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Recover Drawing</source>
+        <translation>Zeichnung wiederherstellen</translation>
+    </message>
+    <message>
+        <source>kestodraw stopped without closing last time. Open the drawing as it was a minute or less before?</source>
+        <translation>kestodraw wurde beim letzten Mal nicht ordnungsgemäß beendet. Die Zeichnung so öffnen, wie sie höchstens eine Minute vorher war?</translation>
+    </message>
+</context>
+</TS>
