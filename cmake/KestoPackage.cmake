@@ -60,7 +60,7 @@ if(KESTO_WITH_QT)
   # dpkg-shlibdeps finds libKestoTool in the build (its own package, libkestotool0, is a
   # dependency of the component already).
   set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
-  set(CPACK_DEBIAN_APP_PACKAGE_RECOMMENDS qt6-qpa-plugins)
+  set(CPACK_DEBIAN_APP_PACKAGE_RECOMMENDS "qt6-qpa-plugins, qt6-translations-l10n")
   set(CPACK_DEBIAN_APP_DESCRIPTION "small vector drawing program built on KestoTool's fill tools
  Draw shapes and edit their fills and transparencies by their handles on the canvas: linear,
  radial, elliptical, conical and square gradients, three- and four-colour, plasma, bitmap and
