@@ -136,7 +136,7 @@ QString Canvas::HintLine() const
     if (Selected() < 0)
         return tr("|Click| a shape to select it, |drag| a shape to move it.");
     return tr("%1|Drag| over the shape to give it a linear %2, or choose a kind in the type box.")
-        .arg(QString::fromWCharArray(m_document.shapes[Selected()].Description()),
+        .arg(m_document.shapes[Selected()].Description(),
              EditsTransparency() ? tr("transparency") : tr("fill"));
 }
 

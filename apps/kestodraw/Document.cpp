@@ -3,6 +3,8 @@
 #include <kestotool/geometry/CoordinateRange.h>
 #include <kestotool/geometry/K2DLtGeneral.h>
 
+#include <QCoreApplication>
+
 namespace KestoDraw {
 
 QPainterPath Shape::Outline() const
@@ -42,15 +44,15 @@ QPainterPath Shape::Outline() const
     return path;
 }
 
-const wchar_t* Shape::Description() const
+QString Shape::Description() const
 {
     switch (kind) {
-    case Kind::Rectangle: return L"Rectangle: ";
-    case Kind::Ellipse: return L"Ellipse: ";
+    case Kind::Rectangle: return QCoreApplication::translate("KestoDraw::Shape", "Rectangle: ");
+    case Kind::Ellipse: return QCoreApplication::translate("KestoDraw::Shape", "Ellipse: ");
     case Kind::Path:
-    case Kind::Curves: return L"Path: ";
+    case Kind::Curves: return QCoreApplication::translate("KestoDraw::Shape", "Path: ");
     }
-    return L"";
+    return {};
 }
 
 void Shape::Offset(int dx, int dy)

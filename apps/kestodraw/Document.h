@@ -6,6 +6,7 @@
 #include <kestotool/raster/Path.h>
 
 #include <QPainterPath>
+#include <QString>
 
 #include <algorithm>
 #include <vector>
@@ -35,8 +36,8 @@ struct Shape {
                           other.curves.Points().end(),
                           [](const auto& a, const auto& b) { return a.x == b.x && a.y == b.y; });
     }
-    // The name that starts every hint line about the shape ("Rectangle: ").
-    const wchar_t* Description() const;
+    // The name that starts every hint line about the shape ("Rectangle: "), in the user's language.
+    QString Description() const;
     // Moves the shape and its fills by (dx, dy), inside the coordinate range.
     void Offset(int dx, int dy);
 };

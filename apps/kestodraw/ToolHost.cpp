@@ -364,7 +364,7 @@ void ToolHost::Snap(const CPoint& in, CPoint& out)
 
 KestoPlatform::CString ToolHost::GetCurrentSelectionDescription()
 {
-    return m_selected >= 0 ? KestoPlatform::CString(m_document.shapes[m_selected].Description())
+    return m_selected >= 0 ? KestoPlatform::CString(m_document.shapes[m_selected].Description().toStdWString().c_str())
                            : KestoPlatform::CString();
 }
 

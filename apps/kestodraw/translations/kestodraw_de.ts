@@ -353,6 +353,21 @@
     </message>
 </context>
 <context>
+    <name>KestoDraw::Shape</name>
+    <message>
+        <source>Rectangle: </source>
+        <translation>Rechteck: </translation>
+    </message>
+    <message>
+        <source>Ellipse: </source>
+        <translation>Ellipse: </translation>
+    </message>
+    <message>
+        <source>Path: </source>
+        <translation>Pfad: </translation>
+    </message>
+</context>
+<context>
     <name>KestoDraw::ToolHost</name>
     <message>
         <source>Delete Shape</source>

@@ -21,6 +21,7 @@
 #include "kestotool/gdi/CFillSolid.h"
 #include "kestotool/gdi/CFillWithStops.h"
 #include "kestotool/gdi/FillType.h"
+#include "kestotool/tool/Module.h"
 #include "kestotool/tool/ToolIdMap.h"
 #include "support/ReferenceImage.h"
 #include "support/UserInput.h"
@@ -709,8 +710,8 @@ TEST_F(KestoDrawWindow, EachDrawingOpensInItsOwnWindowAndOneAlreadyOpenIsBrought
     delete next[1];
 }
 
-// With a German locale the program speaks German, Qt's own buttons too, its hints keeping their
-// |key| marks; a locale it has no translation for gives English.
+// With a German locale the program speaks German, Qt's own buttons and the library's hints and
+// commands too, the hints keeping their |key| marks; a locale without translations gives English.
 TEST_F(KestoDrawWindow, AGermanLocaleGivesGermanTextsAndAnotherEnglish)
 {
     ASSERT_TRUE(KestoDraw::InstallTranslations(QLocale(QLocale::German, QLocale::Germany)));
@@ -720,10 +721,14 @@ TEST_F(KestoDrawWindow, AGermanLocaleGivesGermanTextsAndAnotherEnglish)
         EXPECT_EQ(QApplication::translate("KestoDraw::Canvas", "|Drag| to draw a rectangle."),
                   "|Ziehen|, um ein Rechteck zu zeichnen.");
         EXPECT_EQ(QApplication::translate("QPlatformTheme", "Cancel"), "Abbrechen");
+        // The library's, from its German resource module (the |key| marks kept).
+        EXPECT_EQ(KestoTool::Module::Get().LoadString(123).Str(), L"Füllung drehen");
+        EXPECT_EQ(KestoTool::Module::Get().LoadString(102).Str(), L"|Ziehen|, um die Füllung zu verschieben.");
     }
     EXPECT_FALSE(KestoDraw::InstallTranslations(QLocale(QLocale::English, QLocale::UnitedStates)));
     KestoDraw::MainWindow english;
     EXPECT_EQ(english.menuBar()->actions().first()->text(), "&File");
+    EXPECT_EQ(KestoTool::Module::Get().LoadString(123).Str(), L"Rotate Fill");
 }
 
 // A drawing of one rectangle with a linear fill, its box and stops given as JSON text.
