@@ -33,12 +33,26 @@ QStringList PromptParts(const CXTPControl& control)
     return ToQString(control.GetPrompt()).split(QLatin1Char('\n'));
 }
 
+// The command's picture for the screen's resolution and, where the image manager has it, the
+// one at twice that (the 192-dpi picture beside the 96-dpi one), marked as drawn for two device
+// pixels per pixel: Qt draws it on such a screen instead of blowing the smaller one up.
 QIcon IconOf(KestoPlatform::CXTPCommandBars& bars, int id)
 {
-    const KestoPlatform::CSize size =
-        KestoPlatform::CXTPImageManager::GetPreferredIconSizeforDPI(KestoPlatform::ScreenMetrics::GetLogPixelsX());
-    const KestoPlatform::XTPImage* image = bars.GetImageManager()->GetImage(id, size);
-    return image ? ToQIcon(*image) : QIcon();
+    using KestoPlatform::CXTPImageManager;
+    const int screen = KestoPlatform::ScreenMetrics::GetLogPixelsX();
+    const KestoPlatform::XTPImage* own =
+        bars.GetImageManager()->GetImage(id, CXTPImageManager::GetPreferredIconSizeforDPI(screen));
+    if (!own)
+        return {};
+    QIcon icon = ToQIcon(*own);
+    if (const KestoPlatform::XTPImage* twice =
+            bars.GetImageManager()->GetImage(id, CXTPImageManager::GetPreferredIconSizeforDPI(2 * screen));
+        twice && twice->width == 2 * own->width) {
+        QPixmap sharp = ToQPixmap(*twice);
+        sharp.setDevicePixelRatio(2);
+        icon.addPixmap(sharp);
+    }
+    return icon;
 }
 
 QIcon Swatch(KestoPlatform::COLORREF colour, int side)

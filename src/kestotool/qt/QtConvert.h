@@ -29,7 +29,7 @@
 namespace KestoToolQt {
 
 // A command image as an icon; an empty image gives the null icon.
-inline QIcon ToQIcon(const KestoPlatform::XTPImage& image)
+inline QPixmap ToQPixmap(const KestoPlatform::XTPImage& image)
 {
     if (image.width <= 0 || image.height <= 0)
         return {};
@@ -37,7 +37,13 @@ inline QIcon ToQIcon(const KestoPlatform::XTPImage& image)
     for (int y = 0; y < image.height; ++y)
         for (int x = 0; x < image.width; ++x)
             picture.setPixel(x, y, image.argb[static_cast<std::size_t>(y) * image.width + x]);
-    return QIcon(QPixmap::fromImage(picture));
+    return QPixmap::fromImage(picture);
+}
+
+inline QIcon ToQIcon(const KestoPlatform::XTPImage& image)
+{
+    const QPixmap pixmap = ToQPixmap(image);
+    return pixmap.isNull() ? QIcon() : QIcon(pixmap);
 }
 
 inline QString ToQString(const KestoPlatform::CString& text)
