@@ -6,6 +6,7 @@
 //                                            plays the input script on the window, writing a
 //                                            screenshot after each step into DIR, and exits
 #include "FileRead.h"
+#include "Instance.h"
 #include "MainWindow.h"
 #include "ScriptPlayer.h"
 #include "Translations.h"
@@ -84,9 +85,13 @@ int PlayScript(const QString& drawing, bool recover, const QString& scriptPath, 
 }
 
 // Opens each drawing in a window of its own (the sample without any, unless the first window
-// took up a recovered copy); runs until the last window closes.
+// took up a recovered copy), unless a kestodraw runs already; runs until the last window closes.
 int ShowDrawings(const QStringList& drawings, bool recover)
 {
+    // A kestodraw of the user's that runs already opens them (or brings its window forward).
+    if (KestoDraw::Instance::Forward(drawings))
+        return 0;
+    const KestoDraw::Instance instance;
     auto* first = new KestoDraw::MainWindow;
     first->setAttribute(Qt::WA_DeleteOnClose);
     first->resize(1100, 760);

@@ -4,6 +4,7 @@
 #include "KestoDrawWindow.h"
 #include "DrawingPainter.h"
 #include "FillJson.h"
+#include "Instance.h"
 #include "JsonRead.h"
 #include "MainWindow.h"
 #include "PageLayers.h"
@@ -708,6 +709,26 @@ TEST_F(KestoDrawWindow, EachDrawingOpensInItsOwnWindowAndOneAlreadyOpenIsBrought
     EXPECT_NE(next[1], window.get());
     EXPECT_EQ(KestoDraw::MainWindow::Showing(alias), next[1]);
     delete next[1];
+}
+
+// A later start hands its drawings to the kestodraw that runs, which opens each in a window of
+// its own or brings forward the window that shows it already; with none running it hands nothing.
+TEST_F(KestoDrawWindow, ALaterStartHandsItsDrawingsToTheKestodrawThatRuns)
+{
+    const QString name = QStringLiteral("kestodraw-test-%1").arg(QCoreApplication::applicationPid());
+    EXPECT_FALSE(KestoDraw::Instance::Forward({kSample}, name));
+    const KestoDraw::Instance running(name);
+    ASSERT_TRUE(running.Listening());
+    const QString other = folder.filePath("other.kdraw");
+    ASSERT_TRUE(QFile::copy(kSample, other));
+    ASSERT_TRUE(KestoDraw::Instance::Forward({other, kSample}, name));
+    for (int i = 0; i < 200 && !KestoDraw::MainWindow::Showing(other); ++i)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+    KestoDraw::MainWindow* opened = KestoDraw::MainWindow::Showing(other);
+    ASSERT_NE(opened, nullptr);
+    EXPECT_NE(opened, window.get());
+    EXPECT_EQ(KestoDraw::MainWindow::Showing(kSample), window.get());
+    delete opened;
 }
 
 // With a German locale the program speaks German, Qt's own buttons and the library's hints and
