@@ -1,7 +1,8 @@
 // kestodraw: a small drawing program whose fill and transparency tools come from KestoTool.
 //
 //   kestodraw [DRAWING...]                   opens each drawing in a window of its own (the
-//                                            sample without one)
+//                                            sample without one), in the kestodraw of the
+//                                            user's that runs already if there is one
 //   kestodraw [DRAWING] [--recover] --script FILE --out DIR
 //                                            plays the input script on the window, writing a
 //                                            screenshot after each step into DIR, and exits
