@@ -1,0 +1,91 @@
+// kestodraw as the desktop runs it: a window a drawing, one kestodraw a user, and the user's
+// language.
+#include "Instance.h"
+#include "KestoDrawWindow.h"
+#include "MainWindow.h"
+#include "Translations.h"
+
+#include "kestotool/tool/Module.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QMenuBar>
+
+using KestoDrawTesting::KestoDrawWindow;
+using KestoDrawTesting::kSample;
+
+namespace {
+
+// Drawings named at the start each get a window of their own; a drawing a window already shows,
+// by any name, brings that window forward instead of opening again.
+TEST_F(KestoDrawWindow, EachDrawingOpensInItsOwnWindowAndOneAlreadyOpenIsBroughtForward)
+{
+    const QString other = folder.filePath("other.kdraw"), alias = folder.filePath("alias.kdraw");
+    ASSERT_TRUE(QFile::copy(kSample, other));
+    ASSERT_TRUE(QFile::link(other, alias));
+    const QList<KestoDraw::MainWindow*> shown = KestoDraw::MainWindow::OpenEach({kSample, other, alias});
+    ASSERT_EQ(shown.size(), 3);
+    EXPECT_EQ(shown[0], window.get()); // the fixture's window shows the sample already
+    ASSERT_NE(shown[1], window.get());
+    EXPECT_EQ(shown[1]->Path(), other);
+    EXPECT_EQ(shown[2], shown[1]);
+    EXPECT_TRUE(shown[1]->testAttribute(Qt::WA_DeleteOnClose));
+    EXPECT_EQ(KestoDraw::MainWindow::Showing(folder.filePath("missing.kdraw")), nullptr);
+
+    // A window that shows nothing yet takes the first drawing; the next gets a window of its own.
+    const QString third = folder.filePath("third.kdraw");
+    ASSERT_TRUE(QFile::copy(kSample, third));
+    KestoDraw::MainWindow empty;
+    shown[1]->close(); // deleted once the events run
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    const QList<KestoDraw::MainWindow*> next = KestoDraw::MainWindow::OpenEach({third, other}, &empty);
+    ASSERT_EQ(next.size(), 2);
+    EXPECT_EQ(next[0], &empty);
+    EXPECT_EQ(empty.Path(), third);
+    EXPECT_NE(next[1], window.get());
+    EXPECT_EQ(KestoDraw::MainWindow::Showing(alias), next[1]);
+    delete next[1];
+}
+
+// A later start hands its drawings to the kestodraw that runs, which opens each in a window of
+// its own or brings forward the window that shows it already; with none running it hands nothing.
+TEST_F(KestoDrawWindow, ALaterStartHandsItsDrawingsToTheKestodrawThatRuns)
+{
+    const QString name = QStringLiteral("kestodraw-test-%1").arg(QCoreApplication::applicationPid());
+    EXPECT_FALSE(KestoDraw::Instance::Forward({kSample}, name));
+    const KestoDraw::Instance running(name);
+    ASSERT_TRUE(running.Listening());
+    const QString other = folder.filePath("other.kdraw");
+    ASSERT_TRUE(QFile::copy(kSample, other));
+    ASSERT_TRUE(KestoDraw::Instance::Forward({other, kSample}, name));
+    for (int i = 0; i < 200 && !KestoDraw::MainWindow::Showing(other); ++i)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+    KestoDraw::MainWindow* opened = KestoDraw::MainWindow::Showing(other);
+    ASSERT_NE(opened, nullptr);
+    EXPECT_NE(opened, window.get());
+    EXPECT_EQ(KestoDraw::MainWindow::Showing(kSample), window.get());
+    delete opened;
+}
+
+// With a German locale the program speaks German, Qt's own buttons and the library's hints and
+// commands too, the hints keeping their |key| marks; a locale without translations gives English.
+TEST_F(KestoDrawWindow, AGermanLocaleGivesGermanTextsAndAnotherEnglish)
+{
+    ASSERT_TRUE(KestoDraw::InstallTranslations(QLocale(QLocale::German, QLocale::Germany)));
+    {
+        KestoDraw::MainWindow german;
+        EXPECT_EQ(german.menuBar()->actions().first()->text(), "&Datei");
+        EXPECT_EQ(QApplication::translate("KestoDraw::Canvas", "|Drag| to draw a rectangle."),
+                  "|Ziehen|, um ein Rechteck zu zeichnen.");
+        EXPECT_EQ(QApplication::translate("QPlatformTheme", "Cancel"), "Abbrechen");
+        // The library's, from its German resource module (the |key| marks kept).
+        EXPECT_EQ(KestoTool::Module::Get().LoadString(123).Str(), L"Füllung drehen");
+        EXPECT_EQ(KestoTool::Module::Get().LoadString(102).Str(), L"|Ziehen|, um die Füllung zu verschieben.");
+    }
+    EXPECT_FALSE(KestoDraw::InstallTranslations(QLocale(QLocale::English, QLocale::UnitedStates)));
+    KestoDraw::MainWindow english;
+    EXPECT_EQ(english.menuBar()->actions().first()->text(), "&File");
+    EXPECT_EQ(KestoTool::Module::Get().LoadString(123).Str(), L"Rotate Fill");
+}
+
+} // namespace
