@@ -2,6 +2,7 @@
 # source's placeholders (%1, %=Name%) or |key| marks. The texts are those lupdate finds in the
 # sources in SOURCE_DIR now, so a new text without its translation fails the build.
 # Run with -DLUPDATE=... -DTS_FILE=... -DSOURCE_DIR=... -DWORK_DIR=... -DSTAMP=...
+cmake_minimum_required(VERSION 3.25) # the script's policies: IN_LIST, quoted arguments
 file(GLOB sources ${SOURCE_DIR}/*.cpp ${SOURCE_DIR}/*.h)
 file(MAKE_DIRECTORY ${WORK_DIR})
 get_filename_component(name ${TS_FILE} NAME)

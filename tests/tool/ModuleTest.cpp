@@ -3,6 +3,8 @@
 #include "kestotool/platform/CResourceModule.h"
 
 #include "kestotool/kernel/VerifyReporter.h"
+#include "kestotool/platform/WindowTypes.h"
+#include "kestotool/resources/ResourceIds.h"
 
 #include <gtest/gtest.h>
 
@@ -71,8 +73,19 @@ TEST_F(ModuleTest, LocalisedModuleTextsReplaceBuiltInOnes)
     EXPECT_EQ(m.LoadString(117), KestoPlatform::CString(L"Original"));
     EXPECT_EQ(m.LoadString(123), KestoPlatform::CString(L"F\u00fcllung drehen"));
     EXPECT_EQ(m.LoadString(131), KestoPlatform::CString(L"Rotate Transparency")); // not translated
+    // A dialog's texts are the module's where it has them; its layout stays the library's.
+    const KestoPlatform::DialogTemplate* dialog = m.LoadDialogTemplate(KestoTool::IDD_SOLID_TRANSPARENCY);
+    ASSERT_NE(dialog, nullptr);
+    ASSERT_EQ(dialog->items.back().id, KestoPlatform::IDCANCEL);
+    EXPECT_EQ(dialog->items.back().text, L"Abbrechen");
+    EXPECT_EQ(dialog->caption, L"Transparency");
     m.UseBuiltInResources();
     EXPECT_EQ(m.LoadString(117), KestoPlatform::CString(L"original"));
+    const KestoPlatform::DialogTemplate* english = m.LoadDialogTemplate(KestoTool::IDD_SOLID_TRANSPARENCY);
+    EXPECT_EQ(english->items.back().text, L"Cancel");
+    for (std::size_t i = 0; i < english->items.size(); ++i)
+        EXPECT_EQ(english->items[i].rect, dialog->items[i].rect) << i;
+    EXPECT_EQ(dialog->items.back().text, L"Abbrechen"); // a dialog made before keeps its texts
 }
 
 TEST_F(ModuleTest, MissingLocalisedModuleKeepsTheCurrentResources)

@@ -66,12 +66,15 @@ bool Module::UseLocalisedModule(const std::string& path)
     UseBuiltInResources();
     m_handle = handle;
     m_lookup = lookup;
+    m_dialogText = reinterpret_cast<DialogTextLookup>(dlsym(handle, LocalisedDialogTextEntry));
     return true;
 }
 
 void Module::UseBuiltInResources()
 {
     m_lookup = nullptr;
+    m_dialogText = nullptr;
+    m_localisedTemplates.clear();
     if (m_handle)
         dlclose(std::exchange(m_handle, nullptr));
 }
@@ -89,7 +92,22 @@ bool Module::LoadString(int id, CString& out) const
 
 const KestoPlatform::DialogTemplate* Module::LoadDialogTemplate(int id) const
 {
-    return FindBuiltInDialogTemplate(id);
+    const KestoPlatform::DialogTemplate* builtIn = FindBuiltInDialogTemplate(id);
+    if (!builtIn || !m_dialogText)
+        return builtIn;
+    if (const auto it = m_localisedTemplates.find(id); it != m_localisedTemplates.end())
+        return it->second;
+    KestoPlatform::DialogTemplate localised = *builtIn;
+    const auto translate = [this](std::wstring& text) {
+        if (const wchar_t* translated = text.empty() ? nullptr : m_dialogText(text.c_str()))
+            text = translated;
+    };
+    translate(localised.caption);
+    for (KestoPlatform::DialogItemTemplate& item : localised.items)
+        translate(item.text);
+    const KestoPlatform::DialogTemplate* made = &m_madeTemplates.emplace_back(std::move(localised));
+    m_localisedTemplates[id] = made;
+    return made;
 }
 
 CString Module::LoadString(int id) const

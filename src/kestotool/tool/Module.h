@@ -4,6 +4,8 @@
 #include "kestotool/platform/Export.h"
 #include "kestotool/tool/KestoToolImports.h"
 
+#include <deque>
+#include <map>
 #include <string>
 
 namespace KestoTool {
@@ -16,12 +18,16 @@ namespace KestoTool {
 // truncated, foreign or writable by others (it is checked before it is loaded). A module that
 // is replaced is unloaded.
 //
-// A localised module exports one C function, LocalisedStringEntry:
+// A localised module exports one C function, LocalisedStringEntry, and may export a second,
+// LocalisedDialogTextEntry, for the dialogs' captions and their controls' texts (the layouts
+// stay the library's):
 //     extern "C" const wchar_t* KestoToolLocString(int id);   // null for an id it lacks
+//     extern "C" const wchar_t* KestoToolLocDialogText(const wchar_t* english);   // likewise
 class KESTO_API Module : public KestoPlatform::CResourceModule {
 public:
     static constexpr const char* LocalisedModuleName = "libKestoToolLoc.so";
     static constexpr const char* LocalisedStringEntry = "KestoToolLocString";
+    static constexpr const char* LocalisedDialogTextEntry = "KestoToolLocDialogText";
 
     static Module& Get();
 
@@ -29,7 +35,8 @@ public:
     bool LoadString(int id, CString& out) const override;
     // The text for an id; empty for an id no resource has.
     CString LoadString(int id) const;
-    // The library's dialog templates (a localised module does not replace layouts).
+    // The library's dialog templates, their texts the localised module's where it has them (a
+    // localised module does not replace layouts).
     const KestoPlatform::DialogTemplate* LoadDialogTemplate(int id) const override;
 
     // The full path of the library's own file, resolved once when the library loads.
@@ -48,8 +55,14 @@ private:
     ~Module() override;
 
     using Lookup = const wchar_t* (*)(int);
+    using DialogTextLookup = const wchar_t* (*)(const wchar_t*);
     Lookup m_lookup = nullptr;
+    DialogTextLookup m_dialogText = nullptr;
     void* m_handle = nullptr;
+    // The templates with the localised module's texts, made when first asked for; each is kept
+    // for the process, as a dialog open when the module changes still reads its own.
+    mutable std::map<int, const KestoPlatform::DialogTemplate*> m_localisedTemplates;
+    mutable std::deque<KestoPlatform::DialogTemplate> m_madeTemplates;
 };
 
 } // namespace KestoTool

@@ -5,6 +5,7 @@
 #include "MainWindow.h"
 #include "Translations.h"
 
+#include "kestotool/resources/ResourceIds.h"
 #include "kestotool/tool/Module.h"
 
 #include <QApplication>
@@ -81,6 +82,10 @@ TEST_F(KestoDrawWindow, AGermanLocaleGivesGermanTextsAndAnotherEnglish)
         // The library's, from its German resource module (the |key| marks kept).
         EXPECT_EQ(KestoTool::Module::Get().LoadString(123).Str(), L"Füllung drehen");
         EXPECT_EQ(KestoTool::Module::Get().LoadString(102).Str(), L"|Ziehen|, um die Füllung zu verschieben.");
+        const KestoPlatform::DialogTemplate* editor =
+            KestoTool::Module::Get().LoadDialogTemplate(KestoTool::IDD_GRADIENT_FILL);
+        ASSERT_NE(editor, nullptr);
+        EXPECT_EQ(editor->caption, L"Verlaufsfüllung");
     }
     EXPECT_FALSE(KestoDraw::InstallTranslations(QLocale(QLocale::English, QLocale::UnitedStates)));
     KestoDraw::MainWindow english;
