@@ -9,6 +9,7 @@
 #include "kestotool/geometry/Rounding.h"
 #include "kestotool/platform/WindowBackend.h"
 #include "kestotool/resources/ResourceIds.h"
+#include "kestotool/tool/Module.h"
 
 #include <algorithm>
 #include <cmath>
@@ -90,7 +91,7 @@ void StopListEditorDlg::DoDataExchange(KestoPlatform::CDataExchange* pDX)
 bool StopListEditorDlg::OnInitDialog()
 {
     ExpandingFillPreviewDlg::OnInitDialog();
-    m_levelLabel.SetWindowText(IsTransparency() ? L"Transparency" : L"Opacity");
+    m_levelLabel.SetWindowText(Module::Get().LoadDialogText(IsTransparency() ? L"Transparency" : L"Opacity"));
     // A transparency's stops are levels only.
     m_colour.ShowWindow(IsTransparency() ? KestoPlatform::SW_HIDE : KestoPlatform::SW_SHOW);
     return true;

@@ -191,12 +191,12 @@ QWidget* QtCommandBar::MakeWidget(CXTPControl& control)
                              control.GetStyle() == KestoPlatform::XTPButtonStyle::IconAndCaption;
         if (icon && control.GetType() != XTPControlType::PopupColor)
             button->setIcon(IconOf(*m_bars, id));
-        // A button with no picture shows its caption, so that it can be read at all; a control
-        // the toolkit made from a description has none of its own and shows the prompt's short
-        // caption.
+        // A button with no picture shows its caption, so that it can be read at all. The caption
+        // is the prompt's short one, as the toolkit reads it (in the user's language where the
+        // library's texts are localised), else the control's own.
         if (caption || (button->icon().isNull() && control.GetType() != XTPControlType::PopupColor)) {
-            const QString own = ToQString(control.GetCaption());
-            button->setText(own.isEmpty() ? PromptParts(control).value(2) : own);
+            const QString shortCaption = PromptParts(control).value(2);
+            button->setText(shortCaption.isEmpty() ? ToQString(control.GetCaption()) : shortCaption);
         }
         button->setToolButtonStyle(caption && icon ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonFollowStyle);
         QObject::connect(button, &QToolButton::clicked, button, [this, id] {

@@ -110,6 +110,12 @@ const KestoPlatform::DialogTemplate* Module::LoadDialogTemplate(int id) const
     return made;
 }
 
+CString Module::LoadDialogText(const wchar_t* english) const
+{
+    const wchar_t* translated = m_dialogText ? m_dialogText(english) : nullptr;
+    return CString(translated ? translated : english);
+}
+
 CString Module::LoadString(int id) const
 {
     CString text;

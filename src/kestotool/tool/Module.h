@@ -38,6 +38,9 @@ public:
     // The library's dialog templates, their texts the localised module's where it has them (a
     // localised module does not replace layouts).
     const KestoPlatform::DialogTemplate* LoadDialogTemplate(int id) const override;
+    // A dialog text that a dialog sets itself (one its templates hold too): the localised
+    // module's where it has it, else english.
+    CString LoadDialogText(const wchar_t* english) const;
 
     // The full path of the library's own file, resolved once when the library loads.
     static std::wstring GetLibraryPath();
