@@ -1,12 +1,12 @@
 # Makes the C++ source of a localised resource module from a gettext translation file: a
 # string's msgctxt is its string id, its msgid the library's built-in text for that id, its
 # msgstr the translation; a dialog text's msgctxt is "dialog", its msgid a caption or control
-# text of the built-in dialog templates. Fails when a string id or a dialog text has no
+# text of the built-in dialog templates, or the name of a kind of fill (the editors' type box). Fails when a string id or a dialog text has no
 # translation, when an entry's msgid is no longer the built-in text (the English changed:
 # translate again), or when a translation loses a placeholder (%=Name%), a |key| mark or one of
 # the \n-separated parts.
 # Run with -DPO_FILE=... -DSTRING_TABLE=<StringTable.cpp> -DDIALOGS=<DialogTemplates.cpp>
-#          -DOUTPUT=<generated .cpp>
+#          -DKINDS=<FillKinds.cpp> -DOUTPUT=<generated .cpp>
 cmake_minimum_required(VERSION 3.25) # the script's policies: IN_LIST, quoted arguments
 file(STRINGS ${STRING_TABLE} table REGEX "^ *\\{[0-9]+, L\".*\"\\},$" ENCODING UTF-8)
 set(ids "")
@@ -17,7 +17,8 @@ foreach(line IN LISTS table)
 endforeach()
 
 file(READ ${DIALOGS} dialogs)
-string(REGEX MATCHALL "L\"[^\"]+\"" dialog_texts "${dialogs}")
+file(READ ${KINDS} kinds)
+string(REGEX MATCHALL "L\"[^\"]+\"" dialog_texts "${dialogs}${kinds}")
 list(TRANSFORM dialog_texts REPLACE "^L\"(.*)\"$" "\\1")
 list(REMOVE_DUPLICATES dialog_texts)
 

@@ -13,6 +13,7 @@
 #include <kestotool/gdi/FillKinds.h>
 #include <kestotool/platform/CCmdTarget.h>
 #include <kestotool/qt/QtConvert.h>
+#include <kestotool/tool/Module.h>
 
 #include <QActionGroup>
 #include <QApplication>
@@ -276,7 +277,8 @@ void MainWindow::UpdateKindBox()
         if ((transparency && !kind.transparencyClass) || !Paintable(kind.type, transparency))
             continue;
         m_kindBox->addItem(KindIcon(kind.type, transparency, kKindIconSide, devicePixelRatioF()),
-                           QString::fromWCharArray(transparency ? kind.transparencyName : kind.fillName),
+                           KestoToolQt::ToQString(KestoTool::Module::Get().LoadDialogText(
+                               transparency ? kind.transparencyName : kind.fillName)),
                            static_cast<int>(kind.type));
         if (kind.type == current)
             m_kindBox->setCurrentIndex(m_kindBox->count() - 1);
@@ -413,8 +415,8 @@ bool MainWindow::Exporting(const QString& path, Work work)
     const QScopedValueRollback exporting(m_exporting, true);
     // A copy of the drawing is written on a worker while the window stays live; the progress
     // shows once it has taken half a second, and Cancel stops it at the next shape.
-    QProgressDialog progress(MainWindow::tr("Exporting %1...").arg(QFileInfo(path).fileName()), MainWindow::tr("Cancel"),
-                             0, 1000, this);
+    QProgressDialog progress(MainWindow::tr("Exporting %1...").arg(QFileInfo(path).fileName()),
+                             MainWindow::tr("Cancel"), 0, 1000, this);
     progress.setWindowModality(Qt::WindowModal);
     progress.setMinimumDuration(500);
     std::atomic<double> done = 0;

@@ -3,6 +3,7 @@
 #include "kestotool/gdi/CFillWithStops.h"
 #include "kestotool/gdi/FillKinds.h"
 #include "kestotool/resources/ResourceIds.h"
+#include "kestotool/tool/Module.h"
 
 #include <algorithm>
 #include <array>
@@ -38,7 +39,9 @@ bool GradientDlgBase::OnInitDialog()
     const bool transparency = GetFill() && GetFill()->IsTransparency();
     for (const KestoGDI::FillType::Type type : kGradientKinds) {
         const KestoGDI::FillKind* kind = KestoGDI::FillKinds::Find(type);
-        m_kind.SetItemData(m_kind.AddString(transparency ? kind->transparencyName : kind->fillName), type);
+        m_kind.SetItemData(
+            m_kind.AddString(Module::Get().LoadDialogText(transparency ? kind->transparencyName : kind->fillName)),
+            type);
     }
     return StopListEditorDlg::OnInitDialog();
 }
