@@ -86,6 +86,10 @@ void RegisterOwnImages(KestoPlatform::CXTPImageManager& images)
 ToolHost::ToolHost(Document& document, QUndoStack& undo, QWidget& view)
     : m_document(document), m_undo(undo), m_view(view), m_session(*this)
 {
+    // Every window's bars share one image manager, as the toolkit's: the library registers its
+    // pictures once a process, in the bars of the first window that shows its tool.
+    static KestoPlatform::CXTPImageManager images;
+    m_session.Bars().SetImageManager(&images);
     // A new tool is made from the event loop, never inside one of the tool's own calls.
     m_session.SetPost([this](std::function<void()> rebuild) {
         QMetaObject::invokeMethod(this, std::move(rebuild), Qt::QueuedConnection);

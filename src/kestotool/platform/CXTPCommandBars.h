@@ -43,7 +43,11 @@ struct NMXTPCONTROL {
 // The context command bar of a host: its controls in order, and its image manager.
 class KESTO_API CXTPCommandBars {
 public:
-    CXTPImageManager* GetImageManager() { return &m_images; }
+    CXTPImageManager* GetImageManager() { return m_sharedImages ? m_sharedImages : &m_images; }
+    // Makes the bars use images, an image manager that a host shares between the bars of its
+    // windows (as the toolkit's own is shared), so that pictures registered once show in each;
+    // null gives the bars their own again.
+    void SetImageManager(CXTPImageManager* images) { m_sharedImages = images; }
 
     // A new control of the type's class for the command; null for XTPControlType::None.
     static std::unique_ptr<CXTPControl> MakeControl(XTPControlType type, int id);
@@ -67,6 +71,7 @@ public:
 
 private:
     CXTPImageManager m_images;
+    CXTPImageManager* m_sharedImages = nullptr;
     std::vector<std::unique_ptr<CXTPControl>> m_controls;
 };
 

@@ -3,10 +3,15 @@
 #include "Instance.h"
 #include "KestoDrawWindow.h"
 #include "MainWindow.h"
+#include "ScriptPlayer.h"
 #include "Translations.h"
 
+#include "kestotool/platform/WindowTypes.h"
+#include "kestotool/qt/QtBackend.h"
 #include "kestotool/resources/ResourceIds.h"
 #include "kestotool/tool/Module.h"
+#include "support/ReferenceImage.h"
+#include "support/UserInput.h"
 
 #include <QApplication>
 #include <QFile>
@@ -91,6 +96,42 @@ TEST_F(KestoDrawWindow, AGermanLocaleGivesGermanTextsAndAnotherEnglish)
     KestoDraw::MainWindow english;
     EXPECT_EQ(english.menuBar()->actions().first()->text(), "&File");
     EXPECT_EQ(KestoTool::Module::Get().LoadString(123).Str(), L"Rotate Fill");
+}
+
+// The window with a linear fill selected, and the gradient editor on it, in English and in
+// German, as the references show them: at one device pixel per pixel, and at two in the ctest
+// entry that starts the process with QT_SCALE_FACTOR=2 (the "@2x" references: the 192-dpi
+// icons, the canvas at the device's resolution).
+TEST_F(KestoDrawWindow, TheWindowAndTheGradientEditorLookAsTheirReferencesInEnglishAndGerman)
+{
+    const QString ratio = window->devicePixelRatioF() >= 2 ? QStringLiteral("@2x") : QString();
+    for (const QLocale& locale :
+         {QLocale(QLocale::English, QLocale::UnitedStates), QLocale(QLocale::German, QLocale::Germany)}) {
+        const QString name = QStringLiteral("kestodraw-") + locale.name().left(2) + ratio;
+        KestoDraw::InstallTranslations(locale);
+        KestoDraw::MainWindow shown; // its menus and bars in the language
+        shown.GetCanvas().SetWaitForPage(true);
+        shown.SetErrorReporter([this](const QString&, const QString& message) { errors << message; });
+        shown.resize(1100, 760);
+        shown.show();
+        ASSERT_TRUE(shown.Open(kSample));
+        QApplication::processEvents();
+        KestoDraw::ScriptPlayer play(shown, QDir(folder.path()));
+        ASSERT_TRUE(play.PlayStep("click 550 525")) << play.Error().toStdString();
+        KestoTest::ExpectMatchesReference(shown.grab().toImage(), QStringLiteral(KESTO_REFERENCE_DIR),
+                                          QStringLiteral(KESTO_DIFFERENCE_DIR), name + "-window");
+        QImage editor;
+        KestoTest::UserInput& input = KestoTest::QtUserInput();
+        input.SetModalScript([&](KestoPlatform::CDialog& dialog) {
+            editor = KestoToolQt::QtBackend::WidgetOf(dialog)->grab().toImage();
+            input.ClickButton(dialog, KestoPlatform::IDCANCEL);
+        });
+        shown.EditFill(false);
+        ASSERT_FALSE(editor.isNull());
+        KestoTest::ExpectMatchesReference(editor, QStringLiteral(KESTO_REFERENCE_DIR),
+                                          QStringLiteral(KESTO_DIFFERENCE_DIR), name + "-gradient-editor");
+    }
+    KestoDraw::InstallTranslations(QLocale(QLocale::English, QLocale::UnitedStates));
 }
 
 } // namespace
