@@ -47,6 +47,7 @@ Instance::Instance(const QString& name) : m_server(std::make_unique<QLocalServer
     }
     connect(m_server.get(), &QLocalServer::newConnection, this, [this] {
         while (QLocalSocket* socket = m_server->nextPendingConnection()) {
+            socket->setReadBufferSize(kMaxMessageBytes + 1); // more is no message of ours
             connect(socket, &QLocalSocket::disconnected, socket, [socket] {
                 socket->deleteLater();
                 if (socket->bytesAvailable() > kMaxMessageBytes)
@@ -57,7 +58,7 @@ Instance::Instance(const QString& name) : m_server(std::make_unique<QLocalServer
                     MainWindow::OpenEach(paths);
                     return;
                 }
-                // Started again without a drawing: the window the user worked in last comes forward.
+                // Started again without a drawing: a window of this one comes forward.
                 for (QWidget* widget : QApplication::topLevelWidgets())
                     if (auto* window = qobject_cast<MainWindow*>(widget); window && window->isVisible()) {
                         MainWindow::Bring(window);
