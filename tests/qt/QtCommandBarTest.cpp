@@ -20,6 +20,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 using namespace KestoTool;
 
 namespace {
@@ -62,10 +64,10 @@ TEST(QtCommandBar, ShowsTheToolsBarAndRoutesClicksEditsAndChoicesToTheTool)
     auto* rotate = qobject_cast<QToolButton*>(bar.WidgetOf(base + FillCmdRotateLeft));
     ASSERT_NE(rotate, nullptr);
     EXPECT_FALSE(rotate->icon().isNull());
-    // Sharp on a screen of two device pixels per pixel: the 192-dpi picture, 32 pixels, not the
-    // 96-dpi one (16 pixels, which Qt does not blow up).
-    EXPECT_EQ(rotate->icon().pixmap(QSize(16, 16), 1.0).size(), QSize(16, 16));
-    EXPECT_EQ(rotate->icon().pixmap(QSize(16, 16), 2.0).size(), QSize(32, 32));
+    // Sharp on screens of more device pixels per pixel: the 144-dpi picture (24 pixels) at 1.5,
+    // the 192-dpi one (32) at 2, not the 96-dpi one (16, which Qt does not blow up).
+    for (const auto& [ratio, side] : {std::pair{1.0, 16}, {1.5, 24}, {2.0, 32}})
+        EXPECT_EQ(rotate->icon().pixmap(QSize(16, 16), ratio).size(), QSize(side, side)) << ratio;
     const QStringList prompt =
         KestoToolQt::ToQString(bars.FindControl(base + FillCmdRotateLeft)->GetPrompt()).split('\n');
     ASSERT_GE(prompt.size(), 2);

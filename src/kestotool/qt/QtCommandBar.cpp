@@ -33,9 +33,9 @@ QStringList PromptParts(const CXTPControl& control)
     return ToQString(control.GetPrompt()).split(QLatin1Char('\n'));
 }
 
-// The command's picture for the screen's resolution and, where the image manager has it, the
-// one at twice that (the 192-dpi picture beside the 96-dpi one), marked as drawn for two device
-// pixels per pixel: Qt draws it on such a screen instead of blowing the smaller one up.
+// The command's picture for the screen's resolution and, beside it, the image manager's larger
+// ones (120, 144 and 192 dpi), each marked for the device pixels per pixel it is drawn for: Qt
+// draws the 144-dpi picture at 1.5 and the 192-dpi one at 2, instead of blowing the small one up.
 QIcon IconOf(KestoPlatform::CXTPCommandBars& bars, int id)
 {
     using KestoPlatform::CXTPImageManager;
@@ -45,12 +45,15 @@ QIcon IconOf(KestoPlatform::CXTPCommandBars& bars, int id)
     if (!own)
         return {};
     QIcon icon = ToQIcon(*own);
-    if (const KestoPlatform::XTPImage* twice =
-            bars.GetImageManager()->GetImage(id, CXTPImageManager::GetPreferredIconSizeforDPI(2 * screen));
-        twice && twice->width == 2 * own->width) {
-        QPixmap sharp = ToQPixmap(*twice);
-        sharp.setDevicePixelRatio(2);
-        icon.addPixmap(sharp);
+    for (const int dpi : {120, 144, 192}) {
+        const KestoPlatform::XTPImage* larger =
+            dpi > screen ? bars.GetImageManager()->GetImage(id, CXTPImageManager::GetPreferredIconSizeforDPI(dpi))
+                         : nullptr;
+        if (larger && larger->width > own->width) {
+            QPixmap sharp = ToQPixmap(*larger);
+            sharp.setDevicePixelRatio(static_cast<qreal>(larger->width) / own->width);
+            icon.addPixmap(sharp);
+        }
     }
     return icon;
 }
