@@ -346,6 +346,15 @@ void MainWindow::Bring(MainWindow* window)
     window->activateWindow();
 }
 
+MainWindow* MainWindow::Shown()
+{
+    auto* window = new MainWindow;
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->resize(1100, 760);
+    window->show();
+    return window;
+}
+
 QList<MainWindow*> MainWindow::OpenEach(const QStringList& paths, MainWindow* empty)
 {
     QList<MainWindow*> windows;
@@ -355,13 +364,7 @@ QList<MainWindow*> MainWindow::OpenEach(const QStringList& paths, MainWindow* em
             windows << showing;
             continue;
         }
-        MainWindow* window = empty;
-        if (!window) {
-            window = new MainWindow;
-            window->setAttribute(Qt::WA_DeleteOnClose);
-            window->resize(1100, 760);
-            window->show();
-        }
+        MainWindow* window = empty ? empty : Shown();
         if (window->Open(path)) {
             windows << window;
             empty = window == empty ? nullptr : empty;

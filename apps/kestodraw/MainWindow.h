@@ -52,11 +52,13 @@ public:
     // The window of this process that shows the drawing at path (the same file, however it is
     // named), or none.
     static MainWindow* Showing(const QString& path);
+    // A new window, shown, that deletes itself when closed.
+    static MainWindow* Shown();
     // Shows the window in front of the others and gives it the keyboard.
     static void Bring(MainWindow* window);
     // Opens each drawing in a window of its own, the first that opens in empty (a window that
     // shows nothing yet) when given; a drawing that a window already shows brings that window
-    // to the front instead. New windows close themselves when closed. Answers the windows that
+    // to the front instead. New windows are Shown()'s. Answers the windows that
     // show the drawings that opened.
     static QList<MainWindow*> OpenEach(const QStringList& paths, MainWindow* empty = nullptr);
     bool SaveAs(const QString& path);

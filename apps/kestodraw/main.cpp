@@ -93,10 +93,7 @@ int ShowDrawings(const QStringList& drawings, bool recover)
     if (KestoDraw::Instance::Forward(drawings))
         return 0;
     const KestoDraw::Instance instance;
-    auto* first = new KestoDraw::MainWindow;
-    first->setAttribute(Qt::WA_DeleteOnClose);
-    first->resize(1100, 760);
-    first->show();
+    KestoDraw::MainWindow* first = KestoDraw::MainWindow::Shown();
     const bool recovered = OfferRecovery(*first, recover, true);
     const QStringList paths = !drawings.isEmpty() ? drawings : recovered ? QStringList() : QStringList{SampleDrawing()};
     KestoDraw::MainWindow::OpenEach(paths, recovered ? nullptr : first);
