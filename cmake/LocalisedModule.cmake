@@ -1,12 +1,13 @@
 # Makes the C++ source of a localised resource module from a gettext translation file: a
 # string's msgctxt is its string id, its msgid the library's built-in text for that id, its
-# msgstr the translation; a dialog text's msgctxt is "dialog", its msgid a caption or control
-# text of the built-in dialog templates, or the name of a kind of fill (the editors' type box). Fails when a string id or a dialog text has no
+# msgstr the translation; a dialog text's msgctxt is "dialog", its msgid a wide literal of the
+# text sources: a caption or control text of the built-in dialog templates, the name of a kind of
+# fill (the editors' type box) or an undo name. Fails when a string id or a dialog text has no
 # translation, when an entry's msgid is no longer the built-in text (the English changed:
 # translate again), or when a translation loses a placeholder (%=Name%), a |key| mark or one of
 # the \n-separated parts.
-# Run with -DPO_FILE=... -DSTRING_TABLE=<StringTable.cpp> -DDIALOGS=<DialogTemplates.cpp>
-#          -DKINDS=<FillKinds.cpp> -DOUTPUT=<generated .cpp>
+# Run with -DPO_FILE=... -DSTRING_TABLE=<StringTable.cpp> -DTEXT_SOURCES=<a.cpp|b.cpp|...>
+#          -DOUTPUT=<generated .cpp>
 cmake_minimum_required(VERSION 3.25) # the script's policies: IN_LIST, quoted arguments
 file(STRINGS ${STRING_TABLE} table REGEX "^ *\\{[0-9]+, L\".*\"\\},$" ENCODING UTF-8)
 set(ids "")
@@ -16,9 +17,13 @@ foreach(line IN LISTS table)
   set(builtin_${CMAKE_MATCH_1} "${CMAKE_MATCH_2}")
 endforeach()
 
-file(READ ${DIALOGS} dialogs)
-file(READ ${KINDS} kinds)
-string(REGEX MATCHALL "L\"[^\"]+\"" dialog_texts "${dialogs}${kinds}")
+string(REPLACE "|" ";" text_sources "${TEXT_SOURCES}")
+set(dialog_texts "")
+foreach(source IN LISTS text_sources)
+  file(READ ${source} text)
+  string(REGEX MATCHALL "L\"[^\"]+\"" literals "${text}")
+  list(APPEND dialog_texts ${literals})
+endforeach()
 list(TRANSFORM dialog_texts REPLACE "^L\"(.*)\"$" "\\1")
 list(REMOVE_DUPLICATES dialog_texts)
 

@@ -3,6 +3,7 @@
 #include "kestotool/gdi/CFillSolid.h"
 #include "kestotool/gdi/CFillWithStops.h"
 #include "kestotool/gdi/CRGBColour.h"
+#include "kestotool/tool/Module.h"
 
 #include <utility>
 
@@ -122,12 +123,12 @@ void ToolSession::ChangeKind(const KestoPlatform::CRuntimeClass* kind)
     if (!fresh)
         return;
     Within([&] {
-        // A step of its own, also when it comes during a drag.
+        // A step of its own, also when it comes during a drag, named as the type box is.
         m_gesture.Cancel();
         if (fresh->IsTransparency())
-            m_site.UpdateTransparency(fresh.get(), L"Transparency Type", false);
+            m_site.UpdateTransparency(fresh.get(), Module::Get().LoadDialogText(L"Transparency Type").GetString(), false);
         else
-            m_site.UpdateFill(fresh.get(), L"Fill Type");
+            m_site.UpdateFill(fresh.get(), Module::Get().LoadDialogText(L"Fill Type").GetString());
     });
 }
 

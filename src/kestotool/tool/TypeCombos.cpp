@@ -4,6 +4,7 @@
 #include "kestotool/platform/CXTPControlComboBox.h"
 #include "kestotool/kernel/VerifyReporter.h"
 #include "kestotool/tool/IToolHelper.h"
+#include "kestotool/tool/Module.h"
 
 #include <atomic>
 
@@ -34,7 +35,8 @@ void PopulateTypeCombo(IToolHelper* helper, KestoPlatform::CXTPControl* control,
         ++kinds;
         const RefPtr<CFill> sample = empty ? CFill::CreateFromClass(kind.*kindClass) : nullptr;
         if (sample && (helper->*available)(sample.get())) {
-            const int index = combo->AddString(sample->GetTypeAsString());
+            // The fill model names its kinds in English; the user reads them in the module's language.
+            const int index = combo->AddString(Module::Get().LoadDialogText(sample->GetTypeAsString()));
             combo->SetItemData(index, sample->GetFillType());
         }
     }
