@@ -283,6 +283,7 @@ void MainWindow::UpdateKindBox()
         if (kind.type == current)
             m_kindBox->setCurrentIndex(m_kindBox->count() - 1);
     }
+    KestoToolQt::FitListToItems(*m_kindBox);
 }
 
 QString MainWindow::HintToRichText(const QString& hint)

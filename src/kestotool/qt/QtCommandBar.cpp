@@ -270,6 +270,7 @@ void QtCommandBar::ShowState(const Shown& shown)
         for (int i = 0; m_itemIcons && i < combo->count() && i < items.GetCount(); ++i)
             if (combo->itemIcon(i).isNull())
                 combo->setItemIcon(i, m_itemIcons(control.GetID(), items.GetItemData(i)));
+        FitListToItems(*combo);
     } else if (auto* box = qobject_cast<QDoubleSpinBox*>(widget)) {
         const auto& edit = static_cast<const KestoPlatform::CXTPControlEdit&>(control);
         const QString suffix = edit.GetUnit().IsEmpty() ? QString() : QStringLiteral(" ") + ToQString(edit.GetUnit());

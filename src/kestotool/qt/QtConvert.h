@@ -11,6 +11,7 @@
 #include "kestotool/platform/WindowTypes.h"
 #include "kestotool/raster/Path.h"
 
+#include <QAbstractItemView>
 #include <QColor>
 #include <QComboBox>
 #include <QIcon>
@@ -90,6 +91,15 @@ inline void ShowListItems(QComboBox& combo, const KestoPlatform::CListItems& ite
     }
     if (combo.currentIndex() != items.GetCurSel())
         combo.setCurrentIndex(items.GetCurSel());
+}
+
+// Widens a combo box's drop-down list to its items, after they and their icons are set. The
+// menu-style list of some styles (a check column beside each item) is only as wide as the box and
+// rounds text widths down, so the longest name came out elided by a pixel or two.
+inline void FitListToItems(QComboBox& combo)
+{
+    constexpr int kRoundingSlack = 4;
+    combo.view()->window()->setMinimumWidth(combo.sizeHint().width() + kRoundingSlack);
 }
 
 inline QPolygonF ToQPolygon(const Kesto2D::K2DArrayPoint& points)

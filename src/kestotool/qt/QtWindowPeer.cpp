@@ -216,8 +216,10 @@ public:
 protected:
     void ShowState() override
     {
-        if (const auto* combo = dynamic_cast<const KestoPlatform::CComboBox*>(&GetWindow()))
+        if (const auto* combo = dynamic_cast<const KestoPlatform::CComboBox*>(&GetWindow())) {
             ShowListItems(*Combo(), *combo);
+            FitListToItems(*Combo());
+        }
     }
 
 private:
