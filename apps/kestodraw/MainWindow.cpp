@@ -25,6 +25,7 @@
 #include <QFileInfo>
 #include <QImageWriter>
 #include <QLabel>
+#include <QLocale>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QProgressDialog>
@@ -69,6 +70,10 @@ MainWindow::MainWindow()
     m_hint = new QLabel(this);
     m_hint->setTextFormat(Qt::RichText);
     statusBar()->addWidget(m_hint, 1);
+    m_zoomLabel = new QLabel(this);
+    statusBar()->addPermanentWidget(m_zoomLabel);
+    connect(m_canvas, &Canvas::ZoomChanged, this, &MainWindow::UpdateZoomLabel);
+    UpdateZoomLabel();
 
     connect(m_canvas, &Canvas::ToolAboutToChange, this, [this] { m_contextBar->Clear(); });
     connect(m_canvas, &Canvas::ToolChanged, this, &MainWindow::ShowContextBar);
@@ -259,6 +264,13 @@ void MainWindow::ShowContextBar()
         m_contextBar->Show(*m_canvas->ContextBars(), m_canvas->Session());
     UpdateKindBox();
     UpdateHint();
+}
+
+void MainWindow::UpdateZoomLabel()
+{
+    // A drawing unit is a pixel at 96 per inch, so a zoom of one pixel a unit is 100%.
+    const double percent = m_canvas->Zoom() * 100;
+    m_zoomLabel->setText(tr("%1%").arg(QLocale().toString(percent, 'f', percent < 10 ? 1 : 0)));
 }
 
 void MainWindow::UpdateKindBox()

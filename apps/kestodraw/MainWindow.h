@@ -113,6 +113,7 @@ private:
     void UpdateHint();
     void UpdateTitle();
     void UpdateKindBox();
+    void UpdateZoomLabel();
     bool MaybeSave();
     void ShowPreferences();
 
@@ -126,6 +127,7 @@ private:
     QToolBar* m_kindBar = nullptr;
     QComboBox* m_kindBox = nullptr;
     QLabel* m_hint = nullptr;
+    QLabel* m_zoomLabel = nullptr;
     QActionGroup* m_modes = nullptr;
     QAction* m_editsTransparency = nullptr;
     QString m_path;

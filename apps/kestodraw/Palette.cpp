@@ -9,10 +9,13 @@
 
 #include <QApplication>
 #include <QDrag>
+#include <QHelpEvent>
+#include <QLocale>
 #include <QJsonDocument>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
 
 namespace KestoDraw {
 
@@ -25,16 +28,21 @@ constexpr int kGap = 4;
 
 Palette::Palette(QWidget* parent) : QWidget(parent)
 {
+    // A colour keeps its name in the user's language: the swatch's tooltip and the saved stop say it.
     static constexpr struct {
         int r, g, b;
-        const wchar_t* name;
+        const char* name;
     } colours[] = {
-        {0, 0, 0, L"Black"},       {255, 255, 255, L"White"}, {200, 30, 40, L"Red"},   {245, 130, 30, L"Orange"},
-        {250, 215, 40, L"Yellow"}, {60, 170, 70, L"Green"},   {30, 160, 170, L"Teal"}, {40, 90, 200, L"Blue"},
-        {110, 60, 170, L"Violet"}, {220, 80, 160, L"Pink"},   {130, 85, 50, L"Brown"}, {128, 128, 128, L"Grey"},
+        {0, 0, 0, QT_TR_NOOP("Black")},         {255, 255, 255, QT_TR_NOOP("White")},
+        {200, 30, 40, QT_TR_NOOP("Red")},       {245, 130, 30, QT_TR_NOOP("Orange")},
+        {250, 215, 40, QT_TR_NOOP("Yellow")},   {60, 170, 70, QT_TR_NOOP("Green")},
+        {30, 160, 170, QT_TR_NOOP("Teal")},     {40, 90, 200, QT_TR_NOOP("Blue")},
+        {110, 60, 170, QT_TR_NOOP("Violet")},   {220, 80, 160, QT_TR_NOOP("Pink")},
+        {130, 85, 50, QT_TR_NOOP("Brown")},     {128, 128, 128, QT_TR_NOOP("Grey")},
     };
     for (const auto& c : colours)
-        m_swatches.push_back(std::make_unique<KestoGDI::CRGBColour>(KestoPlatform::RGB(c.r, c.g, c.b), c.name));
+        m_swatches.push_back(
+            std::make_unique<KestoGDI::CRGBColour>(KestoPlatform::RGB(c.r, c.g, c.b), tr(c.name).toStdWString().c_str()));
     // Transparency levels, opaque to clear.
     for (const int level : {0, 64, 128, 192, 255})
         m_swatches.push_back(std::make_unique<KestoGDI::CMonoColour>(level));
@@ -49,6 +57,27 @@ QByteArray Palette::MimeData(int index) const
 std::unique_ptr<KestoGDI::CColour> Palette::Colour(int index) const
 {
     return m_swatches.at(index)->Clone();
+}
+
+QString Palette::Name(int index) const
+{
+    const KestoGDI::CColour& colour = *m_swatches.at(index);
+    if (const auto* mono = dynamic_cast<const KestoGDI::CMonoColour*>(&colour))
+        return tr("%1% transparent").arg(QLocale().toString(qRound(mono->GetLevel() * 100 / 255.0)));
+    return QString::fromStdWString(static_cast<const KestoGDI::CRGBColour&>(colour).GetName());
+}
+
+bool Palette::event(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        const auto* help = static_cast<QHelpEvent*>(event);
+        const int swatch = SwatchAt(help->pos());
+        // A swatch says its name above the strip's general tip.
+        QToolTip::showText(help->globalPos(), swatch < 0 ? toolTip() : Name(swatch) + "\n" + toolTip(), this,
+                           swatch < 0 ? rect() : SwatchRect(swatch));
+        return true;
+    }
+    return QWidget::event(event);
 }
 
 QSize Palette::sizeHint() const

@@ -3,6 +3,7 @@
 #include <kestotool/gdi/CColour.h>
 
 #include <QByteArray>
+#include <QString>
 #include <QWidget>
 
 #include <memory>
@@ -22,12 +23,15 @@ public:
     // What dragging swatch i carries: its colour as the document keeps colours.
     QByteArray MimeData(int index) const;
     std::unique_ptr<KestoGDI::CColour> Colour(int index) const;
+    // What swatch i is called in the user's language: a colour's name or a level's transparency.
+    QString Name(int index) const;
     QSize sizeHint() const override;
 
 signals:
     void Clicked(int index);
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;

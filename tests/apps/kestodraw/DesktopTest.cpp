@@ -3,6 +3,7 @@
 #include "Instance.h"
 #include "KestoDrawWindow.h"
 #include "MainWindow.h"
+#include "Palette.h"
 #include "ScriptPlayer.h"
 #include "Translations.h"
 
@@ -14,8 +15,11 @@
 #include "support/UserInput.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QFile>
 #include <QMenuBar>
+
+#include <algorithm>
 
 using KestoDrawTesting::KestoDrawWindow;
 using KestoDrawTesting::kSample;
@@ -81,6 +85,10 @@ TEST_F(KestoDrawWindow, AGermanLocaleGivesGermanTextsAndAnotherEnglish)
     {
         KestoDraw::MainWindow german;
         EXPECT_EQ(german.menuBar()->actions().first()->text(), "&Datei");
+        const auto* palette = german.findChild<KestoDraw::Palette*>();
+        ASSERT_NE(palette, nullptr);
+        EXPECT_EQ(palette->Name(2), "Rot");
+        EXPECT_EQ(palette->Name(palette->Count() - 1), "100 % transparent");
         EXPECT_EQ(QApplication::translate("KestoDraw::Canvas", "|Drag| to draw a rectangle."),
                   "|Ziehen|, um ein Rechteck zu zeichnen.");
         EXPECT_EQ(QApplication::translate("QPlatformTheme", "Cancel"), "Abbrechen");
@@ -91,6 +99,14 @@ TEST_F(KestoDrawWindow, AGermanLocaleGivesGermanTextsAndAnotherEnglish)
             KestoTool::Module::Get().LoadDialogTemplate(KestoTool::IDD_GRADIENT_FILL);
         ASSERT_NE(editor, nullptr);
         EXPECT_EQ(editor->caption, L"Verlaufsfüllung");
+        // The undo step of a changed kind is named by the library, in German too.
+        Step("click 550 525");
+        const QList<QComboBox*> boxes = window->findChildren<QComboBox*>();
+        EXPECT_TRUE(std::any_of(boxes.begin(), boxes.end(), [&](const QComboBox* box) {
+            return box->isVisibleTo(window.get()) && box->findText("Dreifarbig") >= 0;
+        })) << "the tool's type box names the kinds in German";
+        Step("kind 5");
+        EXPECT_EQ(window->Undo().text(window->Undo().count() - 1), "Füllungsart");
     }
     EXPECT_FALSE(KestoDraw::InstallTranslations(QLocale(QLocale::English, QLocale::UnitedStates)));
     KestoDraw::MainWindow english;
