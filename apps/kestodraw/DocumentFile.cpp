@@ -159,13 +159,13 @@ Document DocumentFile::Read(const QByteArray& bytes)
     const QJsonDocument json = QJsonDocument::fromJson(bytes, &parse);
     if (parse.error != QJsonParseError::NoError)
         throw FormatError(
-            QStringLiteral("it is not a JSON document (%1 at byte %2)").arg(parse.errorString()).arg(parse.offset));
+            tr("it is not a JSON document (%1 at byte %2)").arg(parse.errorString()).arg(parse.offset));
     if (!json.isObject() || json.object().value("format").toString() != "kestodraw")
-        throw FormatError(QStringLiteral("it is not a kestodraw drawing"));
+        throw FormatError(tr("it is not a kestodraw drawing"));
     const QJsonObject root = json.object();
     const int version = Int(root, "version", 0, 1 << 30);
     if (version > Version)
-        throw FormatError(QStringLiteral("it was saved by a newer kestodraw (format version %1; this one reads %2)")
+        throw FormatError(tr("it was saved by a newer kestodraw (format version %1; this one reads %2)")
                               .arg(version)
                               .arg(Version));
     Document document;
@@ -177,7 +177,7 @@ Document DocumentFile::Read(const QByteArray& bytes)
     const QJsonArray shapes = Array(root, "shapes");
     if (shapes.size() > DocumentFile::MaxShapes)
         throw FormatError(
-            QStringLiteral("it has %1 shapes; a drawing holds at most %2").arg(shapes.size()).arg(DocumentFile::MaxShapes));
+            tr("it has %1 shapes; a drawing holds at most %2").arg(shapes.size()).arg(DocumentFile::MaxShapes));
     FillJson::Pictures pictures;
     for (const QJsonValue& shape : shapes)
         document.shapes.push_back(ReadShape(shape, pictures));

@@ -3,6 +3,7 @@
 #include "Document.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QString>
 
 #include <optional>
@@ -12,6 +13,8 @@ namespace KestoDraw {
 // Drawings as files: a versioned JSON document (format "kestodraw", version 1) holding the page
 // and each shape with its fill and transparency. The same drawing always gives the same bytes.
 class DocumentFile {
+    Q_DECLARE_TR_FUNCTIONS(KestoDraw::DocumentFile)
+
 public:
     DocumentFile() = delete;
 

@@ -57,6 +57,25 @@
     </message>
 </context>
 <context>
+    <name>KestoDraw::DocumentFile</name>
+    <message>
+        <source>it is not a JSON document (%1 at byte %2)</source>
+        <translation>die Datei ist kein JSON-Dokument (%1 bei Byte %2)</translation>
+    </message>
+    <message>
+        <source>it is not a kestodraw drawing</source>
+        <translation>die Datei ist keine kestodraw-Zeichnung</translation>
+    </message>
+    <message>
+        <source>it was saved by a newer kestodraw (format version %1; this one reads %2)</source>
+        <translation>sie wurde mit einem neueren kestodraw gespeichert (Formatversion %1; dieses liest %2)</translation>
+    </message>
+    <message>
+        <source>it has %1 shapes; a drawing holds at most %2</source>
+        <translation>sie hat %1 Formen; eine Zeichnung hat höchstens %2</translation>
+    </message>
+</context>
+<context>
     <name>KestoDraw::ExportOptionsDialog</name>
     <message>
         <source>PDF Options</source>
@@ -85,6 +104,25 @@
     <message>
         <source>Pictures of conical, three- and four-colour and plasma fills at:</source>
         <translation>Bilder konischer Füllungen, Drei- und Vierfarbfüllungen und Plasmafüllungen mit:</translation>
+    </message>
+</context>
+<context>
+    <name>KestoDraw::FileRead</name>
+    <message>
+        <source>there is no such file</source>
+        <translation>die Datei gibt es nicht</translation>
+    </message>
+    <message>
+        <source>it is a folder, not a file</source>
+        <translation>das ist ein Ordner, keine Datei</translation>
+    </message>
+    <message>
+        <source>it is not a regular file (a device, a pipe or a socket)</source>
+        <translation>das ist keine gewöhnliche Datei (ein Gerät, eine Pipe oder ein Socket)</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MB</source>
+        <translation>die Datei ist größer als %1 MB</translation>
     </message>
 </context>
 <context>

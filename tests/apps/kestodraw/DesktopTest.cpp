@@ -1,5 +1,6 @@
 // kestodraw as the desktop runs it: a window a drawing, one kestodraw a user, and the user's
 // language.
+#include "DocumentFile.h"
 #include "Instance.h"
 #include "KestoDrawWindow.h"
 #include "MainWindow.h"
@@ -89,6 +90,10 @@ TEST_F(KestoDrawWindow, AGermanLocaleGivesGermanTextsAndAnotherEnglish)
         ASSERT_NE(palette, nullptr);
         EXPECT_EQ(palette->Name(2), "Rot");
         EXPECT_EQ(palette->Name(palette->Count() - 1), "100 % transparent");
+        // Why a drawing cannot be opened ends a German message.
+        QString why;
+        EXPECT_FALSE(KestoDraw::DocumentFile::Open(folder.filePath("missing.kdraw"), &why));
+        EXPECT_EQ(why, "die Datei gibt es nicht");
         EXPECT_EQ(QApplication::translate("KestoDraw::Canvas", "|Drag| to draw a rectangle."),
                   "|Ziehen|, um ein Rechteck zu zeichnen.");
         EXPECT_EQ(QApplication::translate("QPlatformTheme", "Cancel"), "Abbrechen");
