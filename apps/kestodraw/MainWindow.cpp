@@ -4,6 +4,7 @@
 #include "ExportOptionsDialog.h"
 #include "KindIcon.h"
 #include "Palette.h"
+#include "SvgMessages.h"
 #include "PreferencesDialog.h"
 
 #include <kestotool/exchange/PdfWriter.h>
@@ -569,7 +570,7 @@ bool MainWindow::ImportSvg(const QString& path)
         const QByteArray bytes = file.readAll();
         KestoTool::SvgReader::Result read = KestoTool::SvgReader::Read(
             std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())), limits);
-        error = QString::fromStdString(read.error);
+        error = SvgMessageText(read.error);
         drawing = std::move(read.drawing);
     }
     if (!drawing) {
@@ -591,8 +592,11 @@ bool MainWindow::ImportSvg(const QString& path)
         shape.transparency = std::move(read.transparency);
         imported.shapes.push_back(std::move(shape));
     }
+    QStringList skipped;
+    for (const KestoTool::SvgReader::Message& what : drawing->skipped)
+        skipped << SvgMessageText(what);
     if (drawing->page && !(*drawing->page == KestoRaster::Rgba{255, 255, 255, 255}))
-        drawing->skipped.push_back("the page's colour");
+        skipped << tr("the page's colour");
     m_document = std::move(imported);
     m_path.clear();
     m_undo.clear();
@@ -600,10 +604,7 @@ bool MainWindow::ImportSvg(const QString& path)
     m_canvas->DocumentReplaced();
     m_canvas->FitPage();
     UpdateTitle();
-    if (!drawing->skipped.empty()) {
-        QStringList skipped;
-        for (const std::string& what : drawing->skipped)
-            skipped << QString::fromStdString(what);
+    if (!skipped.empty()) {
         m_reportError(
             tr("Import SVG"),
             tr("%1 holds what kestodraw does not draw, left out: %2.").arg(name, skipped.join(QStringLiteral(", "))));

@@ -363,6 +363,10 @@
         <source>%1%</source>
         <translation>%1 %</translation>
     </message>
+    <message>
+        <source>the page&apos;s colour</source>
+        <translation>die Farbe der Seite</translation>
+    </message>
 </context>
 <context>
     <name>KestoDraw::Palette</name>
@@ -478,6 +482,121 @@
     <message>
         <source>Colour</source>
         <translation>Farbe</translation>
+    </message>
+</context>
+<context>
+    <name>KestoTool::SvgReader</name>
+    <message>
+        <source>the file is %1 MB; SVG files up to %2 MB are read</source>
+        <translation>die Datei hat %1 MB; SVG-Dateien bis %2 MB werden gelesen</translation>
+    </message>
+    <message>
+        <source>the file is not well-formed XML (%1 at byte %2)</source>
+        <translation>die Datei ist kein wohlgeformtes XML (%1 bei Byte %2)</translation>
+    </message>
+    <message>
+        <source>the file declares XML entities, which are not read</source>
+        <translation>die Datei deklariert XML-Entitäten, die nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>the file is XML but not SVG (its outermost element is &lt;%1&gt;)</source>
+        <translation>die Datei ist XML, aber kein SVG (ihr äußerstes Element ist &lt;%1&gt;)</translation>
+    </message>
+    <message>
+        <source>the page is %1 x %2 units; pages from 1 to %3 units a side are read</source>
+        <translation>die Seite misst %1 × %2 Einheiten; gelesen werden Seiten von 1 bis %3 Einheiten je Seite</translation>
+    </message>
+    <message>
+        <source>the file has more than %1 shapes</source>
+        <translation>die Datei hat mehr als %1 Formen</translation>
+    </message>
+    <message>
+        <source>a path has more than %1 segments</source>
+        <translation>ein Pfad hat mehr als %1 Segmente</translation>
+    </message>
+    <message>
+        <source>the file has more than %1 path segments</source>
+        <translation>die Datei hat mehr als %1 Pfadsegmente</translation>
+    </message>
+    <message>
+        <source>more</source>
+        <translation>weiteres</translation>
+    </message>
+    <message>
+        <source>attribute %1 &quot;%2&quot;</source>
+        <translation>Attribut %1 „%2“</translation>
+    </message>
+    <message>
+        <source>gradient stops past %1</source>
+        <translation>Verlaufspunkte über %1 hinaus</translation>
+    </message>
+    <message>
+        <source>viewBox &quot;%1&quot;</source>
+        <translation>viewBox „%1“</translation>
+    </message>
+    <message>
+        <source>fills with more stops than a fill takes</source>
+        <translation>Füllungen mit mehr Verlaufspunkten, als eine Füllung fasst</translation>
+    </message>
+    <message>
+        <source>groups nested deeper than %1</source>
+        <translation>Gruppen, die tiefer als %1 verschachtelt sind</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt;</source>
+        <translation>&lt;%1&gt;</translation>
+    </message>
+    <message>
+        <source>transform &quot;%1&quot;</source>
+        <translation>transform „%1“</translation>
+    </message>
+    <message>
+        <source>stroke</source>
+        <translation>Konturen</translation>
+    </message>
+    <message>
+        <source>filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>fill-rule evenodd (read as nonzero)</source>
+        <translation>fill-rule evenodd (als nonzero gelesen)</translation>
+    </message>
+    <message>
+        <source>masks other than one gradient or colour</source>
+        <translation>Masken außer einem Verlauf oder einer Farbe</translation>
+    </message>
+    <message>
+        <source>shapes outside the coordinate range</source>
+        <translation>Formen außerhalb des Koordinatenbereichs</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; paint</source>
+        <translation>&lt;%1&gt; als Füllung</translation>
+    </message>
+    <message>
+        <source>paint url(#%1)</source>
+        <translation>Füllung url(#%1)</translation>
+    </message>
+    <message>
+        <source>fill &quot;%1&quot;</source>
+        <translation>fill „%1“</translation>
+    </message>
+    <message>
+        <source>spreadMethod %1 (read as pad)</source>
+        <translation>spreadMethod %1 (als pad gelesen)</translation>
+    </message>
+    <message>
+        <source>gradientTransform &quot;%1&quot;</source>
+        <translation>gradientTransform „%1“</translation>
+    </message>
+    <message>
+        <source>radial gradients&apos; focal points (read as centred)</source>
+        <translation>Brennpunkte radialer Verläufe (als mittig gelesen)</translation>
+    </message>
+    <message>
+        <source>clip-path (the clipped shapes are read whole)</source>
+        <translation>clip-path (die beschnittenen Formen werden ganz gelesen)</translation>
     </message>
 </context>
 <context>

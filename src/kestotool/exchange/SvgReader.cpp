@@ -24,7 +24,6 @@
 #include <cmath>
 #include <limits>
 #include <map>
-#include <stdexcept>
 
 namespace KestoTool {
 
@@ -38,10 +37,60 @@ using KestoRaster::Rgba;
 
 namespace {
 
-// Why a file is refused.
-struct Refused : std::runtime_error {
-    using std::runtime_error::runtime_error;
+using Message = SvgReader::Message;
+
+// Every message the reader gives; kPatterns lists them for hosts that translate them.
+namespace Says {
+constexpr std::string_view kTooLarge = "the file is %1 MB; SVG files up to %2 MB are read";
+constexpr std::string_view kNotXml = "the file is not well-formed XML (%1 at byte %2)";
+constexpr std::string_view kEntities = "the file declares XML entities, which are not read";
+constexpr std::string_view kNotSvg = "the file is XML but not SVG (its outermost element is <%1>)";
+constexpr std::string_view kPageSize = "the page is %1 x %2 units; pages from 1 to %3 units a side are read";
+constexpr std::string_view kShapes = "the file has more than %1 shapes";
+constexpr std::string_view kPathSegments = "a path has more than %1 segments";
+constexpr std::string_view kFileSegments = "the file has more than %1 path segments";
+constexpr std::string_view kMore = "more";
+constexpr std::string_view kAttribute = "attribute %1 \"%2\"";
+constexpr std::string_view kStops = "gradient stops past %1";
+constexpr std::string_view kViewBox = "viewBox \"%1\"";
+constexpr std::string_view kStopCount = "fills with more stops than a fill takes";
+constexpr std::string_view kDepth = "groups nested deeper than %1";
+constexpr std::string_view kElement = "<%1>";
+constexpr std::string_view kTransform = "transform \"%1\"";
+constexpr std::string_view kStroke = "stroke";
+constexpr std::string_view kFilter = "filter";
+constexpr std::string_view kEvenOdd = "fill-rule evenodd (read as nonzero)";
+constexpr std::string_view kMasks = "masks other than one gradient or colour";
+constexpr std::string_view kOutOfRange = "shapes outside the coordinate range";
+constexpr std::string_view kPaintElement = "<%1> paint";
+constexpr std::string_view kPaintReference = "paint url(#%1)";
+constexpr std::string_view kFill = "fill \"%1\"";
+constexpr std::string_view kSpread = "spreadMethod %1 (read as pad)";
+constexpr std::string_view kGradientTransform = "gradientTransform \"%1\"";
+constexpr std::string_view kFocalPoint = "radial gradients' focal points (read as centred)";
+constexpr std::string_view kClipPath = "clip-path (the clipped shapes are read whole)";
+} // namespace Says
+
+constexpr std::array kPatterns{
+    Says::kTooLarge,     Says::kNotXml,         Says::kEntities,     Says::kNotSvg,
+    Says::kPageSize,     Says::kShapes,         Says::kPathSegments, Says::kFileSegments,
+    Says::kMore,         Says::kAttribute,      Says::kStops,        Says::kViewBox,
+    Says::kStopCount,    Says::kDepth,          Says::kElement,      Says::kTransform,
+    Says::kStroke,       Says::kFilter,         Says::kEvenOdd,      Says::kMasks,
+    Says::kOutOfRange,   Says::kPaintElement,   Says::kPaintReference, Says::kFill,
+    Says::kSpread,       Says::kGradientTransform, Says::kFocalPoint, Says::kClipPath,
 };
+
+// Why a file is refused.
+struct Refused {
+    Message message;
+};
+
+// A piece of the file quoted in a message, cut short.
+std::string Quoted(std::string_view text, std::size_t most)
+{
+    return std::string(text.substr(0, most));
+}
 
 // The name without a namespace prefix ("svg:rect" is a rect).
 std::string_view LocalName(const pugi::xml_node& node)
@@ -94,12 +143,12 @@ public:
 private:
     // Names what was not read, once; a file that keeps finding new things to skip is named
     // as doing so after kMaxSkipped of them.
-    void Skip(std::string what)
+    void Skip(Message what)
     {
         if (m_drawing.skipped.size() > kMaxSkipped ||
             std::find(m_drawing.skipped.begin(), m_drawing.skipped.end(), what) != m_drawing.skipped.end())
             return;
-        m_drawing.skipped.push_back(m_drawing.skipped.size() == kMaxSkipped ? std::string("more") : std::move(what));
+        m_drawing.skipped.push_back(m_drawing.skipped.size() == kMaxSkipped ? Message{Says::kMore, {}} : std::move(what));
     }
 
     std::optional<std::string_view> Property(const pugi::xml_node& node, const char* name) const
@@ -118,7 +167,7 @@ private:
             return otherwise;
         if (const std::optional<double> v = SvgSyntax::Length(a.value(), reference))
             return *v;
-        Skip(std::string("attribute ") + name + " \"" + std::string(a.value()).substr(0, 20) + "\"");
+        Skip({Says::kAttribute, {name, Quoted(a.value(), 20)}});
         return otherwise;
     }
 
@@ -147,7 +196,7 @@ private:
         double last = 0;
         for (const pugi::xml_node& stop : gradient.children("stop")) {
             if (at->second.size() == kMaxStops) {
-                Skip("gradient stops past " + std::to_string(kMaxStops));
+                Skip({Says::kStops, {std::to_string(kMaxStops)}});
                 break;
             }
             last = std::max(last, SvgSyntax::Fraction(stop.attribute("offset").value()).value_or(0));
@@ -286,8 +335,7 @@ void Reader::Document(const pugi::xml_document& document)
 {
     const pugi::xml_node root = document.document_element();
     if (LocalName(root) != "svg")
-        throw Refused("the file is XML but not SVG (its outermost element is <" + std::string(root.name()).substr(0, 40) +
-                      ">)");
+        throw Refused{{Says::kNotSvg, {Quoted(root.name(), 40)}}};
     // Every id first: paints and clips may be defined after their use.
     std::vector<pugi::xml_node> pending{root};
     while (!pending.empty()) {
@@ -313,13 +361,12 @@ void Reader::Document(const pugi::xml_document& document)
             hasViewBox = viewBox[2] > 0 && viewBox[3] > 0;
         }
         if (!hasViewBox)
-            Skip("viewBox \"" + std::string(vb.value()).substr(0, 40) + "\"");
+            Skip({Says::kViewBox, {Quoted(vb.value(), 40)}});
     }
     const double width = LengthOf(root, "width", hasViewBox ? viewBox[2] : 300, hasViewBox ? viewBox[2] : 300);
     const double height = LengthOf(root, "height", hasViewBox ? viewBox[3] : 150, hasViewBox ? viewBox[3] : 150);
     if (!(width >= 1 && height >= 1 && width <= m_limits.page && height <= m_limits.page))
-        throw Refused("the page is " + SvgNumber(width) + " x " + SvgNumber(height) + " units; pages from 1 to " +
-                      SvgNumber(m_limits.page) + " units a side are read");
+        throw Refused{{Says::kPageSize, {SvgNumber(width), SvgNumber(height), SvgNumber(m_limits.page)}}};
     m_drawing.width = width;
     m_drawing.height = height;
     Context context;
@@ -346,7 +393,7 @@ void Reader::Document(const pugi::xml_document& document)
         if (read.levels)
             shape.transparency = FillOf(*read.levels, true);
         if (!shape.fill || (read.levels && !shape.transparency)) {
-            Skip("fills with more stops than a fill takes");
+            Skip({Says::kStopCount, {}});
             continue;
         }
         m_drawing.shapes.push_back(std::move(shape));
@@ -356,7 +403,7 @@ void Reader::Document(const pugi::xml_document& document)
 void Reader::Children(const pugi::xml_node& group, const Context& context, int depth, std::vector<Read>& out)
 {
     if (depth >= m_limits.depth) {
-        Skip("groups nested deeper than " + std::to_string(m_limits.depth));
+        Skip({Says::kDepth, {std::to_string(m_limits.depth)}});
         return;
     }
     for (const pugi::xml_node& child : group.children())
@@ -375,7 +422,7 @@ void Reader::Element(const pugi::xml_node& node, const Context& outer, int depth
     const bool group = name == "g" || name == "a";
     const bool shape = std::find(std::begin(kShapes), std::end(kShapes), name) != std::end(kShapes);
     if (!group && !shape) {
-        Skip("<" + std::string(name).substr(0, 40) + ">");
+        Skip({Says::kElement, {Quoted(name, 40)}});
         return;
     }
     if (Property(node, "display") == "none" || Property(node, "visibility") == "hidden")
@@ -384,7 +431,7 @@ void Reader::Element(const pugi::xml_node& node, const Context& outer, int depth
     if (const pugi::xml_attribute t = node.attribute("transform")) {
         const std::optional<K2DLtGeneral> transform = SvgSyntax::Transform(t.value());
         if (!transform) {
-            Skip("transform \"" + std::string(t.value()).substr(0, 40) + "\"");
+            Skip({Says::kTransform, {Quoted(t.value(), 40)}});
             return;
         }
         context.toDrawing = transform->Then(outer.toDrawing);
@@ -396,11 +443,11 @@ void Reader::Element(const pugi::xml_node& node, const Context& outer, int depth
     if (const auto v = Property(node, "opacity"))
         context.opacity *= SvgSyntax::Fraction(*v).value_or(1);
     if (const auto v = Property(node, "stroke"); v && *v != "none")
-        Skip("stroke");
+        Skip({Says::kStroke, {}});
     if (Property(node, "filter"))
-        Skip("filter");
+        Skip({Says::kFilter, {}});
     if (Property(node, "fill-rule") == "evenodd")
-        Skip("fill-rule evenodd (read as nonzero)");
+        Skip({Says::kEvenOdd, {}});
 
     std::vector<Read> inside;
     if (group) {
@@ -419,11 +466,11 @@ void Reader::Element(const pugi::xml_node& node, const Context& outer, int depth
         if (levels)
             inside[0].levels = std::move(levels);
         else
-            Skip("masks other than one gradient or colour");
+            Skip({Says::kMasks, {}});
     }
     for (Read& read : inside) {
         if (m_drawing.shapes.size() + out.size() >= m_limits.shapes)
-            throw Refused("the file has more than " + std::to_string(m_limits.shapes) + " shapes");
+            throw Refused{{Says::kShapes, {std::to_string(m_limits.shapes)}}};
         out.push_back(std::move(read));
     }
 }
@@ -470,14 +517,14 @@ std::optional<Path> Reader::Outline(const pugi::xml_node& node, std::string_view
         const std::size_t room = std::min(m_limits.pathSegments, m_limits.segments - m_segments);
         SvgSyntax::PathData read = SvgSyntax::Path(data, {}, room);
         if (read.tooMany && room == m_limits.pathSegments)
-            throw Refused("a path has more than " + std::to_string(m_limits.pathSegments) + " segments");
+            throw Refused{{Says::kPathSegments, {std::to_string(m_limits.pathSegments)}}};
         if (read.tooMany)
-            throw Refused("the file has more than " + std::to_string(m_limits.segments) + " path segments");
+            throw Refused{{Says::kFileSegments, {std::to_string(m_limits.segments)}}};
         path = std::move(read.path);
     }
     m_segments += path.Verbs().size();
     if (m_segments > m_limits.segments)
-        throw Refused("the file has more than " + std::to_string(m_limits.segments) + " path segments");
+        throw Refused{{Says::kFileSegments, {std::to_string(m_limits.segments)}}};
     if (path.IsEmpty())
         return std::nullopt;
     return path;
@@ -490,7 +537,7 @@ std::optional<Read> Reader::Painted(const Context& context, const Path& outline)
     const double limit = Kesto2D::CoordinateLimit / 2.0;
     for (const Point p : read.outline.Points()) {
         if (!(std::abs(p.x) <= limit && std::abs(p.y) <= limit)) {
-            Skip("shapes outside the coordinate range");
+            Skip({Says::kOutOfRange, {}});
             return std::nullopt;
         }
     }
@@ -503,14 +550,14 @@ std::optional<Read> Reader::Painted(const Context& context, const Path& outline)
             read.paint = Gradient(paint, context, outline, alpha, read.axisEnd);
             return read.paint ? std::optional(std::move(read)) : std::nullopt;
         }
-        Skip(paint ? "<" + std::string(kind).substr(0, 40) + "> paint" : "paint url(#" + std::string(*id).substr(0, 40) + ")");
+        Skip(paint ? Message{Says::kPaintElement, {Quoted(kind, 40)}} : Message{Says::kPaintReference, {Quoted(*id, 40)}});
         fill = fill.substr(std::min(fill.find(')') + 1, fill.size())); // the fallback colour, if any
     }
     if (fill.find_first_not_of(" \t\n\r") == std::string_view::npos || fill == "none")
         return std::nullopt;
     const std::optional<Rgba> colour = SvgSyntax::Colour(fill);
     if (!colour) {
-        Skip("fill \"" + std::string(fill).substr(0, 40) + "\"");
+        Skip({Says::kFill, {Quoted(fill, 40)}});
         return std::nullopt;
     }
     read.paint.emplace();
@@ -555,7 +602,7 @@ std::optional<Paint> Reader::Gradient(const pugi::xml_node& gradient, const Cont
     if (paint.stops.empty())
         return std::nullopt; // a gradient without stops paints nothing
     if (const auto spread = attribute("spreadMethod"); spread && *spread != "pad")
-        Skip("spreadMethod " + std::string(*spread).substr(0, 20) + " (read as pad)");
+        Skip({Says::kSpread, {Quoted(*spread, 20)}});
 
     const bool boxUnits = attribute("gradientUnits").value_or("objectBoundingBox") != "userSpaceOnUse";
     K2DLtGeneral toDrawing = context.toDrawing;
@@ -570,7 +617,7 @@ std::optional<Paint> Reader::Gradient(const pugi::xml_node& gradient, const Cont
         if (const std::optional<K2DLtGeneral> t = SvgSyntax::Transform(*transformText))
             toDrawing = t->Then(toDrawing);
         else
-            Skip("gradientTransform \"" + std::string(*transformText).substr(0, 40) + "\"");
+            Skip({Says::kGradientTransform, {Quoted(*transformText, 40)}});
     }
     const double diagonal = std::hypot(m_viewWidth, m_viewHeight) / std::sqrt(2.0);
     const auto coordinate = [&](const char* name, double reference, const char* otherwise) {
@@ -611,7 +658,7 @@ std::optional<Paint> Reader::Gradient(const pugi::xml_node& gradient, const Cont
     const double r = coordinate("r", diagonal, "50%");
     if ((attribute("fx") && coordinate("fx", m_viewWidth, "50%") != cx) ||
         (attribute("fy") && coordinate("fy", m_viewHeight, "50%") != cy))
-        Skip("radial gradients' focal points (read as centred)");
+        Skip({Says::kFocalPoint, {}});
     if (!(r > 0))
         return solid();
     const double m11 = toDrawing.GetM11(), m12 = toDrawing.GetM12(), m21 = toDrawing.GetM21(), m22 = toDrawing.GetM22();
@@ -651,7 +698,7 @@ void Reader::Clipped(const pugi::xml_node& clip, const Context& context, std::ve
     }
     std::optional<Paint> square = Square(inside);
     if (!outline || outlines != 1 || (inside.size() != 1 && !square)) {
-        Skip("clip-path (the clipped shapes are read whole)");
+        Skip({Says::kClipPath, {}});
         return;
     }
     if (square) {
@@ -691,8 +738,7 @@ SvgReader::Result SvgReader::Read(std::string_view text, const Limits& limits)
 {
     Result result;
     if (text.size() > limits.bytes) {
-        result.error = "the file is " + std::to_string(text.size() >> 20) + " MB; SVG files up to " +
-                       std::to_string(limits.bytes >> 20) + " MB are read";
+        result.error = {Says::kTooLarge, {std::to_string(text.size() >> 20), std::to_string(limits.bytes >> 20)}};
         return result;
     }
     pugi::xml_document document;
@@ -700,13 +746,12 @@ SvgReader::Result SvgReader::Read(std::string_view text, const Limits& limits)
     const pugi::xml_parse_result parsed =
         document.load_buffer(text.data(), text.size(), pugi::parse_default | pugi::parse_doctype, pugi::encoding_utf8);
     if (!parsed) {
-        result.error = std::string("the file is not well-formed XML (") + parsed.description() + " at byte " +
-                       std::to_string(parsed.offset) + ")";
+        result.error = {Says::kNotXml, {parsed.description(), std::to_string(parsed.offset)}};
         return result;
     }
     for (const pugi::xml_node& node : document.children()) {
         if (node.type() == pugi::node_doctype && std::string_view(node.value()).find("<!ENTITY") != std::string_view::npos) {
-            result.error = "the file declares XML entities, which are not read";
+            result.error = {Says::kEntities, {}};
             return result;
         }
     }
@@ -714,10 +759,31 @@ SvgReader::Result SvgReader::Read(std::string_view text, const Limits& limits)
         Drawing drawing;
         Reader(limits, drawing).Document(document);
         result.drawing = std::move(drawing);
-    } catch (const Refused& refused) {
-        result.error = refused.what();
+    } catch (Refused& refused) {
+        result.error = std::move(refused.message);
     }
     return result;
+}
+
+std::string SvgReader::Message::Text() const
+{
+    std::string text;
+    for (std::size_t i = 0; i < pattern.size(); ++i) {
+        const char c = pattern[i];
+        const std::size_t n = i + 1 < pattern.size() ? static_cast<std::size_t>(pattern[i + 1] - '1') : arguments.size();
+        if (c == '%' && n < arguments.size()) {
+            text += arguments[n];
+            ++i;
+        } else {
+            text += c;
+        }
+    }
+    return text;
+}
+
+std::span<const std::string_view> SvgReader::Patterns()
+{
+    return kPatterns;
 }
 
 } // namespace KestoTool

@@ -8,6 +8,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -39,6 +40,18 @@ public:
         double page = 1 << 20;          // the page's longer side, in drawing units
     };
 
+    // What the reader tells the user: an English pattern with %1, %2... where its arguments go.
+    // Every pattern is one of Patterns(), so a host can show a message in its user's language:
+    // it translates the pattern and puts the arguments in. Text() is the message in English.
+    struct Message {
+        std::string_view pattern;
+        std::vector<std::string> arguments;
+
+        std::string Text() const;
+        bool operator==(const Message&) const = default;
+    };
+    static std::span<const std::string_view> Patterns();
+
     struct Shape {
         KestoRaster::Path outline; // drawing units
         KestoKernel::RefPtr<const KestoGDI::CFill> fill;
@@ -53,12 +66,12 @@ public:
         std::optional<KestoRaster::Rgba> page;
         std::vector<Shape> shapes;
         // What was not read, each named once, in the order met.
-        std::vector<std::string> skipped;
+        std::vector<Message> skipped;
     };
 
     struct Result {
         std::optional<Drawing> drawing;
-        std::string error; // why there is no drawing
+        Message error; // why there is no drawing
     };
 
     // The page's width and height are its size in drawing units (pixels at 96 per inch: pt, pc,

@@ -6,6 +6,7 @@
 #include "MainWindow.h"
 #include "Palette.h"
 #include "ScriptPlayer.h"
+#include "SvgMessages.h"
 #include "Translations.h"
 
 #include "kestotool/platform/WindowTypes.h"
@@ -19,6 +20,7 @@
 #include <QComboBox>
 #include <QFile>
 #include <QMenuBar>
+#include <QTranslator>
 
 #include <algorithm>
 
@@ -90,6 +92,17 @@ TEST_F(KestoDrawWindow, AGermanLocaleGivesGermanTextsAndAnotherEnglish)
         ASSERT_NE(palette, nullptr);
         EXPECT_EQ(palette->Name(2), "Rot");
         EXPECT_EQ(palette->Name(palette->Count() - 1), "100 % transparent");
+        // The SVG reader's every message has a German pattern; the file's own words go in once.
+        QTranslator texts;
+        ASSERT_TRUE(texts.load(QLocale(QLocale::German), "kestodraw", "_", ":/translations"));
+        for (const std::string_view pattern : KestoTool::SvgReader::Patterns())
+            EXPECT_FALSE(texts.translate("KestoTool::SvgReader", std::string(pattern).c_str()).isEmpty()) << pattern;
+        EXPECT_EQ(KestoDraw::SvgMessageText(KestoTool::SvgReader::Read("<svg").error).left(38),
+                  "die Datei ist kein wohlgeformtes XML (");
+        const auto patterns = KestoTool::SvgReader::Patterns();
+        const auto transform = std::find(patterns.begin(), patterns.end(), "transform \"%1\"");
+        ASSERT_NE(transform, patterns.end());
+        EXPECT_EQ(KestoDraw::SvgMessageText({*transform, {"%2"}}), "transform „%2“");
         // Why a drawing cannot be opened ends a German message.
         QString why;
         EXPECT_FALSE(KestoDraw::DocumentFile::Open(folder.filePath("missing.kdraw"), &why));
