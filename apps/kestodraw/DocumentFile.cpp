@@ -76,13 +76,13 @@ int Coordinate(const QJsonValue& value, const QString& what, int min = -Kesto2D:
 {
     const double v = Number(value, what, min, max);
     if (v != static_cast<int>(v))
-        throw FormatError(QStringLiteral("%1 should be a whole number").arg(what));
+        throw FormatError(FormatError::tr("%1 should be a whole number").arg(what));
     return static_cast<int>(v);
 }
 
 Shape ReadShape(const QJsonValue& value, FillJson::Pictures& pictures)
 {
-    const QJsonObject in = Object(value, QStringLiteral("a shape"));
+    const QJsonObject in = Object(value, FormatError::tr("a shape"));
     Shape shape;
     const QString kind = String(in, "kind");
     if (kind == "rectangle")
@@ -95,22 +95,22 @@ Shape ReadShape(const QJsonValue& value, FillJson::Pictures& pictures)
         shape.kind = Shape::Kind::Curves;
     else
         throw FormatError(
-            QStringLiteral("a shape's kind should be rectangle, ellipse, path or curves, not \"%1\"").arg(Excerpt(kind)));
+            FormatError::tr("a shape's kind should be rectangle, ellipse, path or curves, not \"%1\"").arg(Excerpt(kind)));
     const QJsonArray box = Array(in, "box");
     if (box.size() != 4)
-        throw FormatError(QStringLiteral("\"box\" should be four numbers: left, top, right, bottom"));
+        throw FormatError(FormatError::tr("\"box\" should be four numbers: left, top, right, bottom"));
     shape.box = KestoPlatform::CRect(Coordinate(box[0], "\"box\""), Coordinate(box[1], "\"box\""),
                                      Coordinate(box[2], "\"box\""), Coordinate(box[3], "\"box\""))
                     .Normalized();
     if (shape.kind == Shape::Kind::Path) {
         const QJsonArray points = Array(in, "points");
         if (points.size() < 3 || points.size() > kMaxPathCorners)
-            throw FormatError(QStringLiteral("a path should have 3 to %1 corners").arg(kMaxPathCorners));
+            throw FormatError(FormatError::tr("a path should have 3 to %1 corners").arg(kMaxPathCorners));
         for (const QJsonValue& p : points) {
             const QJsonArray xy = p.toArray();
             if (xy.size() != 2)
-                throw FormatError(QStringLiteral("a path corner should be [x, y]"));
-            shape.points.emplace_back(Coordinate(xy[0], "a path corner"), Coordinate(xy[1], "a path corner"));
+                throw FormatError(FormatError::tr("a path corner should be [x, y]"));
+            shape.points.emplace_back(Coordinate(xy[0], FormatError::tr("a path corner")), Coordinate(xy[1], FormatError::tr("a path corner")));
         }
         // A path's box is its corners' bounds, whatever the file says (the file format keeps it
         // for readers that only want the bounds).
@@ -124,17 +124,17 @@ Shape ReadShape(const QJsonValue& value, FillJson::Pictures& pictures)
         const QJsonArray outline = Array(in, "outline");
         if (outline.isEmpty() || outline.size() > DocumentFile::MaxOutlineSegments)
             throw FormatError(
-                QStringLiteral("an outline should have 1 to %1 segments").arg(DocumentFile::MaxOutlineSegments));
+                FormatError::tr("an outline should have 1 to %1 segments").arg(DocumentFile::MaxOutlineSegments));
         shape.curves = FillJson::ReadPath(outline);
         shape.box = CurvesBox(shape.curves);
     }
     shape.fill = FillJson::Read(in.value("fill"), &pictures);
     if (shape.fill->IsTransparency())
-        throw FormatError(QStringLiteral("a shape's \"fill\" is a transparency"));
+        throw FormatError(FormatError::tr("a shape's \"fill\" is a transparency"));
     if (in.contains("transparency")) {
         shape.transparency = FillJson::Read(in.value("transparency"), &pictures);
         if (!shape.transparency->IsTransparency())
-            throw FormatError(QStringLiteral("a shape's \"transparency\" is a fill"));
+            throw FormatError(FormatError::tr("a shape's \"transparency\" is a fill"));
     }
     return shape;
 }
@@ -171,9 +171,9 @@ Document DocumentFile::Read(const QByteArray& bytes)
     Document document;
     const QJsonArray page = Array(root, "page");
     if (page.size() != 2)
-        throw FormatError(QStringLiteral("\"page\" should be [width, height]"));
-    document.width = Coordinate(page[0], "the page width", 1, kMaxPage);
-    document.height = Coordinate(page[1], "the page height", 1, kMaxPage);
+        throw FormatError(FormatError::tr("\"page\" should be [width, height]"));
+    document.width = Coordinate(page[0], FormatError::tr("the page width"), 1, kMaxPage);
+    document.height = Coordinate(page[1], FormatError::tr("the page height"), 1, kMaxPage);
     const QJsonArray shapes = Array(root, "shapes");
     if (shapes.size() > DocumentFile::MaxShapes)
         throw FormatError(

@@ -45,7 +45,7 @@ K2DDblPoint ReadPoint(const QJsonValue& value, const QString& what)
 {
     const QJsonArray pair = value.toArray();
     if (pair.size() != 2)
-        throw FormatError(QStringLiteral("%1 should be a point [x, y]").arg(what));
+        throw FormatError(FormatError::tr("%1 should be a point [x, y]").arg(what));
     return {Number(pair[0], what, -kLimit, kLimit), Number(pair[1], what, -kLimit, kLimit)};
 }
 
@@ -58,7 +58,7 @@ K2DLtGeneral ReadTransform(const QJsonObject& in, const QString& key)
 {
     const QJsonArray values = Array(in, key);
     if (values.size() != 6)
-        throw FormatError(QStringLiteral("\"%1\" should be six numbers").arg(key));
+        throw FormatError(FormatError::tr("\"%1\" should be six numbers").arg(key));
     std::array<double, 6> m{};
     for (int i = 0; i < 6; ++i)
         m[i] = Number(values[i], QStringLiteral("\"%1\"").arg(key), -1e12, 1e12);
@@ -81,12 +81,12 @@ ColourIntPairs ReadStops(const QJsonArray& in)
 {
     ColourIntPairs stops;
     for (const QJsonValue& value : in) {
-        const QJsonObject s = Object(value, QStringLiteral("a stop"));
+        const QJsonObject s = Object(value, FormatError::tr("a stop"));
         CSpline spline;
         if (s.contains("spline")) {
             const QJsonArray c = Array(s, "spline");
             if (c.size() != 2)
-                throw FormatError(QStringLiteral("\"spline\" should be two numbers"));
+                throw FormatError(FormatError::tr("\"spline\" should be two numbers"));
             spline = CSpline(Number(c[0], "\"spline\"", 0, 1), Number(c[1], "\"spline\"", 0, 1));
         }
         stops.Add(CColourIntPair(*FillJson::ReadColour(s.value("colour")), Int(s, "at", 0, 10000), spline));
@@ -114,13 +114,13 @@ RefPtr<const CLtBitmap> ReadBitmap(const QString& base64)
     QImageReader reader(&buffer, "PNG");
     const QSize size = reader.size();
     if (size.isValid() && (size.width() > kMaxBitmapSide || size.height() > kMaxBitmapSide))
-        throw FormatError(QStringLiteral("\"bitmap\" is %1 x %2 pixels; at most %3 a side are read")
+        throw FormatError(FormatError::tr("\"bitmap\" is %1 x %2 pixels; at most %3 a side are read")
                               .arg(size.width())
                               .arg(size.height())
                               .arg(kMaxBitmapSide));
     const QImage image = reader.read().convertToFormat(QImage::Format_ARGB32);
     if (image.isNull())
-        throw FormatError(QStringLiteral("\"bitmap\" is no PNG image that can be read (%1)").arg(reader.errorString()));
+        throw FormatError(FormatError::tr("\"bitmap\" is no PNG image that can be read (%1)").arg(reader.errorString()));
     RefPtr<CLtBitmap> bitmap(new CLtBitmap(image.width(), image.height()));
     for (int y = 0; y < image.height(); ++y)
         std::memcpy(bitmap->GetBits() + static_cast<std::size_t>(y) * bitmap->GetWidth(), image.constScanLine(y),
@@ -146,7 +146,7 @@ RefPtr<const VectorDrawing> ReadDrawing(const QJsonObject& in, int depth, FillJs
 {
     RefPtr<VectorDrawing> drawing(new VectorDrawing(Int(in, "width", 1, 1 << 20), Int(in, "height", 1, 1 << 20)));
     for (const QJsonValue& value : Array(in, "shapes")) {
-        const QJsonObject s = Object(value, QStringLiteral("a drawing's shape"));
+        const QJsonObject s = Object(value, FormatError::tr("a drawing's shape"));
         RefPtr<const CFill> fill;
         if (s.contains("fill"))
             fill = ReadFill(s.value("fill"), depth + 1, pictures);
@@ -257,7 +257,7 @@ public:
         const QJsonArray nodes = Array(m_in, "nodes");
         if (nodes.size() != columns * rows)
             throw FormatError(
-                QStringLiteral("\"nodes\" should hold a colour for each of the %1 nodes").arg(columns * rows));
+                FormatError::tr("\"nodes\" should hold a colour for each of the %1 nodes").arg(columns * rows));
         for (int i = 0; i < columns * rows; ++i)
             fill.SetNodeColour(i % columns, i / columns, *FillJson::ReadColour(nodes[i]));
     }
@@ -281,7 +281,7 @@ public:
                                                kept.HasInverse() ? kept.GetInverse() : K2DLtGeneral());
         const QJsonArray box = Array(m_in, "objectBox");
         if (box.size() != 4)
-            throw FormatError(QStringLiteral("\"objectBox\" should be four numbers"));
+            throw FormatError(FormatError::tr("\"objectBox\" should be four numbers"));
         std::array<int, 4> side{};
         for (int i = 0; i < 4; ++i)
             side[i] = static_cast<int>(Number(box[i], "\"objectBox\"", -kLimit, kLimit));
@@ -303,16 +303,17 @@ private:
 KestoKernel::RefPtr<CFill> ReadFill(const QJsonValue& value, int depth, FillJson::Pictures* pictures)
 {
     if (depth > kMaxNesting)
-        throw FormatError(QStringLiteral("fills are nested more than %1 deep").arg(kMaxNesting));
-    const QJsonObject in = Object(value, QStringLiteral("a fill"));
+        throw FormatError(FormatError::tr("fills are nested more than %1 deep").arg(kMaxNesting));
+    const QJsonObject in = Object(value, FormatError::tr("a fill"));
     const int type = Int(in, "type", 0, 1000);
     const bool transparency = Bool(in, "transparency");
     const CRuntimeClass* kind =
         transparency ? CTransparency::GetRuntimeClassFromType(type) : CFill::GetRuntimeClassFromType(type);
     KestoKernel::RefPtr<CFill> fill = CFill::CreateFromClass(kind);
     if (!fill)
-        throw FormatError(
-            QStringLiteral("there is no %1 of type %2").arg(transparency ? "transparency" : "fill").arg(type));
+        throw FormatError((transparency ? FormatError::tr("there is no transparency of type %1")
+                                        : FormatError::tr("there is no fill of type %1"))
+                              .arg(type));
     fill->SetAlpha(Int(in, "alpha", 0, 255));
     fill->SetBlendMode(static_cast<BlendMode>(Int(in, "blend", 0, static_cast<int>(BlendMode::Difference))));
     fill->SetOverprint(Bool(in, "overprint"));
@@ -321,9 +322,9 @@ KestoKernel::RefPtr<CFill> ReadFill(const QJsonValue& value, int depth, FillJson
     // After the kind's own attributes: a mesh's grid decides how many control points it has.
     std::vector<K2DDblPoint> controls;
     for (const QJsonValue& point : Array(in, "controls"))
-        controls.push_back(ReadPoint(point, "a control point"));
+        controls.push_back(ReadPoint(point, FormatError::tr("a control point")));
     if (!fill->SetControlPoints(controls))
-        throw FormatError(QStringLiteral("this kind of fill has %1 control points, not %2")
+        throw FormatError(FormatError::tr("this kind of fill has %1 control points, not %2")
                               .arg(fill->GetControlCount())
                               .arg(controls.size()));
     if (auto* withStops = dynamic_cast<CFillWithStops*>(fill.get())) {
@@ -331,10 +332,10 @@ KestoKernel::RefPtr<CFill> ReadFill(const QJsonValue& value, int depth, FillJson
         if (!withStops->SetColourIntPairs(stops)) {
             const QString wanted =
                 withStops->GetMaxStops() < 0
-                    ? QStringLiteral("at least %1").arg(withStops->GetMinStops())
-                    : QStringLiteral("%1 to %2").arg(withStops->GetMinStops()).arg(withStops->GetMaxStops());
+                    ? FormatError::tr("at least %1").arg(withStops->GetMinStops())
+                    : FormatError::tr("%1 to %2").arg(withStops->GetMinStops()).arg(withStops->GetMaxStops());
             throw FormatError(
-                QStringLiteral("this kind of fill takes %1 stops, not %2").arg(wanted).arg(stops.GetSize()));
+                FormatError::tr("this kind of fill takes %1 stops, not %2").arg(wanted).arg(stops.GetSize()));
         }
     }
     return fill;
@@ -381,11 +382,11 @@ KestoRaster::Path FillJson::ReadPath(const QJsonArray& in)
         const QString verb = segment.isEmpty() ? QString() : segment[0].toString();
         const qsizetype numbers = verb == "M" || verb == "L" ? 2 : verb == "C" ? 6 : verb == "Z" ? 0 : -1;
         if (numbers < 0 || segment.size() != numbers + 1)
-            throw FormatError(QStringLiteral("a path segment should be [\"M\", x, y], [\"L\", x, y], "
+            throw FormatError(FormatError::tr("a path segment should be [\"M\", x, y], [\"L\", x, y], "
                                              "[\"C\", x1, y1, x2, y2, x, y] or [\"Z\"]"));
         std::array<KestoRaster::Point, 3> p{};
         for (qsizetype i = 0; i < numbers; ++i)
-            (i % 2 ? p[i / 2].y : p[i / 2].x) = Number(segment[i + 1], "a path point", -kLimit, kLimit);
+            (i % 2 ? p[i / 2].y : p[i / 2].x) = Number(segment[i + 1], FormatError::tr("a path point"), -kLimit, kLimit);
         if (verb == "M")
             path.MoveTo(p[0]);
         else if (verb == "L")
@@ -429,7 +430,7 @@ RefPtr<const CLtBitmap> FillJson::Pictures::Read(const QString& base64)
     RefPtr<const CLtBitmap> bitmap = ReadBitmap(base64);
     m_pixels += static_cast<qint64>(bitmap->GetWidth()) * bitmap->GetHeight();
     if (m_pixels > m_maxPixels)
-        throw FormatError(QStringLiteral("its pictures hold more than %1 pixels").arg(m_maxPixels));
+        throw FormatError(FormatError::tr("its pictures hold more than %1 pixels").arg(m_maxPixels));
     return m_read[base64] = bitmap;
 }
 
@@ -458,7 +459,7 @@ QJsonObject FillJson::WriteColour(const CColour& colour)
 
 std::unique_ptr<CColour> FillJson::ReadColour(const QJsonValue& value)
 {
-    const QJsonObject in = Object(value, QStringLiteral("a colour"));
+    const QJsonObject in = Object(value, FormatError::tr("a colour"));
     const auto tint = static_cast<short>(Int(in, "tint", -100, 100));
     const auto alpha = static_cast<short>(Int(in, "alpha", 0, 255));
     if (in.contains("level")) {
@@ -470,7 +471,7 @@ std::unique_ptr<CColour> FillJson::ReadColour(const QJsonValue& value)
     bool ok = false;
     const unsigned value24 = rgb.mid(1).toUInt(&ok, 16);
     if (!ok || rgb.size() != 7 || rgb[0] != '#')
-        throw FormatError(QStringLiteral("\"rgb\" should be a colour as #rrggbb"));
+        throw FormatError(FormatError::tr("\"rgb\" should be a colour as #rrggbb"));
     const std::wstring name = in.value("name").toString().toStdWString();
     return std::make_unique<CRGBColour>(
         KestoPlatform::RGB((value24 >> 16) & 0xFF, (value24 >> 8) & 0xFF, value24 & 0xFF),

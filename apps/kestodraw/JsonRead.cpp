@@ -10,7 +10,7 @@ QJsonValue Field(const QJsonObject& object, const QString& key)
 {
     const QJsonValue value = object.value(key);
     if (value.isUndefined())
-        throw FormatError(QStringLiteral("\"%1\" is missing").arg(key));
+        throw FormatError(FormatError::tr("\"%1\" is missing").arg(key));
     return value;
 }
 
@@ -19,7 +19,7 @@ QJsonValue Field(const QJsonObject& object, const QString& key)
 QJsonObject Object(const QJsonValue& value, const QString& what)
 {
     if (!value.isObject())
-        throw FormatError(QStringLiteral("%1 should be an object").arg(what));
+        throw FormatError(FormatError::tr("%1 should be an object").arg(what));
     return value.toObject();
 }
 
@@ -27,7 +27,7 @@ QJsonArray Array(const QJsonObject& object, const QString& key)
 {
     const QJsonValue value = Field(object, key);
     if (!value.isArray())
-        throw FormatError(QStringLiteral("\"%1\" should be a list").arg(key));
+        throw FormatError(FormatError::tr("\"%1\" should be a list").arg(key));
     return value.toArray();
 }
 
@@ -40,7 +40,7 @@ double Number(const QJsonValue& value, const QString& what, double min, double m
 {
     if (!value.isDouble() || !std::isfinite(value.toDouble()) || value.toDouble() < min || value.toDouble() > max)
         throw FormatError(
-            QStringLiteral("%1 should be a number from %2 to %3").arg(what, NumberText(min), NumberText(max)));
+            FormatError::tr("%1 should be a number from %2 to %3").arg(what, NumberText(min), NumberText(max)));
     return value.toDouble();
 }
 
@@ -53,7 +53,7 @@ int Int(const QJsonObject& object, const QString& key, int min, int max)
 {
     const double value = Number(object, key, min, max);
     if (value != std::floor(value))
-        throw FormatError(QStringLiteral("\"%1\" should be a whole number").arg(key));
+        throw FormatError(FormatError::tr("\"%1\" should be a whole number").arg(key));
     return static_cast<int>(value);
 }
 
@@ -61,7 +61,7 @@ bool Bool(const QJsonObject& object, const QString& key)
 {
     const QJsonValue value = Field(object, key);
     if (!value.isBool())
-        throw FormatError(QStringLiteral("\"%1\" should be true or false").arg(key));
+        throw FormatError(FormatError::tr("\"%1\" should be true or false").arg(key));
     return value.toBool();
 }
 
@@ -69,7 +69,7 @@ QString String(const QJsonObject& object, const QString& key)
 {
     const QJsonValue value = Field(object, key);
     if (!value.isString())
-        throw FormatError(QStringLiteral("\"%1\" should be text").arg(key));
+        throw FormatError(FormatError::tr("\"%1\" should be text").arg(key));
     return value.toString();
 }
 

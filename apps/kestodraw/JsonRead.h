@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QJsonValue>
@@ -11,6 +12,8 @@ namespace KestoDraw {
 
 // What is wrong with a file being read, in words for the user; reading stops at the first fault.
 class FormatError : public std::runtime_error {
+    Q_DECLARE_TR_FUNCTIONS(KestoDraw::FormatError)
+
 public:
     explicit FormatError(const QString& message) : std::runtime_error(message.toStdString()) {}
     QString Message() const { return QString::fromStdString(what()); }

@@ -126,6 +126,181 @@
     </message>
 </context>
 <context>
+    <name>KestoDraw::FormatError</name>
+    <message>
+        <source>%1 should be a whole number</source>
+        <translation>%1 sollte eine ganze Zahl sein</translation>
+    </message>
+    <message>
+        <source>a shape</source>
+        <translation>eine Form</translation>
+    </message>
+    <message>
+        <source>a shape&apos;s kind should be rectangle, ellipse, path or curves, not &quot;%1&quot;</source>
+        <translation>die Art einer Form sollte rectangle, ellipse, path oder curves sein, nicht „%1“</translation>
+    </message>
+    <message>
+        <source>&quot;box&quot; should be four numbers: left, top, right, bottom</source>
+        <translation>„box“ sollte vier Zahlen sein: links, oben, rechts, unten</translation>
+    </message>
+    <message>
+        <source>a path should have 3 to %1 corners</source>
+        <translation>ein Pfad sollte 3 bis %1 Ecken haben</translation>
+    </message>
+    <message>
+        <source>a path corner should be [x, y]</source>
+        <translation>eine Pfadecke sollte [x, y] sein</translation>
+    </message>
+    <message>
+        <source>a path corner</source>
+        <translation>eine Pfadecke</translation>
+    </message>
+    <message>
+        <source>an outline should have 1 to %1 segments</source>
+        <translation>ein Umriss sollte 1 bis %1 Segmente haben</translation>
+    </message>
+    <message>
+        <source>a shape&apos;s &quot;fill&quot; is a transparency</source>
+        <translation>„fill“ einer Form ist eine Transparenz</translation>
+    </message>
+    <message>
+        <source>a shape&apos;s &quot;transparency&quot; is a fill</source>
+        <translation>„transparency“ einer Form ist eine Füllung</translation>
+    </message>
+    <message>
+        <source>&quot;page&quot; should be [width, height]</source>
+        <translation>„page“ sollte [Breite, Höhe] sein</translation>
+    </message>
+    <message>
+        <source>the page width</source>
+        <translation>die Seitenbreite</translation>
+    </message>
+    <message>
+        <source>the page height</source>
+        <translation>die Seitenhöhe</translation>
+    </message>
+    <message>
+        <source>%1 should be a point [x, y]</source>
+        <translation>%1 sollte ein Punkt [x, y] sein</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; should be six numbers</source>
+        <translation>„%1“ sollte sechs Zahlen sein</translation>
+    </message>
+    <message>
+        <source>a stop</source>
+        <translation>ein Verlaufspunkt</translation>
+    </message>
+    <message>
+        <source>&quot;spline&quot; should be two numbers</source>
+        <translation>„spline“ sollte zwei Zahlen sein</translation>
+    </message>
+    <message>
+        <source>&quot;bitmap&quot; is %1 x %2 pixels; at most %3 a side are read</source>
+        <translation>„bitmap“ hat %1 × %2 Pixel; gelesen werden höchstens %3 je Seite</translation>
+    </message>
+    <message>
+        <source>&quot;bitmap&quot; is no PNG image that can be read (%1)</source>
+        <translation>„bitmap“ ist kein lesbares PNG-Bild (%1)</translation>
+    </message>
+    <message>
+        <source>a drawing&apos;s shape</source>
+        <translation>eine Form einer Zeichnung</translation>
+    </message>
+    <message>
+        <source>&quot;nodes&quot; should hold a colour for each of the %1 nodes</source>
+        <translation>„nodes“ sollte für jeden der %1 Knoten eine Farbe enthalten</translation>
+    </message>
+    <message>
+        <source>&quot;objectBox&quot; should be four numbers</source>
+        <translation>„objectBox“ sollte vier Zahlen sein</translation>
+    </message>
+    <message>
+        <source>fills are nested more than %1 deep</source>
+        <translation>Füllungen sind tiefer als %1 verschachtelt</translation>
+    </message>
+    <message>
+        <source>a fill</source>
+        <translation>eine Füllung</translation>
+    </message>
+    <message>
+        <source>there is no transparency of type %1</source>
+        <translation>es gibt keine Transparenz der Art %1</translation>
+    </message>
+    <message>
+        <source>there is no fill of type %1</source>
+        <translation>es gibt keine Füllung der Art %1</translation>
+    </message>
+    <message>
+        <source>a control point</source>
+        <translation>ein Kontrollpunkt</translation>
+    </message>
+    <message>
+        <source>this kind of fill has %1 control points, not %2</source>
+        <translation>diese Füllungsart hat %1 Kontrollpunkte, nicht %2</translation>
+    </message>
+    <message>
+        <source>at least %1</source>
+        <translation>mindestens %1</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>this kind of fill takes %1 stops, not %2</source>
+        <translation>diese Füllungsart nimmt %1 Verlaufspunkte, nicht %2</translation>
+    </message>
+    <message>
+        <source>a path segment should be [&quot;M&quot;, x, y], [&quot;L&quot;, x, y], [&quot;C&quot;, x1, y1, x2, y2, x, y] or [&quot;Z&quot;]</source>
+        <translation>ein Pfadsegment sollte [&quot;M&quot;, x, y], [&quot;L&quot;, x, y], [&quot;C&quot;, x1, y1, x2, y2, x, y] oder [&quot;Z&quot;] sein</translation>
+    </message>
+    <message>
+        <source>a path point</source>
+        <translation>ein Pfadpunkt</translation>
+    </message>
+    <message>
+        <source>its pictures hold more than %1 pixels</source>
+        <translation>ihre Bilder haben mehr als %1 Pixel</translation>
+    </message>
+    <message>
+        <source>a colour</source>
+        <translation>eine Farbe</translation>
+    </message>
+    <message>
+        <source>&quot;rgb&quot; should be a colour as #rrggbb</source>
+        <translation>„rgb“ sollte eine Farbe als #rrggbb sein</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is missing</source>
+        <translation>„%1“ fehlt</translation>
+    </message>
+    <message>
+        <source>%1 should be an object</source>
+        <translation>%1 sollte ein Objekt sein</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; should be a list</source>
+        <translation>„%1“ sollte eine Liste sein</translation>
+    </message>
+    <message>
+        <source>%1 should be a number from %2 to %3</source>
+        <translation>%1 sollte eine Zahl von %2 bis %3 sein</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; should be a whole number</source>
+        <translation>„%1“ sollte eine ganze Zahl sein</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; should be true or false</source>
+        <translation>„%1“ sollte true oder false sein</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; should be text</source>
+        <translation>„%1“ sollte Text sein</translation>
+    </message>
+</context>
+<context>
     <name>KestoDraw::MainWindow</name>
     <message>
         <source>&amp;File</source>

@@ -2,6 +2,7 @@
 // language.
 #include "DocumentFile.h"
 #include "Instance.h"
+#include "JsonRead.h"
 #include "KestoDrawWindow.h"
 #include "MainWindow.h"
 #include "Palette.h"
@@ -107,6 +108,12 @@ TEST_F(KestoDrawWindow, AGermanLocaleGivesGermanTextsAndAnotherEnglish)
         QString why;
         EXPECT_FALSE(KestoDraw::DocumentFile::Open(folder.filePath("missing.kdraw"), &why));
         EXPECT_EQ(why, "die Datei gibt es nicht");
+        try {
+            KestoDraw::DocumentFile::Read(R"({"format": "kestodraw", "version": 1, "page": [10, 10]})");
+            ADD_FAILURE() << "a drawing without shapes was read";
+        } catch (const KestoDraw::FormatError& error) {
+            EXPECT_EQ(error.Message(), "„shapes“ fehlt");
+        }
         EXPECT_EQ(QApplication::translate("KestoDraw::Canvas", "|Drag| to draw a rectangle."),
                   "|Ziehen|, um ein Rechteck zu zeichnen.");
         EXPECT_EQ(QApplication::translate("QPlatformTheme", "Cancel"), "Abbrechen");
