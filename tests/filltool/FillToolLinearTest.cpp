@@ -207,6 +207,21 @@ TEST_F(LinearTest, EndHandlesSnapOnlyWithoutShift)
     }
 }
 
+// With Shift the start turns about the end and the end about the start: each to the angle step
+// nearest to where the pointer is, seen from the other end, at the pointer's distance.
+TEST_F(LinearTest, ShiftTurnsEachEndAboutTheOther)
+{
+    site.angleStep = 4500;
+    site.angleSnapTolerance = 1000;
+    auto tool = Tool(Line({0, 0}, {1000, 0}));
+    site.Drag(*tool, {0, 0}, {{300, 250}}, DragFlagShift); // 160 degrees from the end: 180, 743 away
+    EXPECT_EQ(Ends(tool->GetFill()), (Ends_t{{257, 0}, {1000, 0}}));
+    site.Drag(*tool, {1000, 0}, {{600, 250}}, DragFlagShift); // 40 degrees from the start: 45
+    const auto [start, end] = Ends(tool->GetFill());
+    EXPECT_EQ(start, CPoint(257, 0));
+    EXPECT_EQ(end.x - start.x, end.y - start.y);
+}
+
 TEST_F(LinearTest, ClicksAndDropsOnTheLineAddStopsOffTheEnds)
 {
     auto tool = Tool(Line({0, 0}, {1000, 0}));

@@ -145,6 +145,20 @@ TEST_F(RoundTest, RadialRimChangesOnlyTheRadiusAndShiftConstrainsItsAngleAboutTh
     EXPECT_EQ(Last(), (P{{100, 100}, {100, 192}}));
 }
 
+// The host's angle constraint is told whether the centre is dragged: for the centre, and not for
+// the rim or a new circle.
+TEST_F(RoundTest, RadialShiftTellsTheHostWhetherTheCentreIsDragged)
+{
+    site.angleStep = 4500;
+    auto tool = Make<FillToolRadial>(Circle({100, 100}, {200, 100}));
+    site.Drag(*tool, {100, 100}, {{120, 130}}, DragFlagShift);
+    site.Drag(*tool, {200, 100}, {{220, 130}}, DragFlagShift);
+    site.create = true;
+    site.Drag(*tool, {500, 500}, {{600, 530}}, DragFlagShift);
+    site.create = false;
+    EXPECT_EQ(site.angleFlags, (std::vector<bool>{true, false, false}));
+}
+
 TEST_F(RoundTest, RadialCreationDrawsFromThePressOrTheCreateCentreAndAMissLeavesNoNode)
 {
     auto tool = Make<FillToolRadial>(Circle({100, 100}, {200, 100}, {5000}));

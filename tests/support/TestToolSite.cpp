@@ -20,8 +20,9 @@ CRect TestToolSite::GetTransformedObjectBBox()
     return r;
 }
 
-void TestToolSite::ConstrainAngle(CPoint origin, CPoint& point, bool)
+void TestToolSite::ConstrainAngle(CPoint origin, CPoint& point, bool flag)
 {
+    angleFlags.push_back(flag);
     point = KestoTool::SiteGeometry::ConstrainToAngleStep(origin, point, angleStep);
 }
 

@@ -29,6 +29,7 @@ public:
     int grid = 0;                    // snap to multiples of this; 0 for no grid
     int angleStep = 0;               // hundredths of a degree; 0 for no angle constraint
     double angleSnapTolerance = 5.0; // screen pixels
+    std::vector<bool> angleFlags;    // the flag of each ConstrainAngle, in order
     bool create = false;
     bool inDrag = false;
     CRect objectBox;
