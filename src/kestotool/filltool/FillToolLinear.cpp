@@ -36,23 +36,11 @@ void FillToolLinear::OnDragStart(CPoint& point, unsigned int flags)
 
 void FillToolLinear::OnDragChange(CPoint& point, unsigned int flags)
 {
-    if (!CheckDragStarted())
+    // Dragging the start with Shift turns the line about its end.
+    const std::optional<LineStep> step = BeginLineStep(point, flags, ToAtPress(), false);
+    if (!step)
         return;
-    const bool shift = (flags & DragFlagShift) != 0;
-    const bool creating = IsCreate();
-    CPoint press = DragOrigin(flags);
-    if (shift) {
-        CPoint anchor = FromAtPress();
-        if (creating) {
-            anchor = press;
-        } else if (IsFirstNode()) {
-            anchor = ToAtPress();
-            press = FromAtPress();
-        } else if (IsLastNode()) {
-            press = ToAtPress();
-        }
-        SnapAnglePoint(anchor, point, false);
-    }
+    const auto [shift, creating, press] = *step;
     if (creating) {
         // A click without a move still makes a line the user can see and grab.
         if (point == press)

@@ -23,23 +23,13 @@ void FillToolRadial::OnDragStart(CPoint& point, unsigned int flags)
 
 void FillToolRadial::OnDragChange(CPoint& point, unsigned int flags)
 {
-    if (!CheckDragStarted())
+    // Dragging the centre with Shift holds it to the angle steps about where it was.
+    const std::optional<LineStep> step = BeginLineStep(point, flags, FromAtPress(), !IsCreate() && IsFirstNode());
+    if (!step)
         return;
-    const bool shift = (flags & DragFlagShift) != 0;
-    const bool creating = IsCreate();
-    CPoint press = DragOrigin(flags);
-    if (shift) {
-        CPoint anchor = FromAtPress();
-        if (creating) {
-            SetCurrentNode(GetNumGradientNodes() - 1);
-            anchor = press;
-        } else if (IsFirstNode()) {
-            press = FromAtPress();
-        } else if (IsLastNode()) {
-            press = ToAtPress();
-        }
-        SnapAnglePoint(anchor, point, IsFirstNode());
-    }
+    const auto [shift, creating, press] = *step;
+    if (creating && shift)
+        SetCurrentNode(GetNumGradientNodes() - 1);
     if (creating) {
         DrawStopLine(press, point, shift);
         return;

@@ -68,6 +68,28 @@ void FillToolStopLine<Fill>::DragStopLineEnd(CPoint press, CPoint point, bool sh
     SetStopLine(m_fromAtPress, to);
 }
 
+template <class Fill>
+auto FillToolStopLine<Fill>::BeginLineStep(CPoint& point, unsigned flags, const CPoint& startAnchor, bool snapFlag)
+    -> std::optional<LineStep>
+{
+    if (!CheckDragStarted())
+        return std::nullopt;
+    LineStep step{(flags & DragFlagShift) != 0, IsCreate(), DragOrigin(flags)};
+    if (step.shift) {
+        CPoint anchor = m_fromAtPress;
+        if (step.creating) {
+            anchor = step.press;
+        } else if (IsFirstNode()) {
+            anchor = startAnchor;
+            step.press = m_fromAtPress;
+        } else if (IsLastNode()) {
+            step.press = m_toAtPress;
+        }
+        SnapAnglePoint(anchor, point, snapFlag);
+    }
+    return step;
+}
+
 template class FillToolStopLine<KestoGDI::CFillLinear>;
 template class FillToolStopLine<KestoGDI::CFillRadial>;
 

@@ -3,6 +3,8 @@
 #include "kestotool/filltool/FillToolGradient.h"
 #include "kestotool/platform/Export.h"
 
+#include <optional>
+
 namespace KestoTool {
 
 // What the linear and radial tools do alike: their fill (of class Fill) carries its stops on
@@ -35,6 +37,18 @@ protected:
     // The line's second point moved from the press by the pointer's move press -> point,
     // snapped unless shift; the first stays.
     void DragStopLineEnd(CPoint press, CPoint point, bool shift);
+
+    // A drag step's start, alike for both tools: whether Shift is held, whether a new line is
+    // drawn, and the press the move counts from (the line's end being dragged, at the press).
+    // With Shift the pointer is held to the angle steps about the line's start at the press, or
+    // the press for a new line, or startAnchor while the start itself is dragged; snapFlag is
+    // SnapAnglePoint's. Nothing before the drag has started.
+    struct LineStep {
+        bool shift;
+        bool creating;
+        CPoint press;
+    };
+    std::optional<LineStep> BeginLineStep(CPoint& point, unsigned flags, const CPoint& startAnchor, bool snapFlag);
 
 private:
     CPoint m_fromAtPress;
