@@ -125,9 +125,11 @@ inline VF Reciprocal(VF v)
 }
 
 // sqrt(v) to 12-14 bits, plenty for a table index (255 steps): v times the reciprocal square
-// root estimate, 0 at 0.
+// root estimate. v is taken as at least the least normal float, so that 0, NaN and denormals give
+// about 1e-19 (index 0) without a compare: never negative; NaN only for an infinite v.
 inline VF SqrtEstimate(VF v)
 {
+    v = Max(v, Splat(__FLT_MIN__));
 #if defined(__AVX512F__)
     const __m512 x = reinterpret_cast<__m512>(v);
     const VF r = reinterpret_cast<VF>(_mm512_mask_rsqrt14_ps(x, 0xFFFF, x));
@@ -138,7 +140,7 @@ inline VF SqrtEstimate(VF v)
     for (int k = 0; k < kLanes; ++k)
         r[k] = 1.0f / __builtin_sqrtf(v[k]);
 #endif
-    return v > 0.0f ? v * r : VF{};
+    return v * r;
 }
 
 inline VF Sqrt(VF v)
