@@ -256,7 +256,7 @@ TEST(Render, LongCornerRowsMatchTheReferenceAcrossTheirEdges)
 
 // Long ramp rows: a linear ramp's blocks inside the ramp, on its pads and where it is too steep
 // for fixed point; a square ramp's blocks between the columns where its largest coordinate
-// changes and across them.
+// changes and across them; round ramps' blocks inside their rims, across them and past them.
 TEST(Render, LongRampRowsMatchTheReferenceInsideAndAcrossTheirPieces)
 {
     const std::vector<RampStop> stops = {{0, C(255, 0, 0, 30)}, {4000, C(0, 200, 50, 128)}, {10000, C(20, 40, 250)}};
@@ -268,6 +268,9 @@ TEST(Render, LongRampRowsMatchTheReferenceInsideAndAcrossTheirPieces)
         {"linear, over 150 pixels", Make(K::Linear, {{600, 0}, {750, 10}}, stops, {})},
         {"square, centred in the rows", Make(K::Square, {{700, 3}, {1000, 60}, {650, -200}}, stops, {})},
         {"square, centred far off", Make(K::Square, {{-900, 400}, {800, 60}, {-1000, -900}}, stops, {})},
+        // Past their rims on both sides of the rows: those blocks read the last entry alone.
+        {"radial, rim across the rows", Make(K::Radial, {{700, 3}, {1000, 3}}, stops, {})},
+        {"elliptical, rim across the rows", Make(K::Elliptical, {{700, 3}, {1100, 40}, {690, -150}}, stops, {})},
     };
     for (std::size_t k = 0, n = paints.size(); k < n; ++k) {
         paints.push_back(paints[k]);
@@ -277,6 +280,34 @@ TEST(Render, LongRampRowsMatchTheReferenceInsideAndAcrossTheirPieces)
         for (const auto& [name, paint] : paints)
             for (const Affine& placed : {Affine{}, Affine{0.95, 0.31, -0.31, 0.95, 20, -15}})
                 ExpectLongRowsRight(name, paint, placed, isa);
+    });
+}
+
+// Blocks past a round ramp's rim are written with its last entry without computing their pixels:
+// never a pixel the kernel would have given another entry. The last entry alone is white here
+// (index 255 from t = 0.99804), so a pixel inside that by more than the square root estimate's
+// error must be black and one past it white, on every set, at the pixel centres. The rim sweeps
+// across the start of the block at column 1024 in quarter pixels.
+TEST(Render, OnlyPixelsPastTheRimTakeTheLastEntry)
+{
+    constexpr int wide = 1400, rows = 4;
+    const double radius = 300;
+    OnEveryIsa([&](Isa isa) {
+        for (double shift = -2; shift <= 2; shift += 0.25) {
+            const Point centre{724 + shift, 2};
+            const Paint paint = Make(Paint::Kind::Radial, {centre, {centre.x + radius, centre.y}},
+                                     {{0, C(0, 0, 0)}, {9970, C(0, 0, 0)}, {10000, C(255, 255, 255)}}, {});
+            Image image(Output::Argb32, 0, wide, rows);
+            Render(PreparedPaint(paint, Affine{}, Output::Argb32), image.Of(), {0, 0, wide, rows});
+            for (int y = 0; y < rows; ++y)
+                for (int x = 0; x < wide; ++x) {
+                    const double t = std::hypot(x + 0.5 - centre.x, y + 0.5 - centre.y) / radius;
+                    if (t < 0.9975 || t > 0.9986) {
+                        ASSERT_EQ(image.At(x, y) & 0xFFFFFF, t < 0.998 ? 0u : 0xFFFFFFu)
+                            << x << ", " << y << " centre " << centre.x << " " << IsaName(isa);
+                    }
+                }
+        }
     });
 }
 
