@@ -356,6 +356,18 @@ public:
             if (__builtin_expect(_mm256_testz_si256(in, _mm256_set1_epi32(~7)), 1))
                 return reinterpret_cast<VU>(_mm256_permutevar8x32_epi32(kept->entries, in));
         }
+        // Within 4 entries below and 3 above the first (a ramp that moves at most 3 entries a
+        // vector either way): the window of 8 around it, with the offsets taken inside the vector
+        // unit; only the window's address leaves it.
+        const __m256i offsets = _mm256_add_epi32(
+            _mm256_sub_epi32(v, _mm256_broadcastd_epi32(_mm256_castsi256_si128(v))), _mm256_set1_epi32(4));
+        if (__builtin_expect(_mm256_testz_si256(offsets, _mm256_set1_epi32(~7)), 1)) {
+            const int from = _mm256_cvtsi256_si32(v) - 4;
+            const __m256i entries = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(m_padded + 8 + from));
+            if (kept)
+                *kept = {entries, _mm256_set1_epi32(from)};
+            return reinterpret_cast<VU>(_mm256_permutevar8x32_epi32(entries, offsets));
+        }
         // Within 7 entries above the lower of the ends (a gentle ramp, whose indices along a
         // vector rise or fall): the window of 8 from there, kept for the next vector.
         const int least = i[0] < i[kLanes - 1] ? i[0] : i[kLanes - 1];
