@@ -532,6 +532,22 @@ inline void GatherPairs(const void* __restrict base, VI index, VU& first, VU& se
         p0, _mm512_setr_epi32(0, 2, 4, 6, 8, 10, 12, 14, 16, 18, 20, 22, 24, 26, 28, 30), p1));
     second = reinterpret_cast<VU>(_mm512_permutex2var_epi32(
         p0, _mm512_setr_epi32(1, 3, 5, 7, 9, 11, 13, 15, 17, 19, 21, 23, 25, 27, 29, 31), p1));
+#elif defined(__AVX2__)
+    const auto pair = [&](int k) {
+        std::int64_t bits;
+        __builtin_memcpy(&bits, static_cast<const char*>(base) + 4 * static_cast<std::ptrdiff_t>(index[k]),
+                         sizeof bits);
+        return bits;
+    };
+    // Lanes 0, 1, 4, 5 in one register and 2, 3, 6, 7 in the other: one shuffle then takes each
+    // register's first (second) words back in lane order, where splitting eight lanes in order
+    // took twelve shuffles.
+    const __m256i a = _mm256_setr_epi64x(pair(0), pair(1), pair(4), pair(5));
+    const __m256i b = _mm256_setr_epi64x(pair(2), pair(3), pair(6), pair(7));
+    first = reinterpret_cast<VU>(
+        _mm256_shuffle_ps(_mm256_castsi256_ps(a), _mm256_castsi256_ps(b), _MM_SHUFFLE(2, 0, 2, 0)));
+    second = reinterpret_cast<VU>(
+        _mm256_shuffle_ps(_mm256_castsi256_ps(a), _mm256_castsi256_ps(b), _MM_SHUFFLE(3, 1, 3, 1)));
 #else
     VU64 pairs{};
     for (int k = 0; k < kLanes; ++k) {
