@@ -182,7 +182,7 @@ inline VU Gather(const T* __restrict base, VI index)
     {
         VU r{};
         for (int k = 0; k < kLanes; ++k)
-            r[k] = static_cast<std::uint32_t>(base[index[k]]);
+            r[k] = static_cast<std::uint32_t>(base[std::uint32_t(index[k])]); // never negative: widened for free
         return r;
     }
 }
@@ -535,8 +535,8 @@ inline void GatherPairs(const void* __restrict base, VI index, VU& first, VU& se
 #elif defined(__AVX2__)
     const auto pair = [&](int k) {
         std::int64_t bits;
-        __builtin_memcpy(&bits, static_cast<const char*>(base) + 4 * static_cast<std::ptrdiff_t>(index[k]),
-                         sizeof bits);
+        // Indices are never negative: unsigned, they widen to an address for free.
+        __builtin_memcpy(&bits, static_cast<const char*>(base) + 4 * std::size_t(std::uint32_t(index[k])), sizeof bits);
         return bits;
     };
     // Lanes 0, 1, 4, 5 in one register and 2, 3, 6, 7 in the other: one shuffle then takes each
