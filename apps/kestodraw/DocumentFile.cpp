@@ -94,8 +94,8 @@ Shape ReadShape(const QJsonValue& value, FillJson::Pictures& pictures)
     else if (kind == "curves")
         shape.kind = Shape::Kind::Curves;
     else
-        throw FormatError(
-            FormatError::tr("a shape's kind should be rectangle, ellipse, path or curves, not \"%1\"").arg(Excerpt(kind)));
+        throw FormatError(FormatError::tr("a shape's kind should be rectangle, ellipse, path or curves, not \"%1\"")
+                              .arg(Excerpt(kind)));
     const QJsonArray box = Array(in, "box");
     if (box.size() != 4)
         throw FormatError(FormatError::tr("\"box\" should be four numbers: left, top, right, bottom"));
@@ -110,7 +110,8 @@ Shape ReadShape(const QJsonValue& value, FillJson::Pictures& pictures)
             const QJsonArray xy = p.toArray();
             if (xy.size() != 2)
                 throw FormatError(FormatError::tr("a path corner should be [x, y]"));
-            shape.points.emplace_back(Coordinate(xy[0], FormatError::tr("a path corner")), Coordinate(xy[1], FormatError::tr("a path corner")));
+            shape.points.emplace_back(Coordinate(xy[0], FormatError::tr("a path corner")),
+                                      Coordinate(xy[1], FormatError::tr("a path corner")));
         }
         // A path's box is its corners' bounds, whatever the file says (the file format keeps it
         // for readers that only want the bounds).
@@ -158,16 +159,14 @@ Document DocumentFile::Read(const QByteArray& bytes)
     QJsonParseError parse{};
     const QJsonDocument json = QJsonDocument::fromJson(bytes, &parse);
     if (parse.error != QJsonParseError::NoError)
-        throw FormatError(
-            tr("it is not a JSON document (%1 at byte %2)").arg(parse.errorString()).arg(parse.offset));
+        throw FormatError(tr("it is not a JSON document (%1 at byte %2)").arg(parse.errorString()).arg(parse.offset));
     if (!json.isObject() || json.object().value("format").toString() != "kestodraw")
         throw FormatError(tr("it is not a kestodraw drawing"));
     const QJsonObject root = json.object();
     const int version = Int(root, "version", 0, 1 << 30);
     if (version > Version)
-        throw FormatError(tr("it was saved by a newer kestodraw (format version %1; this one reads %2)")
-                              .arg(version)
-                              .arg(Version));
+        throw FormatError(
+            tr("it was saved by a newer kestodraw (format version %1; this one reads %2)").arg(version).arg(Version));
     Document document;
     const QJsonArray page = Array(root, "page");
     if (page.size() != 2)

@@ -120,7 +120,8 @@ RefPtr<const CLtBitmap> ReadBitmap(const QString& base64)
                               .arg(kMaxBitmapSide));
     const QImage image = reader.read().convertToFormat(QImage::Format_ARGB32);
     if (image.isNull())
-        throw FormatError(FormatError::tr("\"bitmap\" is no PNG image that can be read (%1)").arg(reader.errorString()));
+        throw FormatError(
+            FormatError::tr("\"bitmap\" is no PNG image that can be read (%1)").arg(reader.errorString()));
     RefPtr<CLtBitmap> bitmap(new CLtBitmap(image.width(), image.height()));
     for (int y = 0; y < image.height(); ++y)
         std::memcpy(bitmap->GetBits() + static_cast<std::size_t>(y) * bitmap->GetWidth(), image.constScanLine(y),
@@ -383,10 +384,11 @@ KestoRaster::Path FillJson::ReadPath(const QJsonArray& in)
         const qsizetype numbers = verb == "M" || verb == "L" ? 2 : verb == "C" ? 6 : verb == "Z" ? 0 : -1;
         if (numbers < 0 || segment.size() != numbers + 1)
             throw FormatError(FormatError::tr("a path segment should be [\"M\", x, y], [\"L\", x, y], "
-                                             "[\"C\", x1, y1, x2, y2, x, y] or [\"Z\"]"));
+                                              "[\"C\", x1, y1, x2, y2, x, y] or [\"Z\"]"));
         std::array<KestoRaster::Point, 3> p{};
         for (qsizetype i = 0; i < numbers; ++i)
-            (i % 2 ? p[i / 2].y : p[i / 2].x) = Number(segment[i + 1], FormatError::tr("a path point"), -kLimit, kLimit);
+            (i % 2 ? p[i / 2].y : p[i / 2].x) =
+                Number(segment[i + 1], FormatError::tr("a path point"), -kLimit, kLimit);
         if (verb == "M")
             path.MoveTo(p[0]);
         else if (verb == "L")

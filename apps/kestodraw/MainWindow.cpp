@@ -4,8 +4,8 @@
 #include "ExportOptionsDialog.h"
 #include "KindIcon.h"
 #include "Palette.h"
-#include "SvgMessages.h"
 #include "PreferencesDialog.h"
+#include "SvgMessages.h"
 
 #include <kestotool/exchange/PdfWriter.h>
 #include <kestotool/exchange/SvgReader.h>

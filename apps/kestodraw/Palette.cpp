@@ -10,8 +10,8 @@
 #include <QApplication>
 #include <QDrag>
 #include <QHelpEvent>
-#include <QLocale>
 #include <QJsonDocument>
+#include <QLocale>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
@@ -33,16 +33,16 @@ Palette::Palette(QWidget* parent) : QWidget(parent)
         int r, g, b;
         const char* name;
     } colours[] = {
-        {0, 0, 0, QT_TR_NOOP("Black")},         {255, 255, 255, QT_TR_NOOP("White")},
-        {200, 30, 40, QT_TR_NOOP("Red")},       {245, 130, 30, QT_TR_NOOP("Orange")},
-        {250, 215, 40, QT_TR_NOOP("Yellow")},   {60, 170, 70, QT_TR_NOOP("Green")},
-        {30, 160, 170, QT_TR_NOOP("Teal")},     {40, 90, 200, QT_TR_NOOP("Blue")},
-        {110, 60, 170, QT_TR_NOOP("Violet")},   {220, 80, 160, QT_TR_NOOP("Pink")},
-        {130, 85, 50, QT_TR_NOOP("Brown")},     {128, 128, 128, QT_TR_NOOP("Grey")},
+        {0, 0, 0, QT_TR_NOOP("Black")},       {255, 255, 255, QT_TR_NOOP("White")},
+        {200, 30, 40, QT_TR_NOOP("Red")},     {245, 130, 30, QT_TR_NOOP("Orange")},
+        {250, 215, 40, QT_TR_NOOP("Yellow")}, {60, 170, 70, QT_TR_NOOP("Green")},
+        {30, 160, 170, QT_TR_NOOP("Teal")},   {40, 90, 200, QT_TR_NOOP("Blue")},
+        {110, 60, 170, QT_TR_NOOP("Violet")}, {220, 80, 160, QT_TR_NOOP("Pink")},
+        {130, 85, 50, QT_TR_NOOP("Brown")},   {128, 128, 128, QT_TR_NOOP("Grey")},
     };
     for (const auto& c : colours)
-        m_swatches.push_back(
-            std::make_unique<KestoGDI::CRGBColour>(KestoPlatform::RGB(c.r, c.g, c.b), tr(c.name).toStdWString().c_str()));
+        m_swatches.push_back(std::make_unique<KestoGDI::CRGBColour>(KestoPlatform::RGB(c.r, c.g, c.b),
+                                                                    tr(c.name).toStdWString().c_str()));
     // Transparency levels, opaque to clear.
     for (const int level : {0, 64, 128, 192, 255})
         m_swatches.push_back(std::make_unique<KestoGDI::CMonoColour>(level));

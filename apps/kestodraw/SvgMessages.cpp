@@ -43,20 +43,8 @@ namespace {
 
 QString SvgMessageText(const KestoTool::SvgReader::Message& message)
 {
-    const QString pattern =
-        QCoreApplication::translate("KestoTool::SvgReader", std::string(message.pattern).c_str());
-    // One pass, so that an argument quoting the file ("%2" in a transform) is not filled in again.
-    QString text;
-    for (qsizetype i = 0; i < pattern.size(); ++i) {
-        const qsizetype n = i + 1 < pattern.size() ? pattern[i + 1].digitValue() - 1 : -1;
-        if (pattern[i] == u'%' && n >= 0 && n < static_cast<qsizetype>(message.arguments.size())) {
-            text += QString::fromStdString(message.arguments[static_cast<std::size_t>(n)]);
-            ++i;
-        } else {
-            text += pattern[i];
-        }
-    }
-    return text;
+    const QString pattern = QCoreApplication::translate("KestoTool::SvgReader", std::string(message.pattern).c_str());
+    return QString::fromStdString(message.Text(pattern.toStdString()));
 }
 
 } // namespace KestoDraw

@@ -72,13 +72,20 @@ constexpr std::string_view kClipPath = "clip-path (the clipped shapes are read w
 } // namespace Says
 
 constexpr std::array kPatterns{
-    Says::kTooLarge,     Says::kNotXml,         Says::kEntities,     Says::kNotSvg,
-    Says::kPageSize,     Says::kShapes,         Says::kPathSegments, Says::kFileSegments,
-    Says::kMore,         Says::kAttribute,      Says::kStops,        Says::kViewBox,
-    Says::kStopCount,    Says::kDepth,          Says::kElement,      Says::kTransform,
-    Says::kStroke,       Says::kFilter,         Says::kEvenOdd,      Says::kMasks,
-    Says::kOutOfRange,   Says::kPaintElement,   Says::kPaintReference, Says::kFill,
-    Says::kSpread,       Says::kGradientTransform, Says::kFocalPoint, Says::kClipPath,
+    Says::kTooLarge,       Says::kNotXml,
+    Says::kEntities,       Says::kNotSvg,
+    Says::kPageSize,       Says::kShapes,
+    Says::kPathSegments,   Says::kFileSegments,
+    Says::kMore,           Says::kAttribute,
+    Says::kStops,          Says::kViewBox,
+    Says::kStopCount,      Says::kDepth,
+    Says::kElement,        Says::kTransform,
+    Says::kStroke,         Says::kFilter,
+    Says::kEvenOdd,        Says::kMasks,
+    Says::kOutOfRange,     Says::kPaintElement,
+    Says::kPaintReference, Says::kFill,
+    Says::kSpread,         Says::kGradientTransform,
+    Says::kFocalPoint,     Says::kClipPath,
 };
 
 // Why a file is refused.
@@ -148,7 +155,8 @@ private:
         if (m_drawing.skipped.size() > kMaxSkipped ||
             std::find(m_drawing.skipped.begin(), m_drawing.skipped.end(), what) != m_drawing.skipped.end())
             return;
-        m_drawing.skipped.push_back(m_drawing.skipped.size() == kMaxSkipped ? Message{Says::kMore, {}} : std::move(what));
+        m_drawing.skipped.push_back(m_drawing.skipped.size() == kMaxSkipped ? Message{Says::kMore, {}}
+                                                                            : std::move(what));
     }
 
     std::optional<std::string_view> Property(const pugi::xml_node& node, const char* name) const
@@ -550,7 +558,8 @@ std::optional<Read> Reader::Painted(const Context& context, const Path& outline)
             read.paint = Gradient(paint, context, outline, alpha, read.axisEnd);
             return read.paint ? std::optional(std::move(read)) : std::nullopt;
         }
-        Skip(paint ? Message{Says::kPaintElement, {Quoted(kind, 40)}} : Message{Says::kPaintReference, {Quoted(*id, 40)}});
+        Skip(paint ? Message{Says::kPaintElement, {Quoted(kind, 40)}}
+                   : Message{Says::kPaintReference, {Quoted(*id, 40)}});
         fill = fill.substr(std::min(fill.find(')') + 1, fill.size())); // the fallback colour, if any
     }
     if (fill.find_first_not_of(" \t\n\r") == std::string_view::npos || fill == "none")
@@ -765,12 +774,12 @@ SvgReader::Result SvgReader::Read(std::string_view text, const Limits& limits)
     return result;
 }
 
-std::string SvgReader::Message::Text() const
+std::string SvgReader::Message::Text(std::string_view into) const
 {
     std::string text;
-    for (std::size_t i = 0; i < pattern.size(); ++i) {
-        const char c = pattern[i];
-        const std::size_t n = i + 1 < pattern.size() ? static_cast<std::size_t>(pattern[i + 1] - '1') : arguments.size();
+    for (std::size_t i = 0; i < into.size(); ++i) {
+        const char c = into[i];
+        const std::size_t n = i + 1 < into.size() ? static_cast<std::size_t>(into[i + 1] - '1') : arguments.size();
         if (c == '%' && n < arguments.size()) {
             text += arguments[n];
             ++i;

@@ -47,7 +47,10 @@ public:
         std::string_view pattern;
         std::vector<std::string> arguments;
 
-        std::string Text() const;
+        std::string Text() const { return Text(pattern); }
+        // The message with its arguments put into another pattern of the same places (a
+        // translation of pattern, UTF-8), in one pass: an argument that quotes "%2" stays as it is.
+        std::string Text(std::string_view into) const;
         bool operator==(const Message&) const = default;
     };
     static std::span<const std::string_view> Patterns();

@@ -126,7 +126,8 @@ void ToolSession::ChangeKind(const KestoPlatform::CRuntimeClass* kind)
         // A step of its own, also when it comes during a drag, named as the type box is.
         m_gesture.Cancel();
         if (fresh->IsTransparency())
-            m_site.UpdateTransparency(fresh.get(), Module::Get().LoadDialogText(L"Transparency Type").GetString(), false);
+            m_site.UpdateTransparency(fresh.get(), Module::Get().LoadDialogText(L"Transparency Type").GetString(),
+                                      false);
         else
             m_site.UpdateFill(fresh.get(), Module::Get().LoadDialogText(L"Fill Type").GetString());
     });

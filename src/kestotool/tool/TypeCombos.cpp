@@ -1,8 +1,8 @@
 #include "kestotool/tool/TypeCombos.h"
 
 #include "kestotool/gdi/FillKinds.h"
-#include "kestotool/platform/CXTPControlComboBox.h"
 #include "kestotool/kernel/VerifyReporter.h"
+#include "kestotool/platform/CXTPControlComboBox.h"
 #include "kestotool/tool/IToolHelper.h"
 #include "kestotool/tool/Module.h"
 
