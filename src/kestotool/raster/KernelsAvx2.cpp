@@ -11,7 +11,9 @@ namespace KestoRaster::Kernels {
 
 const KernelSet& Avx2()
 {
-    return KernelSetWith<Avx2Paths>;
+    static constexpr KernelSet set{&RampRowKernel<Avx2Paths>, &ThreeColourRowKernel<Avx2Paths>, &Avx2Plasma,
+                                   &Avx2FourColour, &Avx2Bitmap};
+    return set;
 }
 
 } // namespace KestoRaster::Kernels

@@ -168,6 +168,42 @@ inline VF ToFloat(VI v)
     return __builtin_convertvector(v, VF);
 }
 
+// Lane k of an index vector (never negative) as a general register's value. With AVX2 lanes
+// leave two at a time, by 64-bit moves split by a shift: extracting a 32-bit lane takes two
+// micro-ops on AMD's cores, and GCC extracts lane by lane.
+class LaneIndices {
+public:
+    explicit LaneIndices(VI index)
+    {
+#if defined(__AVX2__) && !defined(__AVX512F__)
+        const __m256i i = reinterpret_cast<__m256i>(index);
+        const __m128i low = _mm256_castsi256_si128(i), high = _mm256_extracti128_si256(i, 1);
+        m_pairs[0] = static_cast<std::uint64_t>(_mm_cvtsi128_si64(low));
+        m_pairs[1] = static_cast<std::uint64_t>(_mm_extract_epi64(low, 1));
+        m_pairs[2] = static_cast<std::uint64_t>(_mm_cvtsi128_si64(high));
+        m_pairs[3] = static_cast<std::uint64_t>(_mm_extract_epi64(high, 1));
+#else
+        m_index = index;
+#endif
+    }
+
+    std::size_t operator[](int k) const
+    {
+#if defined(__AVX2__) && !defined(__AVX512F__)
+        return k % 2 ? m_pairs[k / 2] >> 32 : static_cast<std::uint32_t>(m_pairs[k / 2]);
+#else
+        return std::uint32_t(m_index[k]);
+#endif
+    }
+
+private:
+#if defined(__AVX2__) && !defined(__AVX512F__)
+    std::uint64_t m_pairs[4];
+#else
+    VI m_index;
+#endif
+};
+
 // The values at base[index] of each lane. With AVX-512 words come by the gather instruction,
 // which beats assembling a vector from sixteen loads.
 template <class T>
@@ -180,9 +216,10 @@ inline VU Gather(const T* __restrict base, VI index)
     else
 #endif
     {
+        const LaneIndices at(index);
         VU r{};
         for (int k = 0; k < kLanes; ++k)
-            r[k] = static_cast<std::uint32_t>(base[std::uint32_t(index[k])]); // never negative: widened for free
+            r[k] = static_cast<std::uint32_t>(base[at[k]]);
         return r;
     }
 }
@@ -393,7 +430,9 @@ public:
 #endif
 
     // A whole block's mask values from its vectors of indices. With AVX-512 the block's 64
-    // indices are packed into one register of bytes and looked up together.
+    // indices are packed into one register of bytes and looked up together; with AVX2 the words
+    // of two vectors are packed into 16 bytes and stored at once (assembled from byte loads in
+    // general registers, as GCC writes the lane-by-lane form, they took a tenth longer).
     void StoreBytes(const VI (&i)[kBlock / kLanes], std::uint8_t* __restrict block) const
     {
         static_assert(R == Reads::Bytes);
@@ -403,6 +442,16 @@ public:
         const __m512i ordered = _mm512_mask_permutexvar_epi32(
             b, 0xFFFF, _mm512_setr_epi32(0, 4, 8, 12, 1, 5, 9, 13, 2, 6, 10, 14, 3, 7, 11, 15), b);
         _mm512_storeu_si512(block, Plane(0, ordered, _mm512_movepi8_mask(ordered)));
+#elif defined(__AVX2__)
+        for (int k = 0; k < kBlock / kLanes; k += 2) {
+            const __m256i a = reinterpret_cast<__m256i>(Gather(m_table, i[k]));
+            const __m256i b = reinterpret_cast<__m256i>(Gather(m_table, i[k + 1]));
+            // The packs leave a's lanes 0..3, b's 0..3 in the low half, the lanes 4..7 in the high.
+            const __m256i w = _mm256_packus_epi32(a, b);
+            const __m256i bytes =
+                _mm256_permutevar8x32_epi32(_mm256_packus_epi16(w, w), _mm256_setr_epi32(0, 4, 1, 5, 0, 4, 1, 5));
+            _mm_storeu_si128(reinterpret_cast<__m128i*>(block + k * kLanes), _mm256_castsi256_si128(bytes));
+        }
 #else
         for (int k = 0; k < kBlock / kLanes; ++k)
             StoreLanes(Bytes(i[k]), k * kLanes, 0, kBlock, block);
@@ -533,10 +582,10 @@ inline void GatherPairs(const void* __restrict base, VI index, VU& first, VU& se
     second = reinterpret_cast<VU>(_mm512_permutex2var_epi32(
         p0, _mm512_setr_epi32(1, 3, 5, 7, 9, 11, 13, 15, 17, 19, 21, 23, 25, 27, 29, 31), p1));
 #elif defined(__AVX2__)
+    const LaneIndices at(index);
     const auto pair = [&](int k) {
         std::int64_t bits;
-        // Indices are never negative: unsigned, they widen to an address for free.
-        __builtin_memcpy(&bits, static_cast<const char*>(base) + 4 * std::size_t(std::uint32_t(index[k])), sizeof bits);
+        __builtin_memcpy(&bits, static_cast<const char*>(base) + 4 * at[k], sizeof bits);
         return bits;
     };
     // Lanes 0, 1, 4, 5 in one register and 2, 3, 6, 7 in the other: one shuffle then takes each

@@ -107,6 +107,10 @@ struct KernelSet {
 
 const KernelSet& Scalar();
 const KernelSet& Avx2();   // x86 builds only
+// The AVX2 set's plasma, four-colour and bitmap kernels (KernelsAvx2Interleaved.cpp).
+void Avx2Plasma(const PlasmaRow& row);
+void Avx2FourColour(const QuadRow& row);
+void Avx2Bitmap(const BitmapRow& row);
 const KernelSet& Avx512(); // x86 builds only
 const KernelSet& Active();
 
