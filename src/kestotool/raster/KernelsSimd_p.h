@@ -3,9 +3,9 @@
 // The instruction-set primitives of the row kernels: the vector types, the arithmetic that has
 // an instruction of its own on some sets, gathers, narrowing stores and the table lookup. This
 // is the only file that asks which instruction set it is compiled for; each kernel translation
-// unit (KernelsScalar.cpp, KernelsAvx2.cpp, KernelsAvx512.cpp) includes it with its own flags,
-// and everything here has internal linkage, so no copy compiled for a wider set can stand in
-// for another unit's.
+// unit (KernelsScalar.cpp, KernelsAvx2.cpp and KernelsAvx2Interleaved.cpp, KernelsAvx512.cpp)
+// includes it with its own flags, and everything here has internal linkage, so no copy compiled
+// for a wider set can stand in for another unit's.
 #include <array>
 #include <cstddef>
 #include <cstdint>
