@@ -1,10 +1,10 @@
 #pragma once
 
-// The per-ISA row kernels. Each kernel translation unit (KernelsScalar.cpp, KernelsAvx2.cpp and
-// KernelsAvx2Interleaved.cpp, KernelsAvx512.cpp) compiles the primitives (KernelsSimd_p.h) and the rows
-// (KernelsRows.inc) with its own instruction-set flags inside an unnamed namespace; nothing else is shared with it, so
-// no inline function compiled for a wider instruction set can stand in for another unit's copy. Only x86 builds have
-// the AVX units.
+// The per-ISA row kernels. Each kernel translation unit (KernelsScalar.cpp, KernelsAvx2.cpp
+// and KernelsAvx2Interleaved.cpp, KernelsAvx512.cpp) compiles the primitives (KernelsSimd_p.h)
+// and the rows (KernelsRows.inc) with its own instruction-set flags inside an unnamed namespace;
+// nothing else is shared with it, so no inline function compiled for a wider instruction set
+// can stand in for another unit's copy. Only x86 builds have the AVX units.
 #include "kestotool/raster/Isa.h"
 
 #include <cstdint>
