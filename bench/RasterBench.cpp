@@ -8,6 +8,7 @@
 // noisy machine. Then 3840 x 2160 frames in bands on 1, 2 and every thread (ratio to one
 // thread), and 7680 x 4320 frames beside a memset of theirs.
 #include "kestotool/raster/Bands.h"
+#include "kestotool/raster/Isa.h"
 #include "kestotool/raster/PreparedPaint.h"
 
 #include <benchmark/benchmark.h>
@@ -298,6 +299,8 @@ int main(int argc, char** argv)
             against.emplace_back(name, "memset-8k");
         }
 
+    // Which kernels ran: KESTO_RASTER_ISA names a set, but one the processor lacks gives the best.
+    benchmark::AddCustomContext("kernels", KestoRaster::IsaName(KestoRaster::ActiveIsa()));
     benchmark::Initialize(&argc, argv);
     RatioReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
